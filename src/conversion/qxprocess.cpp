@@ -1,0 +1,44 @@
+#include "qxprocess.h"
+
+#include <csignal>
+#include <sys/prctl.h>
+#include <unistd.h>
+
+QxProcess::QxProcess(QObject *parent)
+    : QProcess(parent)
+{
+    setChildProcessModifier([] {
+        ::setpgid(0, 0);
+        // An encoder must not outlive the program that watches it.
+        ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+    });
+    connect(this, &QProcess::stateChanged, this, [this](QProcess::ProcessState newState) {
+        if (newState == QProcess::NotRunning)
+            suspended = false;
+    });
+}
+
+bool QxProcess::signalGroup(int signalNumber)
+{
+    const qint64 pid = processId();
+    if (pid <= 0)
+        return false;
+    if (::kill(-static_cast<pid_t>(pid), signalNumber) == 0)
+        return true;
+    // The group may not exist yet if the child has not run its modifier.
+    return ::kill(static_cast<pid_t>(pid), signalNumber) == 0;
+}
+
+bool QxProcess::setSuspended(bool suspend)
+{
+    const bool ok = signalGroup(suspend ? SIGSTOP : SIGCONT);
+    if (ok)
+        suspended = suspend;
+    return ok;
+}
+
+void QxProcess::killGroup()
+{
+    signalGroup(SIGKILL);
+    kill();
+}

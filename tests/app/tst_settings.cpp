@@ -1,0 +1,162 @@
+#include "settings.h"
+#include "utils.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <cstdio>
+
+// The store is process-wide, so each test process gets a fresh home first.
+class TestSettings : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit TestSettings(const QString &home)
+        : home(home)
+    {}
+
+private slots:
+    void freshUserGetsDefaults();
+    void readingStoresNothing();
+    void storeLivesInUserConfigFolder();
+    void valuesSurviveNewProcess();
+    void badValueReadsAsNull();
+    void defaultFoldersFallBack();
+
+private:
+    QString runHelper(const QStringList &arguments);
+    QString home;
+};
+
+void TestSettings::freshUserGetsDefaults()
+{
+    QCOMPARE(Setting::processCount(), 1);
+    QCOMPARE(Setting::outputLog(), 0);
+    QCOMPARE(Setting::threadCount(), Utils::processorCount());
+    QVERIFY(Setting::threadCount() >= 1);
+    QCOMPARE(Setting::cpuUsage(), QStringLiteral("100%"));
+    QCOMPARE(Setting::outputDir(), home + QStringLiteral("/Documents/Tessarine Kestrove"));
+    QCOMPARE(Setting::snapshotDir(), home + QStringLiteral("/Pictures/Tessarine Kestrove"));
+    QCOMPARE(Setting::inputDir(), home + QStringLiteral("/Videos"));
+    QCOMPARE(Setting::soundDir(), home + QStringLiteral("/Music"));
+    QCOMPARE(Setting::enableCuda(), true);
+    QCOMPARE(Setting::imageType(), QStringLiteral("JPG"));
+    QCOMPARE(Setting::uiLanguage(), QString());
+    QCOMPARE(Setting::dvdDir(), QStringLiteral("/"));
+    QCOMPARE(Setting::ifoFileDir(), QStringLiteral("/"));
+    QCOMPARE(Setting::proxyType(), 2);
+    QCOMPARE(Setting::proxySocksPort(), 1080);
+    QCOMPARE(Setting::profileIndex(QStringLiteral("1,68")), QStringLiteral("1,68"));
+    QCOMPARE(userDataDir(), home + QStringLiteral("/.local/share/Tessarine Kestrove"));
+    QCOMPARE(userProfilesDir(), userDataDir() + QStringLiteral("/Profiles"));
+    // Nothing here creates folders.
+    QVERIFY(!QDir(Setting::outputDir()).exists());
+    QVERIFY(!QDir(userProfilesDir()).exists());
+}
+
+void TestSettings::readingStoresNothing()
+{
+    Setting::outputDir();
+    Setting::threadCount();
+    syncSettings();
+    QFile file(settingsFilePath());
+    if (file.open(QIODevice::ReadOnly)) {
+        const QByteArray contents = file.readAll();
+        QVERIFY2(!contents.contains("OutputDir"), contents.constData());
+        QVERIFY2(!contents.contains("ThreadCount"), contents.constData());
+    }
+}
+
+void TestSettings::storeLivesInUserConfigFolder()
+{
+    setSettingInt(QStringLiteral("SkinIndex"), 1);
+    syncSettings();
+    const QString expected = home + QStringLiteral("/.config/Tessarine/Kestrove.conf");
+    QCOMPARE(settingsFilePath(), expected);
+    QFile file(expected);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray contents = file.readAll();
+    QVERIFY2(contents.contains("[Setting]"), contents.constData());
+    QVERIFY2(contents.contains("SkinIndex=1"), contents.constData());
+}
+
+QString TestSettings::runHelper(const QStringList &arguments)
+{
+    QProcess helper;
+    helper.start(QCoreApplication::applicationFilePath(),
+                 QStringList{QStringLiteral("--helper")} + arguments);
+    if (!helper.waitForFinished(20000) || helper.exitCode() != 0)
+        return QStringLiteral("<helper failed: %1>")
+            .arg(QString::fromLocal8Bit(helper.readAllStandardError()));
+    return QString::fromUtf8(helper.readAllStandardOutput()).trimmed();
+}
+
+void TestSettings::valuesSurviveNewProcess()
+{
+    const QString folder = QStringLiteral("/tmp/out put/Vidéos ünï");
+    QCOMPARE(runHelper({QStringLiteral("write"), folder}), QStringLiteral("written"));
+    QCOMPARE(runHelper({QStringLiteral("read")}), QStringLiteral("3|%1|false").arg(folder));
+}
+
+void TestSettings::badValueReadsAsNull()
+{
+    setSettingString(QStringLiteral("ProcessCount"), QStringLiteral("two"));
+    QCOMPARE(Setting::processCount(), 0);
+    setSettingInt(QStringLiteral("ProcessCount"), 4);
+    QCOMPARE(Setting::processCount(), 4);
+    QCOMPARE(settingString(QStringLiteral("ProcessCount")), QStringLiteral("4"));
+}
+
+void TestSettings::defaultFoldersFallBack()
+{
+    // Documents moved by the user's own folder configuration.
+    QDir().mkpath(home + QStringLiteral("/.config"));
+    QFile dirs(home + QStringLiteral("/.config/user-dirs.dirs"));
+    QVERIFY(dirs.open(QIODevice::WriteOnly));
+    dirs.write("XDG_DOCUMENTS_DIR=\"$HOME/Docs\"\n");
+    dirs.close();
+    QCOMPARE(defaultOutputDir(), home + QStringLiteral("/Docs/Tessarine Kestrove"));
+    dirs.remove();
+}
+
+static int helperMain(const QStringList &arguments)
+{
+    if (arguments.value(0) == QLatin1String("write")) {
+        setSettingInt(QStringLiteral("ProcessCount"), 3);
+        setSettingString(QStringLiteral("OutputDir"), arguments.value(1));
+        setSettingBool(QStringLiteral("EnableCuda"), false);
+        std::puts("written");
+        return 0; // no explicit sync: the store must flush on its own at exit
+    }
+    const QString line
+        = QStringLiteral("%1|%2|%3")
+              .arg(Setting::processCount())
+              .arg(Setting::outputDir())
+              .arg(Setting::enableCuda() ? QStringLiteral("true") : QStringLiteral("false"));
+    std::puts(line.toUtf8().constData());
+    return 0;
+}
+
+int main(int argc, char *argv[])
+{
+    const bool helper = argc > 1 && qstrcmp(argv[1], "--helper") == 0;
+    QTemporaryDir home;
+    if (!helper) {
+        // Children inherit this home, so they share the store under test.
+        qputenv("HOME", home.path().toLocal8Bit());
+        qunsetenv("XDG_CONFIG_HOME");
+        qunsetenv("XDG_DATA_HOME");
+    }
+    QCoreApplication app(argc, argv);
+    if (helper)
+        return helperMain(QCoreApplication::arguments().mid(2));
+    TestSettings test(home.path());
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_settings.moc"

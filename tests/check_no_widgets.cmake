@@ -1,0 +1,11 @@
+# Fails when any of BINARIES (a ;-list) links QtWidgets or QtGui.
+foreach(binary IN LISTS BINARIES)
+    execute_process(COMMAND ldd ${binary} OUTPUT_VARIABLE libs RESULT_VARIABLE rc)
+    if(NOT rc EQUAL 0)
+        message(FATAL_ERROR "ldd failed on ${binary}")
+    endif()
+    if(libs MATCHES "libQt6(Widgets|Gui)")
+        message(FATAL_ERROR "${binary} links a GUI library:\n${libs}")
+    endif()
+    message(STATUS "${binary}: no GUI libraries")
+endforeach()

@@ -1,0 +1,295 @@
+#include "cavconverter.h"
+#include "version.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace {
+
+// ffmpeg arguments for a real-time encode of a synthetic clip.
+QStringList liveEncode(const QString &output, int seconds)
+{
+    return {QStringLiteral("-hide_banner"),
+            QStringLiteral("-y"),
+            QStringLiteral("-re"),
+            QStringLiteral("-f"),
+            QStringLiteral("lavfi"),
+            QStringLiteral("-i"),
+            QStringLiteral("testsrc2=size=160x120:rate=25:duration=%1").arg(seconds),
+            QStringLiteral("-c:v"),
+            QStringLiteral("mpeg4"),
+            output};
+}
+
+double probeDuration(const QString &file)
+{
+    QProcess probe;
+    probe.start(QStringLiteral("ffprobe"),
+                {QStringLiteral("-v"), QStringLiteral("error"), QStringLiteral("-show_entries"),
+                 QStringLiteral("format=duration"), QStringLiteral("-of"),
+                 QStringLiteral("csv=p=0"), file});
+    if (!probe.waitForFinished(20000))
+        return -1;
+    bool ok = false;
+    const double value = probe.readAllStandardOutput().trimmed().toDouble(&ok);
+    return ok ? value : -1;
+}
+
+// The process and every descendant of it, from /proc.
+QList<qint64> processTree(qint64 root)
+{
+    QMultiMap<qint64, qint64> children;
+    const QStringList entries = QDir(QStringLiteral("/proc")).entryList(QDir::Dirs);
+    for (const QString &entry : entries) {
+        bool numeric = false;
+        const qint64 pid = entry.toLongLong(&numeric);
+        if (!numeric)
+            continue;
+        QFile stat(QStringLiteral("/proc/%1/stat").arg(pid));
+        if (!stat.open(QIODevice::ReadOnly))
+            continue;
+        const QByteArray text = stat.readAll();
+        const QList<QByteArray> fields = text.mid(text.lastIndexOf(')') + 2).split(' ');
+        if (fields.size() > 1)
+            children.insert(fields[1].toLongLong(), pid);
+    }
+    QList<qint64> tree{root};
+    for (int i = 0; i < tree.size(); ++i)
+        tree += children.values(tree[i]);
+    return tree;
+}
+
+char processState(qint64 pid)
+{
+    QFile stat(QStringLiteral("/proc/%1/stat").arg(pid));
+    if (!stat.open(QIODevice::ReadOnly))
+        return '?';
+    const QByteArray text = stat.readAll();
+    const int at = text.lastIndexOf(')') + 2;
+    return at > 1 && at < text.size() ? text.at(at) : '?';
+}
+
+QList<double> progressValues(const QSignalSpy &spy)
+{
+    QList<double> values;
+    for (const auto &call : spy)
+        values << call.at(1).toDouble();
+    return values;
+}
+
+} // namespace
+
+class TestCAVConverter : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void parseTime_data();
+    void parseTime();
+    void reportsWholeSecondsUpToOutputLength();
+    void pauseStopsEveryProcessAndResumes();
+    void stopKillsRunningAndSuspendedEncoders_data();
+    void stopKillsRunningAndSuspendedEncoders();
+    void encoderThatCannotStartFails_data();
+    void encoderThatCannotStartFails();
+    void missingFfmpegIsSaidInTheLog();
+
+private:
+    QTemporaryDir dir;
+};
+
+void TestCAVConverter::parseTime_data()
+{
+    QTest::addColumn<QByteArray>("chunk");
+    QTest::addColumn<double>("seconds");
+    QTest::newRow("status line") << QByteArray(
+        "frame=  50 fps=25 q=3.1 size=  120kB time=00:00:02.00 bitrate= 491.5kbits/s\r")
+                                 << 2.0;
+    QTest::newRow("fraction is cut, not rounded") << QByteArray("time=00:00:07.99 bitrate") << 7.0;
+    QTest::newRow("hours and minutes") << QByteArray("time=01:02:03.45 ") << 3723.0;
+    QTest::newRow("first line of a chunk counts")
+        << QByteArray("time=00:00:04.00 x\rtime=00:00:05.00 x\r") << 4.0;
+    QTest::newRow("no blank behind the value") << QByteArray("size=1kB time=00:00:04.00") << -1.0;
+    QTest::newRow("no status field") << QByteArray("Press [q] to stop\n") << -1.0;
+    QTest::newRow("unparsable value counts as zero") << QByteArray("time=N/A bitrate=N/A\r") << 0.0;
+    QTest::newRow("any first time= counts")
+        << QByteArray("Output #0, avi, to 'time=my clip.avi':\n") << 0.0;
+    QTest::newRow("text behind a NUL is not read")
+        << QByteArray("frame=1\0time=00:00:09.00 ", 25) << -1.0;
+    QTest::newRow("overlong value") << QByteArray("time=") + QByteArray(300, '1') + " " << -1.0;
+}
+
+void TestCAVConverter::parseTime()
+{
+    QFETCH(QByteArray, chunk);
+    QFETCH(double, seconds);
+    QCOMPARE(CAVConverter::parseTime(chunk), seconds);
+}
+
+void TestCAVConverter::reportsWholeSecondsUpToOutputLength()
+{
+    const QString output = dir.filePath(QStringLiteral("progress.avi"));
+    const QString log = dir.filePath(QStringLiteral("progress.log"));
+    CAVConverter converter;
+    QSignalSpy progress(&converter, &CAVConverter::progressUpdated);
+    QSignalSpy finished(&converter, &CAVConverter::convertFinished);
+    converter.setLogFile(log);
+    converter.setCommand(liveEncode(output, 4), 7);
+    QCOMPARE(converter.state(), int(CAVConverter::NoChild));
+    converter.start();
+    QCOMPARE(converter.state(), int(CAVConverter::Running));
+    QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 30000);
+    QCOMPARE(finished.at(0).at(0).toInt(), 7);
+    QCOMPARE(finished.at(0).at(1).toBool(), true);
+    QCOMPARE(converter.state(), int(CAVConverter::NoChild));
+
+    const QList<double> values = progressValues(progress);
+    QVERIFY2(values.size() >= 3, qPrintable(QStringLiteral("only %1 reports").arg(values.size())));
+    for (int i = 0; i < values.size(); ++i) {
+        QCOMPARE(progress.at(i).at(0).toInt(), 7);
+        QCOMPARE(values[i], double(qint64(values[i])));
+        if (i > 0)
+            QVERIFY2(values[i] > values[i - 1], "reports must rise and never repeat");
+    }
+    const double length = probeDuration(output);
+    QVERIFY(length > 3.5);
+    QCOMPARE(values.last(), double(qint64(length)));
+
+    QFile file(log);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray text = file.readAll();
+    QVERIFY(text.startsWith("\n\n=======================================================\n"));
+    QVERIFY(text.contains(" kestrove " + productVersion().toUtf8() + "\n\n"));
+    QVERIFY(!productVersion().isEmpty());
+    QVERIFY(text.contains(liveEncode(output, 4).join(QLatin1Char(' ')).toUtf8() + "\n\n"));
+    QVERIFY(text.contains("time=00:00:0"));
+}
+
+void TestCAVConverter::pauseStopsEveryProcessAndResumes()
+{
+    const QString output = dir.filePath(QStringLiteral("paused.avi"));
+    CAVConverter converter;
+    QSignalSpy progress(&converter, &CAVConverter::progressUpdated);
+    QSignalSpy finished(&converter, &CAVConverter::convertFinished);
+    converter.setCommand(liveEncode(output, 5), 1);
+    converter.start();
+    QTRY_VERIFY_WITH_TIMEOUT(!progress.isEmpty(), 15000);
+
+    for (int round = 0; round < 2; ++round) {
+        converter.setPaused(true);
+        QCOMPARE(converter.state(), int(CAVConverter::Suspended));
+        const QList<qint64> tree = processTree(converter.processId());
+        QVERIFY2(tree.size() >= 2, "the front runs ffmpeg as its child");
+        for (qint64 pid : tree)
+            QTRY_COMPARE_WITH_TIMEOUT(processState(pid), 'T', 5000);
+        // Let anything already in the pipe arrive, then watch for a standstill.
+        QTest::qWait(300);
+        const int reports = progress.count();
+        QTest::qWait(1500);
+        QCOMPARE(progress.count(), reports);
+        QVERIFY(finished.isEmpty());
+
+        converter.setPaused(false);
+        QCOMPARE(converter.state(), int(CAVConverter::Running));
+        for (qint64 pid : tree)
+            QTRY_VERIFY_WITH_TIMEOUT(processState(pid) != 'T', 5000);
+        QTest::qWait(700);
+    }
+    QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 30000);
+    QCOMPARE(finished.at(0).at(1).toBool(), true);
+    QVERIFY(probeDuration(output) > 4.5);
+}
+
+void TestCAVConverter::stopKillsRunningAndSuspendedEncoders_data()
+{
+    QTest::addColumn<bool>("suspendFirst");
+    QTest::newRow("running") << false;
+    QTest::newRow("suspended") << true;
+}
+
+void TestCAVConverter::stopKillsRunningAndSuspendedEncoders()
+{
+    QFETCH(bool, suspendFirst);
+    CAVConverter converter;
+    QSignalSpy progress(&converter, &CAVConverter::progressUpdated);
+    QSignalSpy finished(&converter, &CAVConverter::convertFinished);
+    converter.setCommand(liveEncode(dir.filePath(QStringLiteral("stopped.avi")), 60), 3);
+    converter.start();
+    QTRY_VERIFY_WITH_TIMEOUT(!progress.isEmpty(), 15000);
+    const QList<qint64> tree = processTree(converter.processId());
+    QVERIFY(tree.size() >= 2);
+    if (suspendFirst)
+        converter.setPaused(true);
+
+    converter.stop();
+    QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 10000);
+    QCOMPARE(finished.at(0).at(0).toInt(), 3);
+    QCOMPARE(finished.at(0).at(1).toBool(), false);
+    QCOMPARE(converter.state(), int(CAVConverter::NoChild));
+    // ffmpeg itself is gone too, not left running on its own.
+    for (qint64 pid : tree)
+        QTRY_VERIFY_WITH_TIMEOUT(processState(pid) == '?' || processState(pid) == 'Z', 5000);
+}
+
+void TestCAVConverter::encoderThatCannotStartFails_data()
+{
+    QTest::addColumn<QString>("program");
+    QTest::addColumn<bool>("createFile");
+    QTest::newRow("missing") << dir.filePath(QStringLiteral("no-such-encoder")) << false;
+    QTest::newRow("not executable") << dir.filePath(QStringLiteral("plain-file")) << true;
+    QTest::newRow("a folder") << dir.path() << false;
+}
+
+void TestCAVConverter::encoderThatCannotStartFails()
+{
+    QFETCH(QString, program);
+    QFETCH(bool, createFile);
+    if (createFile) {
+        QFile file(program);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("#!/bin/sh\nexit 0\n");
+    }
+    CAVConverter converter;
+    QSignalSpy finished(&converter, &CAVConverter::convertFinished);
+    converter.setProgram(program);
+    converter.setCommand({QStringLiteral("-version")}, 11);
+    converter.start();
+    // Reported after start() returns, never from inside it.
+    QCOMPARE(finished.count(), 0);
+    QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 5000);
+    QCOMPARE(finished.at(0).at(0).toInt(), 11);
+    QCOMPARE(finished.at(0).at(1).toBool(), false);
+    QCOMPARE(converter.state(), int(CAVConverter::NoChild));
+    QTest::qWait(200);
+    QCOMPARE(finished.count(), 1);
+
+    // The converter is usable again afterwards.
+    converter.setProgram(CAVConverter::defaultProgram());
+    converter.start();
+    QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 2, 10000);
+    QCOMPARE(finished.at(1).at(1).toBool(), true);
+}
+
+void TestCAVConverter::missingFfmpegIsSaidInTheLog()
+{
+    const QString log = dir.filePath(QStringLiteral("noffmpeg.log"));
+    qputenv("KESTROVE_FFMPEG", dir.filePath(QStringLiteral("no-ffmpeg")).toLocal8Bit());
+    CAVConverter converter;
+    QSignalSpy finished(&converter, &CAVConverter::convertFinished);
+    converter.setLogFile(log);
+    converter.setCommand({QStringLiteral("-version")}, 5);
+    converter.start();
+    QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 10000);
+    qunsetenv("KESTROVE_FFMPEG");
+    QFile file(log);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QVERIFY(file.readAll().contains("kestrove-encoder: cannot start"));
+}
+
+QTEST_GUILESS_MAIN(TestCAVConverter)
+#include "tst_cavconverter.moc"
