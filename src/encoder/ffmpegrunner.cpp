@@ -1,18 +1,18 @@
 #include "ffmpegrunner.h"
 
 #include <QByteArray>
-#include <QFileInfo>
+#include <QFile>
 #include <QStandardPaths>
 
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
 #include <cstring>
+#include <ctime>
 #include <fcntl.h>
 #include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
-#include <vector>
 
 namespace {
 
@@ -22,6 +22,81 @@ void forwardSignal(int signalNumber)
 {
     if (childPid > 0)
         ::kill(childPid, signalNumber);
+}
+
+void reportStartFailure(const char *program, int error)
+{
+    std::fprintf(stderr, "kestrove-encoder: cannot start %s: %s\n", program, std::strerror(error));
+    std::fflush(stderr);
+}
+
+// CPU seconds the process has used, all its threads together.
+double cpuSeconds(pid_t pid)
+{
+    char path[64];
+    std::snprintf(path, sizeof path, "/proc/%d/stat", static_cast<int>(pid));
+    QFile stat(QString::fromLatin1(path));
+    if (!stat.open(QIODevice::ReadOnly))
+        return -1;
+    const QByteArray text = stat.readAll();
+    const QList<QByteArray> fields = text.mid(text.lastIndexOf(')') + 2).split(' ');
+    // Fields 14 and 15 of the file: user and system time, here 11 and 12.
+    if (fields.size() < 13)
+        return -1;
+    static const double ticks = static_cast<double>(::sysconf(_SC_CLK_TCK));
+    return (fields[11].toDouble() + fields[12].toDouble()) / ticks;
+}
+
+double now()
+{
+    timespec ts;
+    ::clock_gettime(CLOCK_MONOTONIC, &ts);
+    return ts.tv_sec + ts.tv_nsec / 1e9;
+}
+
+void sleepSeconds(double seconds)
+{
+    timespec ts;
+    ts.tv_sec = static_cast<time_t>(seconds);
+    ts.tv_nsec = static_cast<long>((seconds - ts.tv_sec) * 1e9);
+    while (::nanosleep(&ts, &ts) != 0 && errno == EINTR) {
+    }
+}
+
+// Waits for the child, holding it to a share of the machine by stopping it
+// whenever it has used more processor time than its share allows.
+int waitLimited(pid_t pid, int cpuPercent)
+{
+    const double share = cpuPercent / 100.0 * static_cast<double>(::sysconf(_SC_NPROCESSORS_ONLN));
+    const double slice = 0.05;
+    double budget = 0;
+    double lastCpu = cpuSeconds(pid);
+    double lastTime = now();
+    int status = 0;
+    for (;;) {
+        const pid_t done = ::waitpid(pid, &status, WNOHANG);
+        if (done == pid)
+            return status;
+        if (done < 0 && errno != EINTR)
+            return 127 << 8;
+        sleepSeconds(slice);
+        const double cpu = cpuSeconds(pid);
+        const double time = now();
+        if (cpu < 0)
+            continue;
+        budget += share * (time - lastTime) - (cpu - lastCpu);
+        budget = qMin(budget, share * 0.2); // no saving up for a burst
+        lastCpu = cpu;
+        lastTime = time;
+        if (budget < 0) {
+            const double pause = qMin(-budget / share, 1.0);
+            ::kill(pid, SIGSTOP);
+            sleepSeconds(pause);
+            ::kill(pid, SIGCONT);
+            lastTime = now();
+            budget += share * pause;
+        }
+    }
 }
 
 } // namespace
@@ -35,7 +110,8 @@ QString FFmpegRunner::ffmpegProgram()
     return found.isEmpty() ? QStringLiteral("ffmpeg") : found;
 }
 
-FFmpegRunner::Result FFmpegRunner::run(const QString &program, const QStringList &arguments)
+FFmpegRunner::Result FFmpegRunner::run(const QString &program, const QStringList &arguments,
+                                       const Options &options)
 {
     std::vector<QByteArray> storage;
     storage.reserve(arguments.size() + 1);
@@ -50,15 +126,13 @@ FFmpegRunner::Result FFmpegRunner::run(const QString &program, const QStringList
     // A pipe that closes on exec tells the parent whether exec worked.
     int execPipe[2];
     if (::pipe2(execPipe, O_CLOEXEC) != 0) {
-        std::fprintf(stderr, "kestrove-encoder: cannot start %s: %s\n", argv[0],
-                     std::strerror(errno));
+        reportStartFailure(argv[0], errno);
         return {};
     }
     const pid_t parentPid = ::getpid();
     childPid = ::fork();
     if (childPid < 0) {
-        std::fprintf(stderr, "kestrove-encoder: cannot start %s: %s\n", argv[0],
-                     std::strerror(errno));
+        reportStartFailure(argv[0], errno);
         return {};
     }
     if (childPid == 0) {
@@ -67,6 +141,13 @@ FFmpegRunner::Result FFmpegRunner::run(const QString &program, const QStringList
         ::prctl(PR_SET_PDEATHSIG, SIGKILL);
         if (::getppid() != parentPid)
             ::_exit(127);
+        ::signal(SIGPIPE, SIG_DFL);
+        // Move the descriptors out of the way first, then into place.
+        std::vector<int> high;
+        for (int fd : options.childFds)
+            high.push_back(::fcntl(fd, F_DUPFD_CLOEXEC, 64));
+        for (size_t k = 0; k < high.size(); ++k)
+            ::dup2(high[k], static_cast<int>(3 + k));
         ::execvp(argv[0], argv.data());
         const int error = errno;
         [[maybe_unused]] ssize_t n = ::write(execPipe[1], &error, sizeof error);
@@ -87,16 +168,19 @@ FFmpegRunner::Result FFmpegRunner::run(const QString &program, const QStringList
         ::sigaction(sig, &action, nullptr);
 
     int status = 0;
-    while (::waitpid(childPid, &status, 0) < 0) {
-        if (errno != EINTR) {
-            status = 127 << 8;
-            break;
+    if (options.cpuPercent > 0 && options.cpuPercent < 100 && got != sizeof execError) {
+        status = waitLimited(childPid, options.cpuPercent);
+    } else {
+        while (::waitpid(childPid, &status, 0) < 0) {
+            if (errno != EINTR) {
+                status = 127 << 8;
+                break;
+            }
         }
     }
     childPid = -1;
     if (got == static_cast<ssize_t>(sizeof execError)) {
-        std::fprintf(stderr, "kestrove-encoder: cannot start %s: %s\n", argv[0],
-                     std::strerror(execError));
+        reportStartFailure(argv[0], execError);
         return {};
     }
     Result result;

@@ -282,7 +282,7 @@ void TestCAVConverter::missingFfmpegIsSaidInTheLog()
     CAVConverter converter;
     QSignalSpy finished(&converter, &CAVConverter::convertFinished);
     converter.setLogFile(log);
-    converter.setCommand({QStringLiteral("-version")}, 5);
+    converter.setCommand({QStringLiteral("-i"), QStringLiteral("in.wav"), QStringLiteral("out.wav")}, 5);
     converter.start();
     QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 10000);
     qunsetenv("KESTROVE_FFMPEG");

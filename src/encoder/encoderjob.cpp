@@ -1,0 +1,276 @@
+#include "encoderjob.h"
+
+#include "filtertranslator.h"
+
+#include <QRegularExpression>
+
+namespace {
+
+struct Token
+{
+    QString name; // without '-'; empty for a plain word
+    QString value;
+    bool hasValue = false;
+};
+
+bool looksLikeOption(const QString &word)
+{
+    // Negative numbers are values, not options.
+    return word.size() > 1 && word[0] == QLatin1Char('-') && !word[1].isDigit()
+           && word[1] != QLatin1Char('.');
+}
+
+const QStringList inputOptionNames
+    = {QStringLiteral("ss"),       QStringLiteral("t"),   QStringLiteral("ast"),
+       QStringLiteral("f"),        QStringLiteral("pgc"), QStringLiteral("audio_track"),
+       QStringLiteral("subtitle"), QStringLiteral("si")};
+
+QString outputSizeOf(const QString &chain)
+{
+    // The last scale or pad of the chain gives the frame size.
+    const QRegularExpression size(QStringLiteral("(?:scale|pad)=(\\d+):(\\d+)"));
+    QString found;
+    auto it = size.globalMatch(chain);
+    while (it.hasNext()) {
+        const auto match = it.next();
+        found = match.captured(1) + QLatin1Char('x') + match.captured(2);
+    }
+    return found.isEmpty() ? QStringLiteral("640x480") : found;
+}
+
+QString joinFilters(const QStringList &parts)
+{
+    QStringList nonEmpty;
+    for (const QString &part : parts) {
+        if (!part.isEmpty())
+            nonEmpty << part;
+    }
+    return nonEmpty.join(QLatin1Char(','));
+}
+
+} // namespace
+
+std::optional<EncoderJob> EncoderJob::parse(const QStringList &arguments, QString *error)
+{
+    auto fail = [error](const QString &why) {
+        if (error)
+            *error = why;
+        return std::nullopt;
+    };
+    if (arguments.isEmpty() || looksLikeOption(arguments.last()))
+        return fail(QStringLiteral("the last argument must be the output file"));
+
+    // Pair each option with its value.
+    QList<Token> tokens;
+    const int end = arguments.size() - 1;
+    for (int i = 0; i < end; ++i) {
+        const QString &word = arguments[i];
+        if (!looksLikeOption(word))
+            return fail(QStringLiteral("unexpected argument \"%1\"").arg(word));
+        Token token;
+        token.name = word.mid(1);
+        OptionTable::Arity arity = OptionTable::arity(token.name);
+        if (token.name == QLatin1String("y") || token.name == QLatin1String("si"))
+            arity = OptionTable::Arity::None;
+        else if (inputOptionNames.contains(token.name) || token.name == QLatin1String("i")
+                 || token.name == QLatin1String("vf") || token.name == QLatin1String("cpu_percent"))
+            arity = OptionTable::Arity::One;
+        const bool next = i + 1 < end;
+        if (arity == OptionTable::Arity::One
+            || (arity == OptionTable::Arity::Guess && next && !looksLikeOption(arguments[i + 1]))) {
+            if (!next)
+                return fail(QStringLiteral("option -%1 needs a value").arg(token.name));
+            token.value = arguments[++i];
+            token.hasValue = true;
+        }
+        tokens << token;
+    }
+
+    EncoderJob job;
+    job.outputPath = arguments.last();
+    int lastInput = -1;
+    for (int i = 0; i < tokens.size(); ++i) {
+        if (tokens[i].name == QLatin1String("i"))
+            lastInput = i;
+    }
+    if (lastInput < 0)
+        return fail(QStringLiteral("no input (-i) given"));
+
+    EncoderInput pending;
+    bool afterInput = false; // right behind an -i: a -vf belongs to that input
+    for (int i = 0; i < tokens.size(); ++i) {
+        const Token &t = tokens[i];
+        const QString &n = t.name;
+        if (n == QLatin1String("y")) {
+            job.overwrite = true;
+        } else if (n == QLatin1String("cpu_percent")) {
+            job.cpuPercent = qBound(0, t.value.toInt(), 100);
+        } else if (n == QLatin1String("vf") && afterInput) {
+            job.inputs.last().videoChain = t.value;
+        } else if (n == QLatin1String("i")) {
+            pending.path = t.value;
+            job.inputs << pending;
+            pending = EncoderInput();
+            afterInput = true;
+            continue;
+        } else if (i < lastInput && inputOptionNames.contains(n)) {
+            bool ok = true;
+            if (n == QLatin1String("pgc"))
+                pending.pgc = t.value.toInt(&ok);
+            else if (n == QLatin1String("audio_track"))
+                pending.audioTrack = t.value.toInt(&ok);
+            else if (n == QLatin1String("subtitle"))
+                pending.subtitle = t.value.toInt(&ok);
+            else if (n == QLatin1String("ast"))
+                pending.audioStream = t.value.toInt(&ok);
+            else if (n == QLatin1String("f")) {
+                const QString format = OptionTable::inputFormat(t.value, &job.notes);
+                if (!format.isEmpty())
+                    pending.options << QStringLiteral("-f") << format;
+            } else if (n != QLatin1String("si"))
+                pending.options << QLatin1Char('-') + n << t.value;
+            if (!ok)
+                return fail(
+                    QStringLiteral("option -%1 needs a number, not \"%2\"").arg(n, t.value));
+        } else if (i < lastInput) {
+            // Anything else ahead of an input is an input option of ffmpeg's own.
+            pending.options << QLatin1Char('-') + n;
+            if (t.hasValue)
+                pending.options << t.value;
+        } else {
+            OptionTable::applyOutput(job.output, n, t.value, t.hasValue);
+        }
+        afterInput = false;
+    }
+    OptionTable::finish(job.output);
+    job.notes += job.output.notes;
+    return job;
+}
+
+bool EncoderJob::wantsVideo() const
+{
+    return !output.args.contains(QStringLiteral("-vn"));
+}
+
+bool EncoderJob::wantsAudio() const
+{
+    return !output.args.contains(QStringLiteral("-an"));
+}
+
+QStringList EncoderJob::ffmpegArguments(const QStringList &sources,
+                                        const QList<InputLayout> &layouts) const
+{
+    QStringList args{QStringLiteral("-nostdin")};
+    if (overwrite)
+        args << QStringLiteral("-y");
+    for (int i = 0; i < inputs.size(); ++i) {
+        args << inputs[i].options;
+        if (inputs[i].isTitle() && !inputs[i].options.contains(QStringLiteral("-f")))
+            args << QStringLiteral("-f") << QStringLiteral("mpeg");
+        args << QStringLiteral("-i") << sources.value(i);
+    }
+
+    const QString pre = output.preFilters.join(QLatin1Char(','));
+    const QString audioFilters = output.audioFilters.join(QLatin1Char(','));
+    auto audioSpec = [&](int i) {
+        const InputLayout layout = layouts.value(i);
+        if (!layout.audioSpecifier.isEmpty())
+            return layout.audioSpecifier;
+        const int position
+            = inputs[i].isTitle() ? qMax(0, inputs[i].audioTrack) : inputs[i].audioStream;
+        return QStringLiteral("a:%1").arg(position);
+    };
+    auto subtitleSpec = [&](int i) {
+        const InputLayout layout = layouts.value(i);
+        return layout.subtitleSpecifier.isEmpty() ? QStringLiteral("s:%1").arg(inputs[i].subtitle)
+                                                  : layout.subtitleSpecifier;
+    };
+    const bool video = wantsVideo();
+    const bool audio = wantsAudio();
+
+    if (inputs.size() == 1) {
+        const EncoderInput &in = inputs.first();
+        const InputLayout layout = layouts.value(0);
+        const QString graph = FilterTranslator::translate(in.videoChain).graph;
+        const bool burnTitleSubtitle = in.isTitle() && in.subtitle >= 0 && layout.hasVideo;
+        if (video && burnTitleSubtitle) {
+            // The subpicture lies on the source frame, ahead of crop and scale.
+            const QString head
+                = QStringLiteral("[0:v:0]%1[kb];[kb][0:%2]overlay=format=auto")
+                      .arg(pre.isEmpty() ? QStringLiteral("null") : pre, subtitleSpec(0));
+            args << QStringLiteral("-filter_complex")
+                 << head + (graph.isEmpty() ? QString() : QLatin1Char(',') + graph)
+                        + QStringLiteral("[vout]")
+                 << QStringLiteral("-map") << QStringLiteral("[vout]");
+        } else if (video) {
+            const QString chain = joinFilters({pre, graph});
+            if (!chain.isEmpty())
+                args << QStringLiteral("-vf") << chain;
+            args << QStringLiteral("-map") << QStringLiteral("0:v:0?");
+        }
+        if (audio && (!in.isTitle() || in.audioTrack >= 0)) {
+            if (!audioFilters.isEmpty())
+                args << QStringLiteral("-af") << audioFilters;
+            args << QStringLiteral("-map") << QStringLiteral("0:%1?").arg(audioSpec(0));
+        }
+    } else {
+        // Several inputs follow each other in one output.
+        QStringList parts;
+        QString concatInputs;
+        const QString size = outputSizeOf(inputs.first().videoChain);
+        for (int i = 0; i < inputs.size(); ++i) {
+            const EncoderInput &in = inputs[i];
+            const InputLayout layout = layouts.value(i);
+            const QString length
+                = QString::number(layout.duration > 0 ? layout.duration : 1, 'g', 10);
+            if (video) {
+                if (layout.hasVideo) {
+                    const QString graph
+                        = FilterTranslator::translate(in.videoChain, QStringLiteral("i%1").arg(i))
+                              .graph;
+                    parts << QStringLiteral("[%1:v:0]%2[v%1]")
+                                 .arg(i)
+                                 .arg(joinFilters(
+                                     {pre, graph, QStringLiteral("setsar=1,format=yuv420p")}));
+                } else {
+                    parts << QStringLiteral("color=c=black:s=%1:d=%2,setsar=1,format=yuv420p[v%3]")
+                                 .arg(size, length)
+                                 .arg(i);
+                }
+                concatInputs += QStringLiteral("[v%1]").arg(i);
+            }
+            if (audio) {
+                if (layout.hasAudio && (!in.isTitle() || in.audioTrack >= 0))
+                    parts << QStringLiteral(
+                                 "[%1:%2]aresample=48000,aformat=channel_layouts=stereo[a%1]")
+                                 .arg(i)
+                                 .arg(audioSpec(i));
+                else
+                    parts << QStringLiteral("anullsrc=r=48000:cl=stereo,atrim=duration=%1[a%2]")
+                                 .arg(length)
+                                 .arg(i);
+                concatInputs += QStringLiteral("[a%1]").arg(i);
+            }
+        }
+        QString tail = QStringLiteral("%1concat=n=%2:v=%3:a=%4")
+                           .arg(concatInputs)
+                           .arg(inputs.size())
+                           .arg(video ? 1 : 0)
+                           .arg(audio ? 1 : 0);
+        if (video)
+            tail += QStringLiteral("[vout]");
+        if (audio)
+            tail += audioFilters.isEmpty()
+                        ? QStringLiteral("[aout]")
+                        : QStringLiteral("[acat];[acat]%1[aout]").arg(audioFilters);
+        parts << tail;
+        args << QStringLiteral("-filter_complex") << parts.join(QLatin1Char(';'));
+        if (video)
+            args << QStringLiteral("-map") << QStringLiteral("[vout]");
+        if (audio)
+            args << QStringLiteral("-map") << QStringLiteral("[aout]");
+    }
+
+    args << output.args << outputPath;
+    return args;
+}

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "optiontable.h"
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+// One input of the encoder's argument list.
+struct EncoderInput
+{
+    QStringList options; // translated options that stand in front of -i
+    QString path;
+    int pgc = -1;        // 0 or more: a title of the DVD behind the IFO path
+    int audioTrack = -1; // of that title, by position; -1 none
+    int subtitle = -1;   // of that title, by position, burnt in; -1 none
+    int audioStream = 0; // of a file, position among its audio streams
+    QString videoChain;  // the program's own -vf text
+    bool isTitle() const { return pgc >= 0; }
+};
+
+// What an input holds, as far as the output graph needs to know.
+struct InputLayout
+{
+    bool hasVideo = true;
+    bool hasAudio = true;
+    double duration = 0;       // seconds, 0 when unknown
+    QString audioSpecifier;    // stream specifier inside the input; empty: by position
+    QString subtitleSpecifier; // likewise, for a title's burnt-in subpicture
+};
+
+// The encoder's argument list, parsed, and the stock ffmpeg list made of it.
+struct EncoderJob
+{
+    bool overwrite = false;
+    int cpuPercent = 0; // 0: no limit
+    QList<EncoderInput> inputs;
+    OutputOptions output;
+    QString outputPath;
+    QStringList notes;
+
+    // Empty with `error` set when the list can't be an encoder job.
+    static std::optional<EncoderJob> parse(const QStringList &arguments, QString *error);
+
+    // `sources[i]` is what ffmpeg opens for input i (a path, or "pipe:N" for
+    // a title); `layouts[i]` what it holds.
+    QStringList ffmpegArguments(const QStringList &sources,
+                                const QList<InputLayout> &layouts) const;
+
+    bool wantsVideo() const;
+    bool wantsAudio() const;
+};

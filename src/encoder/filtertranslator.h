@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+// Turns the program's own video filter chain (crop, scale, pad, effect2,
+// watermark2, subtitle) into a stock libavfilter graph. The encoder front and
+// the preview both use it, so the preview shows what the encoder writes.
+class FilterTranslator
+{
+public:
+    struct Result
+    {
+        QString graph;     // one input, one output; empty when nothing is to be done
+        QStringList notes; // what was left out, one line each
+    };
+
+    // Labels inside the graph start with labelPrefix, so several graphs can share one text.
+    static Result translate(const QString &chain, const QString &labelPrefix = QString());
+
+    // The stock filters of one effect number, or empty when the number is unknown.
+    static QString effectFilter(int type);
+    // brightness, contrast and saturation from -100 to 100, 0 neutral.
+    static QString pictureFilter(int brightness, int contrast, int saturation);
+
+    // A filter option value quoted for use inside a filter graph text.
+    static QString escapeValue(const QString &value);
+    // The reverse of the hexadecimal form in which paths and font names arrive.
+    static QString fromHex(const QString &hex);
+    static QString toHex(const QString &text);
+};

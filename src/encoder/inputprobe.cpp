@@ -1,0 +1,41 @@
+#include "inputprobe.h"
+
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QStandardPaths>
+
+namespace InputProbe {
+
+InputLayout layout(const QString &path)
+{
+    InputLayout result;
+    QString ffprobe = QStandardPaths::findExecutable(QStringLiteral("ffprobe"));
+    if (ffprobe.isEmpty())
+        return result;
+    QProcess probe;
+    probe.start(ffprobe, {QStringLiteral("-v"), QStringLiteral("error"),
+                          QStringLiteral("-print_format"), QStringLiteral("json"),
+                          QStringLiteral("-show_streams"), QStringLiteral("-show_format"), path});
+    if (!probe.waitForFinished(30000) || probe.exitCode() != 0)
+        return result;
+    const QJsonObject root = QJsonDocument::fromJson(probe.readAllStandardOutput()).object();
+    result.hasVideo = false;
+    result.hasAudio = false;
+    const QJsonArray streams = root.value(QStringLiteral("streams")).toArray();
+    for (const auto &value : streams) {
+        const QString type = value.toObject().value(QStringLiteral("codec_type")).toString();
+        result.hasVideo |= type == QLatin1String("video");
+        result.hasAudio |= type == QLatin1String("audio");
+    }
+    result.duration = root.value(QStringLiteral("format"))
+                          .toObject()
+                          .value(QStringLiteral("duration"))
+                          .toString()
+                          .toDouble();
+    return result;
+}
+
+} // namespace InputProbe
