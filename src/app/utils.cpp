@@ -1,8 +1,16 @@
 #include "utils.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QMutex>
+#include <QRegularExpression>
 #include <QThread>
+#include <QTime>
+#include <QWaitCondition>
+
+#include <algorithm>
+#include <iterator>
 
 QString replaceBaseName(const QString &path, const QString &newBase)
 {
@@ -10,7 +18,83 @@ QString replaceBaseName(const QString &path, const QString &newBase)
     return QFileInfo(info.dir(), newBase + QLatin1Char('.') + info.suffix()).filePath();
 }
 
+QString sanitizeFileName(const QString &text)
+{
+    static const QRegularExpression forbidden(QStringLiteral("[/*?:<>|\"\\\\]"));
+    return QString(text).remove(forbidden).trimmed();
+}
+
+QString commonParent(const QString &a, const QString &b)
+{
+    if (a == b)
+        return a;
+    int pos = 0;
+    for (;;) {
+        int i = a.indexOf(QLatin1Char('/'), pos);
+        int j = b.indexOf(QLatin1Char('/'), pos);
+        if (i < 0)
+            i = a.size();
+        if (j < 0)
+            j = b.size();
+        if (i != j || QStringView(a).left(i) != QStringView(b).left(i))
+            break;
+        pos = i + 1;
+    }
+    if (pos > 0)
+        --pos;
+    return a.left(pos);
+}
+
 namespace Utils {
+
+void sleepMs(unsigned long milliseconds)
+{
+    QMutex mutex;
+    QWaitCondition never;
+    QMutexLocker locker(&mutex);
+    QDeadlineTimer deadline(qint64(milliseconds), Qt::PreciseTimer);
+    // Nothing wakes the condition; the loop only guards against early returns.
+    while (!deadline.hasExpired())
+        never.wait(&mutex, deadline);
+}
+
+QString sizeLabel(int width, int height)
+{
+    if (width <= 0 || height <= 0)
+        return QString();
+    return QCoreApplication::translate("Utils", "%1x%2").arg(width).arg(height);
+}
+
+QString byteText(quint64 bytes)
+{
+    static const char *const units[]
+        = {QT_TRANSLATE_NOOP("Utils", "B"),  QT_TRANSLATE_NOOP("Utils", "kB"),
+           QT_TRANSLATE_NOOP("Utils", "MB"), QT_TRANSLATE_NOOP("Utils", "GB"),
+           QT_TRANSLATE_NOOP("Utils", "TB"), QT_TRANSLATE_NOOP("Utils", "PB"),
+           QT_TRANSLATE_NOOP("Utils", "EB"), QT_TRANSLATE_NOOP("Utils", "ZB"),
+           QT_TRANSLATE_NOOP("Utils", "YB")};
+    int i = 0;
+    while (bytes >= 1024 && i < int(std::size(units)) - 1) {
+        bytes >>= 10;
+        ++i;
+    }
+    return QString::number(double(bytes), 'f', 2) + QCoreApplication::translate("Utils", units[i]);
+}
+
+QString durationText(double seconds)
+{
+    // Far beyond any media length, and small enough to convert safely.
+    constexpr double longest = 1e12;
+    if (!(seconds > 0))
+        seconds = 0;
+    seconds = std::min(seconds, longest);
+    const qint64 days = qint64(seconds / 86400);
+    seconds -= double(days) * 86400;
+    const QString time = QTime(0, 0).addSecs(int(seconds)).toString(QStringLiteral("hh:mm:ss"));
+    if (days == 0)
+        return time;
+    return QStringLiteral("%1.%2").arg(days).arg(time);
+}
 
 int processorCount()
 {

@@ -1,11 +1,33 @@
 #pragma once
 
+#include <QtGlobal>
+
 class QString;
 
 // The path with another base name and the same suffix, in the same folder.
 QString replaceBaseName(const QString &path, const QString &newBase);
 
+// A file name made from a title: the characters that no file system takes
+// everywhere removed, blanks trimmed.
+QString sanitizeFileName(const QString &text);
+
+// The longest common folder of two paths ("/" separates, case counts);
+// empty when they share no first part.
+QString commonParent(const QString &a, const QString &b);
+
 namespace Utils {
+
+// Blocks the calling thread for the whole time.
+void sleepMs(unsigned long milliseconds);
+
+// "640x480", empty unless both are positive.
+QString sizeLabel(int width, int height);
+
+// "1.00kB": whole units of 1024, always two zero decimals, no blank.
+QString byteText(quint64 bytes);
+
+// "hh:mm:ss", with "days." in front from one day on.
+QString durationText(double seconds);
 
 // Logical processors of this machine.
 int processorCount();
