@@ -10,6 +10,7 @@
 
 #include <cstdarg>
 #include <cstdio>
+#include <cstring>
 #include <map>
 
 namespace {
@@ -27,6 +28,9 @@ void logDvdRead(void *, dvd_logger_level_t level, const char *format, va_list ar
         return;
     char text[512];
     std::vsnprintf(text, sizeof text, format, args);
+    // Said of every folder that is not a mounted disc: no news.
+    if (std::strstr(text, "Couldn't find device name"))
+        return;
     qDebug("libdvdread: %s", text);
 }
 
