@@ -10,6 +10,7 @@ packages=(
     libswresample-dev libavfilter-dev
     libdvdread-dev dvdauthor libass-dev
     xvfb xauth
+    librsvg2-bin
 )
 
 missing=()
