@@ -1,4 +1,5 @@
 #include "qxskin.h"
+#include "qxwidget.h"
 #include "settings.h"
 
 #include <QAction>
@@ -249,6 +250,13 @@ void TestQxSkin::switchesBetweenSkins()
     QVERIFY(qApp->styleSheet().contains(root + QStringLiteral("/skin2/close.png")));
     QVERIFY(!qApp->styleSheet().contains(QStringLiteral(":/skins")));
     QCOMPARE(settingInt(skinIndexKey, -1), 1);
+    // This skin lacks the frame picture: the window stays plain.
+    QxWidget window;
+    window.resize(200, 100);
+    window.setFrame(skin.imagePath(QStringLiteral("mainwnd.png")), 132, 20, 20, 20);
+    QVERIFY(window.frameState().isNull());
+    QVERIFY(window.mask().isEmpty());
+    QVERIFY(!window.grab().isNull());
     QVERIFY(second->isChecked() && !second->isEnabled());
     QVERIFY(!actionFor(menu, 1)->isChecked() && actionFor(menu, 1)->isEnabled());
 
