@@ -1,0 +1,5 @@
+#include "qxwidget.h"
+
+QxWidget::QxWidget(QWidget *parent, Qt::WindowFlags flags)
+    : QxFramed<QWidget>(parent, flags)
+{}
