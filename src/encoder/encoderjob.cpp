@@ -25,6 +25,16 @@ const QStringList inputOptionNames
        QStringLiteral("f"),        QStringLiteral("pgc"), QStringLiteral("audio_track"),
        QStringLiteral("subtitle"), QStringLiteral("si")};
 
+// Whether the input that the option at `at` belongs to is a DVD title.
+bool isTitleAhead(const QList<Token> &tokens, int at)
+{
+    for (int i = at; i < tokens.size() && tokens[i].name != QLatin1String("i"); ++i) {
+        if (tokens[i].name == QLatin1String("pgc") && tokens[i].value.toInt() >= 0)
+            return true;
+    }
+    return false;
+}
+
 QString outputSizeOf(const QString &chain)
 {
     // The last scale or pad of the chain gives the frame size.
@@ -127,7 +137,11 @@ std::optional<EncoderJob> EncoderJob::parse(const QStringList &arguments, QStrin
                 const QString format = OptionTable::inputFormat(t.value, &job.notes);
                 if (!format.isEmpty())
                     pending.options << QStringLiteral("-f") << format;
-            } else if (n != QLatin1String("si"))
+            } else if (n == QLatin1String("ss") && isTitleAhead(tokens, i))
+                pending.titleStart = t.value;
+            else if (n == QLatin1String("t") && isTitleAhead(tokens, i))
+                pending.titleLength = t.value;
+            else if (n != QLatin1String("si"))
                 pending.options << QLatin1Char('-') + n << t.value;
             if (!ok)
                 return fail(
@@ -165,8 +179,16 @@ QStringList EncoderJob::ffmpegArguments(const QStringList &sources,
         args << QStringLiteral("-y");
     for (int i = 0; i < inputs.size(); ++i) {
         args << inputs[i].options;
-        if (inputs[i].isTitle() && !inputs[i].options.contains(QStringLiteral("-f")))
-            args << QStringLiteral("-f") << QStringLiteral("mpeg");
+        if (inputs[i].isTitle()) {
+            // Subpicture streams may start late in a title: read further before
+            // deciding. (A longer analyzeduration together with -ss on a pipe
+            // crashes ffmpeg 5.1.)
+            args << QStringLiteral("-probesize") << QStringLiteral("50M");
+            if (inputs[i].subtitle >= 0)
+                args << QStringLiteral("-ifo_palette") << inputs[i].path;
+            if (!inputs[i].options.contains(QStringLiteral("-f")))
+                args << QStringLiteral("-f") << QStringLiteral("mpeg");
+        }
         args << QStringLiteral("-i") << sources.value(i);
     }
 
@@ -190,6 +212,10 @@ QStringList EncoderJob::ffmpegArguments(const QStringList &sources,
 
     if (inputs.size() == 1) {
         const EncoderInput &in = inputs.first();
+        if (!in.titleStart.isEmpty() && in.titleStart.toDouble() != 0)
+            args << QStringLiteral("-ss") << in.titleStart;
+        if (!in.titleLength.isEmpty())
+            args << QStringLiteral("-t") << in.titleLength;
         const InputLayout layout = layouts.value(0);
         const QString graph = FilterTranslator::translate(in.videoChain).graph;
         const bool burnTitleSubtitle = in.isTitle() && in.subtitle >= 0 && layout.hasVideo;
@@ -218,11 +244,26 @@ QStringList EncoderJob::ffmpegArguments(const QStringList &sources,
         QStringList parts;
         QString concatInputs;
         const QString size = outputSizeOf(inputs.first().videoChain);
+        // The joined video gets the output's frame rate, else the first input's.
+        const int rateAt = output.args.indexOf(QStringLiteral("-r"));
+        QString rate = rateAt >= 0 ? output.args.value(rateAt + 1) : layouts.value(0).frameRate;
+        if (rate.isEmpty() || rate == QLatin1String("0/0"))
+            rate = QStringLiteral("25");
         for (int i = 0; i < inputs.size(); ++i) {
             const EncoderInput &in = inputs[i];
             const InputLayout layout = layouts.value(i);
             const QString length
                 = QString::number(layout.duration > 0 ? layout.duration : 1, 'g', 10);
+            QString videoTrim, audioTrim;
+            if (in.isTitle() && (in.titleStart.toDouble() > 0 || !in.titleLength.isEmpty())) {
+                QString range = QStringLiteral("start=%1").arg(in.titleStart.toDouble());
+                if (!in.titleLength.isEmpty())
+                    range += QStringLiteral(":duration=%1").arg(in.titleLength);
+                videoTrim
+                    = QStringLiteral("setpts=PTS-STARTPTS,trim=%1,setpts=PTS-STARTPTS").arg(range);
+                audioTrim = QStringLiteral("asetpts=PTS-STARTPTS,atrim=%1,asetpts=PTS-STARTPTS,")
+                                .arg(range);
+            }
             if (video) {
                 if (layout.hasVideo) {
                     const QString graph
@@ -230,11 +271,12 @@ QStringList EncoderJob::ffmpegArguments(const QStringList &sources,
                               .graph;
                     parts << QStringLiteral("[%1:v:0]%2[v%1]")
                                  .arg(i)
-                                 .arg(joinFilters(
-                                     {pre, graph, QStringLiteral("setsar=1,format=yuv420p")}));
+                                 .arg(joinFilters({videoTrim, pre, graph,
+                                                   QStringLiteral("setsar=1,format=yuv420p")}));
                 } else {
-                    parts << QStringLiteral("color=c=black:s=%1:d=%2,setsar=1,format=yuv420p[v%3]")
-                                 .arg(size, length)
+                    parts << QStringLiteral(
+                                 "color=c=black:s=%1:r=%2:d=%3,setsar=1,format=yuv420p[v%4]")
+                                 .arg(size, rate, length)
                                  .arg(i);
                 }
                 concatInputs += QStringLiteral("[v%1]").arg(i);
@@ -242,9 +284,9 @@ QStringList EncoderJob::ffmpegArguments(const QStringList &sources,
             if (audio) {
                 if (layout.hasAudio && (!in.isTitle() || in.audioTrack >= 0))
                     parts << QStringLiteral(
-                                 "[%1:%2]aresample=48000,aformat=channel_layouts=stereo[a%1]")
+                                 "[%1:%2]%3aresample=48000,aformat=channel_layouts=stereo[a%1]")
                                  .arg(i)
-                                 .arg(audioSpec(i));
+                                 .arg(audioSpec(i), audioTrim);
                 else
                     parts << QStringLiteral("anullsrc=r=48000:cl=stereo,atrim=duration=%1[a%2]")
                                  .arg(length)
@@ -264,6 +306,10 @@ QStringList EncoderJob::ffmpegArguments(const QStringList &sources,
                         ? QStringLiteral("[aout]")
                         : QStringLiteral("[acat];[acat]%1[aout]").arg(audioFilters);
         parts << tail;
+        // One frame rate for the whole join, set on the output: an fps filter
+        // ahead of the join, or right behind it, makes the video longer than its audio.
+        if (video && rateAt < 0)
+            args << QStringLiteral("-r") << rate;
         args << QStringLiteral("-filter_complex") << parts.join(QLatin1Char(';'));
         if (video)
             args << QStringLiteral("-map") << QStringLiteral("[vout]");

@@ -18,6 +18,10 @@ struct EncoderInput
     int subtitle = -1;   // of that title, by position, burnt in; -1 none
     int audioStream = 0; // of a file, position among its audio streams
     QString videoChain;  // the program's own -vf text
+    // A title arrives through a pipe, where ffmpeg can't seek: its -ss and -t
+    // are carried out on the decoded frames instead.
+    QString titleStart;
+    QString titleLength;
     bool isTitle() const { return pgc >= 0; }
 };
 
@@ -27,6 +31,7 @@ struct InputLayout
     bool hasVideo = true;
     bool hasAudio = true;
     double duration = 0;       // seconds, 0 when unknown
+    QString frameRate;         // as ffmpeg writes it, "25" or "30000/1001"; empty when unknown
     QString audioSpecifier;    // stream specifier inside the input; empty: by position
     QString subtitleSpecifier; // likewise, for a title's burnt-in subpicture
 };

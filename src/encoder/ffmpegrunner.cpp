@@ -10,6 +10,7 @@
 #include <cstring>
 #include <ctime>
 #include <fcntl.h>
+#include <poll.h>
 #include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -63,26 +64,88 @@ void sleepSeconds(double seconds)
     }
 }
 
-// Waits for the child, holding it to a share of the machine by stopping it
-// whenever it has used more processor time than its share allows.
-int waitLimited(pid_t pid, int cpuPercent)
+// Passes the child's standard error on unchanged, and notices the write
+// errors that ffmpeg reports without failing.
+class ErrorWatch
 {
+public:
+    explicit ErrorWatch(int fd)
+        : fd(fd)
+    {}
+
+    // Relays what there is; false at the end of the stream.
+    bool relay()
+    {
+        char buffer[4096];
+        const ssize_t got = ::read(fd, buffer, sizeof buffer);
+        if (got < 0)
+            return errno == EINTR || errno == EAGAIN;
+        if (got == 0)
+            return false;
+        for (ssize_t done = 0; done < got;) {
+            const ssize_t n = ::write(STDERR_FILENO, buffer + done, size_t(got - done));
+            if (n <= 0 && errno != EINTR)
+                break;
+            done += qMax<ssize_t>(n, 0);
+        }
+        // Keep a tail so that a message split between reads is still seen.
+        tail.append(buffer, int(got));
+        static const char *const patterns[] = {"No space left on device", "Error writing trailer",
+                                               "Error closing file", "Disk quota exceeded"};
+        for (const char *pattern : patterns)
+            writeFailed |= tail.contains(pattern);
+        tail = tail.right(64);
+        return true;
+    }
+
+    bool writeFailed = false;
+
+private:
+    int fd;
+    QByteArray tail;
+};
+
+// Waits for the child while relaying its errors. With a share below 100%,
+// holds it to that share of the machine by stopping it whenever it has used
+// more processor time than the share allows.
+int waitForChild(pid_t pid, int cpuPercent, ErrorWatch &errors, int errorFd)
+{
+    const bool limited = cpuPercent > 0 && cpuPercent < 100;
     const double share = cpuPercent / 100.0 * static_cast<double>(::sysconf(_SC_NPROCESSORS_ONLN));
     const double slice = 0.05;
     double budget = 0;
     double lastCpu = cpuSeconds(pid);
     double lastTime = now();
+    bool open = true;
     int status = 0;
     for (;;) {
-        const pid_t done = ::waitpid(pid, &status, WNOHANG);
-        if (done == pid)
+        if (open) {
+            pollfd poll = {errorFd, POLLIN, 0};
+            const int ready = ::poll(&poll, 1, limited ? int(slice * 1000) : -1);
+            if (ready > 0)
+                open = errors.relay();
+        } else if (!limited) {
+            while (::waitpid(pid, &status, 0) < 0) {
+                if (errno != EINTR)
+                    return 127 << 8;
+            }
             return status;
+        } else {
+            sleepSeconds(slice);
+        }
+        const pid_t done = ::waitpid(pid, &status, WNOHANG);
+        if (done == pid) {
+            while (open)
+                open = errors.relay();
+            return status;
+        }
         if (done < 0 && errno != EINTR)
             return 127 << 8;
-        sleepSeconds(slice);
+        if (!limited)
+            continue;
         const double cpu = cpuSeconds(pid);
         const double time = now();
-        if (cpu < 0)
+        if (cpu < 0 || time - lastTime < slice)
             continue;
         budget += share * (time - lastTime) - (cpu - lastCpu);
         budget = qMin(budget, share * 0.2); // no saving up for a burst
@@ -129,6 +192,11 @@ FFmpegRunner::Result FFmpegRunner::run(const QString &program, const QStringList
         reportStartFailure(argv[0], errno);
         return {};
     }
+    int errorPipe[2];
+    if (::pipe2(errorPipe, O_CLOEXEC) != 0) {
+        reportStartFailure(argv[0], errno);
+        return {};
+    }
     const pid_t parentPid = ::getpid();
     childPid = ::fork();
     if (childPid < 0) {
@@ -142,6 +210,7 @@ FFmpegRunner::Result FFmpegRunner::run(const QString &program, const QStringList
         if (::getppid() != parentPid)
             ::_exit(127);
         ::signal(SIGPIPE, SIG_DFL);
+        ::dup2(errorPipe[1], STDERR_FILENO);
         // Move the descriptors out of the way first, then into place.
         std::vector<int> high;
         for (int fd : options.childFds)
@@ -154,6 +223,7 @@ FFmpegRunner::Result FFmpegRunner::run(const QString &program, const QStringList
         ::_exit(127);
     }
     ::close(execPipe[1]);
+    ::close(errorPipe[1]);
     int execError = 0;
     ssize_t got;
     do {
@@ -161,29 +231,25 @@ FFmpegRunner::Result FFmpegRunner::run(const QString &program, const QStringList
     } while (got < 0 && errno == EINTR);
     ::close(execPipe[0]);
 
+    if (got != sizeof execError && options.started)
+        options.started();
+
     struct sigaction action = {};
     action.sa_handler = forwardSignal;
     sigemptyset(&action.sa_mask);
     for (int sig : {SIGINT, SIGTERM, SIGHUP})
         ::sigaction(sig, &action, nullptr);
 
-    int status = 0;
-    if (options.cpuPercent > 0 && options.cpuPercent < 100 && got != sizeof execError) {
-        status = waitLimited(childPid, options.cpuPercent);
-    } else {
-        while (::waitpid(childPid, &status, 0) < 0) {
-            if (errno != EINTR) {
-                status = 127 << 8;
-                break;
-            }
-        }
-    }
+    ErrorWatch errors(errorPipe[0]);
+    const int status = waitForChild(childPid, options.cpuPercent, errors, errorPipe[0]);
+    ::close(errorPipe[0]);
     childPid = -1;
     if (got == static_cast<ssize_t>(sizeof execError)) {
         reportStartFailure(argv[0], execError);
         return {};
     }
     Result result;
+    result.writeFailed = errors.writeFailed;
     if (WIFSIGNALED(status))
         result.signal = WTERMSIG(status);
     else if (WIFEXITED(status))

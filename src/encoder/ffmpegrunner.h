@@ -2,10 +2,11 @@
 
 #include <QStringList>
 
+#include <functional>
 #include <vector>
 
-// Runs stock ffmpeg as a child that shares our standard output and error, so
-// its status lines reach whoever watches us unchanged.
+// Runs stock ffmpeg as a child whose standard error we pass on unchanged, so
+// its status lines reach whoever watches us as they are.
 class FFmpegRunner
 {
 public:
@@ -14,14 +15,16 @@ public:
 
     struct Options
     {
-        std::vector<int> childFds; // become descriptors 3, 4, ... of the child
-        int cpuPercent = 0;        // share of the whole machine, 1 to 99; else no limit
+        std::vector<int> childFds;     // become descriptors 3, 4, ... of the child
+        int cpuPercent = 0;            // share of the whole machine, 1 to 99; else no limit
+        std::function<void()> started; // called in the parent once the child runs
     };
 
     struct Result
     {
-        int exitCode = 127; // 127: could not be started, with a line on stderr saying why
-        int signal = 0;     // non-zero: the child was killed by this signal
+        int exitCode = 127;       // 127: could not be started, with a line on stderr saying why
+        int signal = 0;           // non-zero: the child was killed by this signal
+        bool writeFailed = false; // the output could not be written out, whatever the exit code
     };
 
     // Runs the program with the arguments and waits for it.

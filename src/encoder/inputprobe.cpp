@@ -1,5 +1,7 @@
 #include "inputprobe.h"
 
+#include "dvddisc.h"
+
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -27,6 +29,8 @@ InputLayout layout(const QString &path)
     const QJsonArray streams = root.value(QStringLiteral("streams")).toArray();
     for (const auto &value : streams) {
         const QString type = value.toObject().value(QStringLiteral("codec_type")).toString();
+        if (type == QLatin1String("video") && !result.hasVideo)
+            result.frameRate = value.toObject().value(QStringLiteral("avg_frame_rate")).toString();
         result.hasVideo |= type == QLatin1String("video");
         result.hasAudio |= type == QLatin1String("audio");
     }
@@ -36,6 +40,19 @@ InputLayout layout(const QString &path)
                           .toString()
                           .toDouble();
     return result;
+}
+
+void addTitleLayout(InputLayout &layout, const QString &ifoPath, int pgcIndex)
+{
+    const auto disc = LoadDvdDisc(ifoPath, false);
+    if (!disc)
+        return;
+    layout.frameRate
+        = disc->videoStandard == 0 ? QStringLiteral("30000/1001") : QStringLiteral("25");
+    for (const auto &title : disc->titles) {
+        if (title->pgcIndex == pgcIndex && title->range)
+            layout.duration = title->range->end - title->range->start;
+    }
 }
 
 } // namespace InputProbe
