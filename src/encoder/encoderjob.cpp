@@ -178,7 +178,7 @@ QStringList EncoderJob::ffmpegArguments(const QStringList &sources,
     if (overwrite)
         args << QStringLiteral("-y");
     for (int i = 0; i < inputs.size(); ++i) {
-        args << inputs[i].options;
+        args << output.inputArgs << inputs[i].options;
         if (inputs[i].isTitle()) {
             // Subpicture streams may start late in a title: read further before
             // deciding. (A longer analyzeduration together with -ss on a pipe

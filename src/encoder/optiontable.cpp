@@ -8,7 +8,8 @@ enum class Action {
     Keep,   // pass on as it stands
     Rename, // pass on under the replacement name
     Drop,   // no equivalent: leave out, say so
-    Custom  // see apply()
+    Custom, // see apply()
+    Input   // a decoding option: given to every input instead
 };
 
 struct Row
@@ -92,8 +93,8 @@ const Row rows[] = {
     {"me_range", Arity::One, Action::Keep, nullptr},
     {"dc", Arity::One, Action::Keep, nullptr},
     {"pred", Arity::One, Action::Keep, nullptr},
-    {"ec", Arity::One, Action::Keep, nullptr},
-    {"bug", Arity::One, Action::Keep, nullptr},
+    {"ec", Arity::One, Action::Input, nullptr},
+    {"bug", Arity::One, Action::Input, nullptr},
     {"b:v", Arity::One, Action::Keep, nullptr},
     {"r", Arity::One, Action::Keep, nullptr},
     {"threads", Arity::One, Action::Keep, nullptr},
@@ -260,6 +261,9 @@ void applyOutput(OutputOptions &out, const QString &name, const QString &value, 
     case Action::Drop:
         out.notes
             << QStringLiteral("option -%1 has no equivalent in this ffmpeg: left out").arg(name);
+        return;
+    case Action::Input:
+        out.inputArgs << QLatin1Char('-') + name << value;
         return;
     case Action::Custom:
         break;

@@ -9,6 +9,7 @@
 struct OutputOptions
 {
     QStringList args;         // translated output options, in order
+    QStringList inputArgs;    // decoding options, given to every input
     QStringList preFilters;   // video filters that belong ahead of scaling
     QStringList audioFilters; // audio filters, in order
     QString videoCodec;       // as ffmpeg names it

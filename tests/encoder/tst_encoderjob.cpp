@@ -1,0 +1,386 @@
+#include "encoderjob.h"
+#include "ffmpegtools.h"
+#include "filtertranslator.h"
+#include "mediafixtures.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <sys/resource.h>
+#include <unistd.h>
+
+namespace {
+
+QStringList words(const QString &text)
+{
+    return text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+}
+
+// Zero crossings per second of the first channel: the tone's pitch, twice.
+double crossingsPerSecond(const QString &file)
+{
+    QProcess ffmpeg;
+    ffmpeg.start(QStringLiteral("ffmpeg"),
+                 words(QStringLiteral("-v error -i %1 -ac 1 -ar 48000 -f s16le -").arg(file)));
+    if (!ffmpeg.waitForFinished(30000))
+        return -1;
+    const QByteArray pcm = ffmpeg.readAllStandardOutput();
+    const auto *samples = reinterpret_cast<const qint16 *>(pcm.constData());
+    const int count = pcm.size() / 2;
+    int crossings = 0;
+    for (int i = 1; i < count; ++i)
+        crossings += (samples[i - 1] < 0) != (samples[i] < 0);
+    return count ? crossings * 48000.0 / count : -1;
+}
+
+} // namespace
+
+class TestEncoderJob : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    // The argument list itself
+    void titleListBecomesPipedInput();
+    void mergedListBecomesJoin();
+    void titleTrimIsDoneOnFrames();
+    void badLists_data();
+    void badLists();
+    // Real conversions through kestrove-encoder
+    void titleWithSecondAudioAndBurntSubtitle();
+    void trimmedAndCroppedFile();
+    void watermarkOnFile();
+    void mergeDurationIsTheSum();
+    void failuresSayWhyAndLeaveNoFakeResult_data();
+    void failuresSayWhyAndLeaveNoFakeResult();
+    void existingFileIsKeptWithoutOverwrite();
+    void fullDiskRemovesTheUnfinishedFile();
+    void processorShareIsHeld();
+
+private:
+    int encode(const QStringList &arguments, QByteArray *log = nullptr);
+    QString fixtures;
+    QString ifo;
+    QTemporaryDir dir;
+};
+
+void TestEncoderJob::initTestCase()
+{
+    fixtures = mediaFixtures();
+    QVERIFY2(!fixtures.isEmpty(), "the media fixtures could not be made");
+    ifo = fixture(fixtures, "dvd-main/VIDEO_TS/VTS_01_0.IFO");
+    QVERIFY(QFile::exists(ifo));
+}
+
+int TestEncoderJob::encode(const QStringList &arguments, QByteArray *log)
+{
+    return runTool(QCoreApplication::applicationDirPath() + QStringLiteral("/kestrove-encoder"),
+                   arguments, log, dir.path(), 120000);
+}
+
+void TestEncoderJob::titleListBecomesPipedInput()
+{
+    // A disc title with the first audio track, no subtitle, the way the
+    // program writes it.
+    const QStringList list = words(QStringLiteral(
+        "-y -ss 0 -pgc 0 -audio_track 0 -subtitle -1 -i /d/VIDEO_TS/VTS_01_0.IFO "
+        "-vf scale=640:360,pad=640:480:0:60 -b:v 1200000 -r 29.97 -vcodec mpeg4 -threads 4 "
+        "-aspect 1.33333 -ab 192k -ac 2 -ar 44100 -acodec libfaac /v/Title_1.mp4"));
+    QString error;
+    const auto job = EncoderJob::parse(list, &error);
+    QVERIFY2(job, qPrintable(error));
+    QCOMPARE(job->inputs.size(), 1);
+    const EncoderInput &in = job->inputs.first();
+    QCOMPARE(in.pgc, 0);
+    QCOMPARE(in.audioTrack, 0);
+    QCOMPARE(in.subtitle, -1);
+    QCOMPARE(in.path, QStringLiteral("/d/VIDEO_TS/VTS_01_0.IFO"));
+    QCOMPARE(in.videoChain, QStringLiteral("scale=640:360,pad=640:480:0:60"));
+    QVERIFY(in.options.isEmpty());
+    QVERIFY(job->overwrite);
+
+    InputLayout layout;
+    layout.audioSpecifier = QStringLiteral("i:0x80");
+    QCOMPARE(job->ffmpegArguments({QStringLiteral("pipe:3")}, {layout}),
+             words(QStringLiteral(
+                 "-nostdin -y -probesize 50M -f mpeg -i pipe:3 -vf scale=640:360,pad=640:480:0:60 "
+                 "-map 0:v:0? -map 0:i:0x80? -b:v 1200000 -r 29.97 -c:v mpeg4 -threads 4 "
+                 "-aspect 1.33333 -b:a 192k -ac 2 -ar 44100 -c:a aac /v/Title_1.mp4")));
+}
+
+void TestEncoderJob::mergedListBecomesJoin()
+{
+    const QStringList list
+        = words(QStringLiteral("-y -ss 10 -t 50 -i /a.mkv -vf scale=320:240 -si -ss 0 -ast 1 -i "
+                               "/b.mp4 -vf crop=10:10:2:2,scale=320:240 "
+                               "-vol 512 -vcodec mpeg4 /o.mp4"));
+    QString error;
+    const auto job = EncoderJob::parse(list, &error);
+    QVERIFY2(job, qPrintable(error));
+    QCOMPARE(job->inputs.size(), 2);
+    QCOMPARE(job->inputs[0].options, words(QStringLiteral("-ss 10 -t 50")));
+    QCOMPARE(job->inputs[1].options, words(QStringLiteral("-ss 0")));
+    QCOMPARE(job->inputs[1].audioStream, 1);
+    QCOMPARE(job->inputs[1].videoChain, QStringLiteral("crop=10:10:2:2,scale=320:240"));
+
+    InputLayout withAudio;
+    withAudio.frameRate = QStringLiteral("25");
+    InputLayout silent = withAudio;
+    silent.hasAudio = false;
+    silent.duration = 3;
+    const QStringList args = job->ffmpegArguments(
+        {QStringLiteral("/a.mkv"), QStringLiteral("/b.mp4")}, {withAudio, silent});
+    const QString graph = args.value(args.indexOf(QStringLiteral("-filter_complex")) + 1);
+    QCOMPARE(graph,
+             QStringLiteral("[0:v:0]scale=320:240,setsar=1,format=yuv420p[v0];"
+                            "[0:a:0]aresample=48000,aformat=channel_layouts=stereo[a0];"
+                            "[1:v:0]crop=10:10:2:2,scale=320:240,setsar=1,format=yuv420p[v1];"
+                            "anullsrc=r=48000:cl=stereo,atrim=duration=3[a1];"
+                            "[v0][a0][v1][a1]concat=n=2:v=1:a=1[vout][acat];[acat]volume=2[aout]"));
+    // One frame rate for the join when the profile gives none.
+    QCOMPARE(args.mid(args.indexOf(QStringLiteral("-r")), 2), words(QStringLiteral("-r 25")));
+    QVERIFY(args.contains(QStringLiteral("[vout]")));
+}
+
+void TestEncoderJob::titleTrimIsDoneOnFrames()
+{
+    // ffmpeg can't seek in a pipe: a title's -ss and -t move behind the input.
+    const auto job = EncoderJob::parse(
+        words(QStringLiteral(
+            "-ss 1.5 -t 2 -pgc 1 -audio_track -1 -subtitle 0 -i /d.IFO -vf scale=8:8 o.mkv")),
+        nullptr);
+    QVERIFY(job);
+    InputLayout layout;
+    layout.subtitleSpecifier = QStringLiteral("i:0x20");
+    const QStringList args = job->ffmpegArguments({QStringLiteral("pipe:3")}, {layout});
+    QCOMPARE(args.mid(0, args.indexOf(QStringLiteral("-filter_complex"))),
+             words(QStringLiteral(
+                 "-nostdin -probesize 50M -ifo_palette /d.IFO -f mpeg -i pipe:3 -ss 1.5 -t 2")));
+    QCOMPARE(args.value(args.indexOf(QStringLiteral("-filter_complex")) + 1),
+             QStringLiteral("[0:v:0]null[kb];[kb][0:i:0x20]overlay=format=auto,scale=8:8[vout]"));
+    QVERIFY2(!args.join(QLatin1Char(' ')).contains(QStringLiteral("0:a")),
+             "no audio track was chosen");
+}
+
+void TestEncoderJob::badLists_data()
+{
+    QTest::addColumn<QString>("list");
+    QTest::addColumn<QString>("error");
+    QTest::newRow("no output") << QStringLiteral("-i a.mkv -vcodec")
+                               << QStringLiteral("last argument");
+    QTest::newRow("no input") << QStringLiteral("-vcodec mpeg4 out.mkv")
+                              << QStringLiteral("no input");
+    QTest::newRow("stray word") << QStringLiteral("-i a.mkv stray out.mkv")
+                                << QStringLiteral("unexpected argument");
+    QTest::newRow("pgc not a number")
+        << QStringLiteral("-pgc x -i a.IFO out.mkv") << QStringLiteral("needs a number");
+    QTest::newRow("nothing") << QStringLiteral("") << QStringLiteral("last argument");
+}
+
+void TestEncoderJob::badLists()
+{
+    QFETCH(QString, list);
+    QFETCH(QString, error);
+    QString said;
+    QVERIFY(!EncoderJob::parse(words(list), &said));
+    QVERIFY2(said.contains(error), qPrintable(said));
+}
+
+void TestEncoderJob::titleWithSecondAudioAndBurntSubtitle()
+{
+    const QString burnt = dir.filePath(QStringLiteral("burnt.mp4"));
+    const QString clean = dir.filePath(QStringLiteral("clean.mp4"));
+    QByteArray log;
+    const QString common
+        = QStringLiteral("-pgc 0 -audio_track 1 -subtitle %1 -i %2 -vf scale=360:288 "
+                         "-vcodec mpeg4 -b:v 800000 -acodec libfaac -ab 128k ");
+    QCOMPARE(encode(words(QStringLiteral("-y -ss 0 ") + common.arg(0).arg(ifo) + burnt), &log), 0);
+    QCOMPARE(encode(words(QStringLiteral("-y -ss 0 ") + common.arg(-1).arg(ifo) + clean), &log), 0);
+
+    QVERIFY(qAbs(probeDuration(burnt) - 4.8) < 0.5);
+    QCOMPARE(probe(burnt, QStringLiteral("stream=codec_name"), QStringLiteral("a")).trimmed(),
+             QStringLiteral("codec_name=aac"));
+    // The second track is the 660 Hz one; the first is 440 Hz.
+    const double pitch = crossingsPerSecond(burnt) / 2;
+    QVERIFY2(qAbs(pitch - 660) < 30, qPrintable(QString::number(pitch)));
+
+    const QImage withSubtitle = grabFrame(burnt, 1.0, 360, 288);
+    const QImage without = grabFrame(clean, 1.0, 360, 288);
+    QVERIFY(!withSubtitle.isNull() && !without.isNull());
+    QVERIFY2(differingShare(withSubtitle, without) > 0.002, "no subtitle to be seen");
+    // Shown for the first two seconds only.
+    QVERIFY(differingShare(grabFrame(burnt, 3.5, 360, 288), grabFrame(clean, 3.5, 360, 288))
+            < 0.001);
+}
+
+void TestEncoderJob::trimmedAndCroppedFile()
+{
+    const QString out = dir.filePath(QStringLiteral("trimmed.mkv"));
+    QCOMPARE(encode(words(
+                 QStringLiteral(
+                     "-y -ss 0.5 -t 1 -i %1 -vf crop=100:80:30:20,scale=200:160 -vcodec mpeg4 %2")
+                     .arg(fixture(fixtures, "movie.mkv"), out))),
+             0);
+    QVERIFY(qAbs(probeDuration(out) - 1.0) < 0.15);
+    QCOMPARE(probe(out, QStringLiteral("stream=width,height"), QStringLiteral("v")).trimmed(),
+             QStringLiteral("width=200\nheight=160"));
+}
+
+void TestEncoderJob::watermarkOnFile()
+{
+    QImage mark(40, 30, QImage::Format_ARGB32);
+    mark.fill(QColor(255, 0, 0));
+    const QString markPath = dir.filePath(QStringLiteral("mark, 'one'.png"));
+    QVERIFY(mark.save(markPath));
+    const QString out = dir.filePath(QStringLiteral("marked.mkv"));
+    const QString chain
+        = QStringLiteral("scale=320:240,watermark2=100:50:") + FilterTranslator::toHex(markPath);
+    QCOMPARE(encode({QStringLiteral("-y"), QStringLiteral("-i"), fixture(fixtures, "clip.mp4"),
+                     QStringLiteral("-vf"), chain, QStringLiteral("-vcodec"),
+                     QStringLiteral("mpeg4"), QStringLiteral("-qscale"), QStringLiteral("2"), out}),
+             0);
+    const QImage frame = grabFrame(out, 0.5, 320, 240);
+    QVERIFY(!frame.isNull());
+    const QColor inside = frame.pixelColor(120, 65);
+    QVERIFY2(inside.red() > 200 && inside.green() < 60 && inside.blue() < 60,
+             qPrintable(inside.name()));
+    const QColor outside = frame.pixelColor(300, 220);
+    QVERIFY(!(outside.red() > 200 && outside.green() < 60));
+}
+
+void TestEncoderJob::mergeDurationIsTheSum()
+{
+    const QString out = dir.filePath(QStringLiteral("merged.mp4"));
+    const double first = probeDuration(fixture(fixtures, "clip.mp4"));
+    QVERIFY(first > 0);
+    QCOMPARE(
+        encode(words(
+            QStringLiteral("-y -ss 0 -i %1 -vf scale=320:240 -si -ss 1 -t 2 -pgc 0 -audio_track 0 "
+                           "-subtitle -1 -i %2 -vf scale=320:180,pad=320:240:0:30 -vcodec mpeg4 "
+                           "-acodec libfaac %3")
+                .arg(fixture(fixtures, "clip.mp4"), ifo, out))),
+        0);
+    QVERIFY2(qAbs(probeDuration(out, QStringLiteral("v")) - (first + 2)) < 0.2,
+             qPrintable(QString::number(probeDuration(out, QStringLiteral("v")))));
+    QVERIFY(qAbs(probeDuration(out, QStringLiteral("a")) - (first + 2)) < 0.2);
+}
+
+void TestEncoderJob::failuresSayWhyAndLeaveNoFakeResult_data()
+{
+    QTest::addColumn<QString>("inputPart");
+    QTest::addColumn<QString>("said");
+    QTest::newRow("missing source")
+        << QStringLiteral("-i %D/no-such.mkv") << QStringLiteral("No such file");
+    QTest::newRow("pgc out of range") << QStringLiteral("-pgc 99 -audio_track 0 -subtitle -1 -i %I")
+                                      << QStringLiteral("cannot read title 99");
+    QTest::newRow("not a disc") << QStringLiteral(
+        "-pgc 0 -audio_track 0 -subtitle -1 -i %D/VTS_01_0.IFO")
+                                << QStringLiteral("cannot read title 0");
+    QTest::newRow("no such audio track")
+        << QStringLiteral("-pgc 0 -audio_track 7 -subtitle -1 -i %I")
+        << QStringLiteral("no audio track 7");
+    QTest::newRow("no such subtitle") << QStringLiteral("-pgc 0 -audio_track 0 -subtitle 3 -i %I")
+                                      << QStringLiteral("no subtitle track 3");
+}
+
+void TestEncoderJob::failuresSayWhyAndLeaveNoFakeResult()
+{
+    QFETCH(QString, inputPart);
+    QFETCH(QString, said);
+    QFile text(dir.filePath(QStringLiteral("VTS_01_0.IFO")));
+    QVERIFY(text.open(QIODevice::WriteOnly));
+    text.write("this is not an IFO file\n");
+    text.close();
+    // The program reserves the output name with an empty file first.
+    const QString out = dir.filePath(QStringLiteral("failed.mp4"));
+    QFile reserved(out);
+    QVERIFY(reserved.open(QIODevice::WriteOnly));
+    reserved.close();
+
+    QByteArray log;
+    const QString input = QString(inputPart)
+                              .replace(QStringLiteral("%D"), dir.path())
+                              .replace(QStringLiteral("%I"), ifo);
+    const int code = encode(
+        words(QStringLiteral("-y ") + input + QStringLiteral(" -vcodec mpeg4 ") + out), &log);
+    QVERIFY(code != 0);
+    QVERIFY2(log.contains(said.toUtf8()), log.constData());
+    QVERIFY(QFileInfo(out).size() == 0);
+}
+
+void TestEncoderJob::existingFileIsKeptWithoutOverwrite()
+{
+    const QString out = dir.filePath(QStringLiteral("precious.mkv"));
+    QFile file(out);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("the user's own file");
+    file.close();
+    QByteArray log;
+    QVERIFY(
+        encode(
+            words(QStringLiteral("-i %1 -vcodec mpeg4 %2").arg(fixture(fixtures, "clip.mp4"), out)),
+            &log)
+        != 0);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), QByteArray("the user's own file"));
+}
+
+void TestEncoderJob::fullDiskRemovesTheUnfinishedFile()
+{
+    // A tiny file system of its own; a private mount namespace where we aren't root.
+    const QString mountPoint = dir.filePath(QStringLiteral("full"));
+    QVERIFY(QDir().mkpath(mountPoint));
+    const QString encoder
+        = QCoreApplication::applicationDirPath() + QStringLiteral("/kestrove-encoder");
+    const QString script
+        = QStringLiteral("mount -t tmpfs -o size=8k none '%1' || exit 99; : > '%1/out.mkv'; "
+                         "'%2' -y -i '%3' -vcodec mpeg4 -b:v 5000000 '%1/out.mkv'; rc=$?; "
+                         "if [ -e '%1/out.mkv' ]; then echo LEFT; fi; umount '%1'; exit $rc")
+              .arg(mountPoint, encoder, fixture(fixtures, "clip.mp4"));
+    const QStringList args = ::geteuid() == 0
+                                 ? QStringList{QStringLiteral("-m"), QStringLiteral("sh"),
+                                               QStringLiteral("-c"), script}
+                                 : QStringList{QStringLiteral("-rm"), QStringLiteral("sh"),
+                                               QStringLiteral("-c"), script};
+    QByteArray log;
+    const int code = runTool(QStringLiteral("unshare"), args, &log);
+    QVERIFY2(code != 99, "could not mount a small file system");
+    QVERIFY2(code != 0, log.constData());
+    QVERIFY2(log.contains("could not be written completely"), log.constData());
+    QVERIFY2(!log.contains("LEFT"), log.constData());
+}
+
+void TestEncoderJob::processorShareIsHeld()
+{
+    const QString out = dir.filePath(QStringLiteral("limited.mkv"));
+    const QStringList job
+        = words(QStringLiteral("-y -cpu_percent 25 -t 6 -f lavfi -i testsrc2=s=640x480:r=25 "
+                               "-vcodec libx264 -preset medium -threads 2 %1")
+                    .arg(out));
+    rusage before;
+    ::getrusage(RUSAGE_CHILDREN, &before);
+    QElapsedTimer timer;
+    timer.start();
+    QCOMPARE(encode(job), 0);
+    const double wall = timer.elapsed() / 1000.0;
+    rusage after;
+    ::getrusage(RUSAGE_CHILDREN, &after);
+    auto seconds = [](const timeval &t) {
+        return t.tv_sec + t.tv_usec / 1e6;
+    };
+    const double cpu = seconds(after.ru_utime) - seconds(before.ru_utime) + seconds(after.ru_stime)
+                       - seconds(before.ru_stime);
+    const double allowed = 0.25 * ::sysconf(_SC_NPROCESSORS_ONLN);
+    QVERIFY2(
+        cpu / wall < allowed * 1.35,
+        qPrintable(
+            QStringLiteral("used %1 of a processor, allowed %2").arg(cpu / wall).arg(allowed)));
+    QVERIFY(qAbs(probeDuration(out) - 6) < 0.2);
+}
+
+QTEST_GUILESS_MAIN(TestEncoderJob)
+#include "tst_encoderjob.moc"
