@@ -61,7 +61,9 @@ bool ffmpegHasEncoder(const QString &ffmpegProgram, const QString &encoder)
             // " V....D h264_nvenc    NVIDIA NVENC H.264 encoder (codec h264)"
             static const QRegularExpression line(QStringLiteral("^ [A-Z.]{6} (\\S+)"),
                                                  QRegularExpression::MultilineOption);
-            const QString listing = QString::fromLocal8Bit(process.readAllStandardOutput());
+            // The legend above the "------" line has the same shape.
+            QString listing = QString::fromLocal8Bit(process.readAllStandardOutput());
+            listing.remove(0, listing.indexOf(QLatin1String("------")));
             for (auto match = line.globalMatch(listing); match.hasNext();)
                 names.append(match.next().captured(1));
         } else {
