@@ -253,6 +253,22 @@ void TaskList::moveRangeUp(int row)
     down.end = down.start + upLength;
 }
 
+void TaskList::applyToAll(const ChildTask &edited, bool crop, bool image, bool watermark)
+{
+    for (const auto &task : tasks) {
+        for (const auto &child : task->items) {
+            if (child.get() == &edited)
+                continue;
+            if (crop)
+                edited.edit.applyCropTo(child->edit, child->width, child->height);
+            if (image)
+                edited.edit.applyImageTo(child->edit);
+            if (watermark)
+                edited.edit.applyWatermarkTo(child->edit);
+        }
+    }
+}
+
 void TaskList::updateCommonRoot()
 {
     commonRoot.clear();

@@ -61,6 +61,10 @@ public:
     void moveRangeDown(int row) { moveRangeUp(row + 1); }
     const std::vector<DiscRange> &ranges() const { return discRanges; }
 
+    // "Apply to All": every other input of every task takes the ticked parts
+    // of the edited input's values.
+    void applyToAll(const ChildTask &edited, bool crop, bool image, bool watermark);
+
     void updateCommonRoot();
     QString commonRootPath() const { return commonRoot; }
     QString nextMergeName();

@@ -396,6 +396,65 @@ private slots:
         QCOMPARE(list.nextMergeName(), QStringLiteral("Merge 3"));
     }
 
+    void applyToAll_data()
+    {
+        QTest::addColumn<bool>("crop");
+        QTest::addColumn<bool>("image");
+        QTest::addColumn<bool>("watermark");
+        QTest::newRow("crop") << true << false << false;
+        QTest::newRow("image") << false << true << false;
+        QTest::newRow("watermark") << false << false << true;
+        QTest::newRow("all three") << true << true << true;
+    }
+
+    void applyToAll()
+    {
+        QFETCH(bool, crop);
+        QFETCH(bool, image);
+        QFETCH(bool, watermark);
+        TaskList list(&catalogue);
+        const int title = list.addTitle(mp4, *mainDisc->titles[0], 1, 1);   // 720x576
+        const int small = list.addFile(mp4, fixture(fixtures, "clip.mp4")); // 160x120
+        const int merge = list.addMerge(mp4);
+        list.addToMerge(title, merge);
+        list.addToMerge(small, merge);
+
+        ChildTask &edited = *list.byId(title)->item(0);
+        EditParameters &values = edited.edit;
+        values.cropLeft = 100;
+        values.cropRight = 50;
+        values.cropTop = 20;
+        values.cropBottom = 20;
+        values.zoomMode = QStringLiteral("Full Screen");
+        values.brightness = 25;
+        values.setEffectEnabled(5, true);
+        values.watermark().text = QStringLiteral("mark");
+        const QUuid editedId = values.watermark().id;
+        list.applyToAll(edited, crop, image, watermark);
+
+        const std::vector<const ChildTask *> others{
+            list.byId(small)->item(0), list.byId(merge)->item(0), list.byId(merge)->item(1)};
+        for (const ChildTask *child : others) {
+            const EditParameters &edit = child->edit;
+            const bool wide = child->width > 166; // wider than the cut and 16
+            const bool high = child->height > 56; // higher than the cut and 16
+            QCOMPARE(edit.cropLeft, crop && wide ? 100 : 0);
+            QCOMPARE(edit.cropRight, crop && wide ? 50 : 0);
+            QCOMPARE(edit.cropTop, crop && high ? 20 : 0);
+            QCOMPARE(edit.zoomMode == QLatin1String("Full Screen"), crop);
+            QCOMPARE(edit.brightness, image ? 25 : 0);
+            QVERIFY(edit.enabledEffects().empty());
+            QCOMPARE(edit.watermark().text, watermark ? QStringLiteral("mark") : QString());
+            if (watermark) // a copy of the entry, under a new identity
+                QVERIFY(edit.watermark().id != editedId);
+        }
+        // The small clip keeps its left and right edges, not its top and bottom.
+        QCOMPARE(list.byId(small)->item(0)->edit.cropTop, crop ? 20 : 0);
+        QCOMPARE(list.byId(small)->item(0)->edit.cropLeft, 0);
+        QCOMPARE(values.watermark().id, editedId);
+        QCOMPARE(values.enabledEffects(), std::vector<int>{6});
+    }
+
     void commonRoot()
     {
         TaskList list(&catalogue);
