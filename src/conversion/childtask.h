@@ -6,6 +6,8 @@
 class Task;
 
 // One input of a task: what the source holds and what the user did to it.
+// A copy takes everything; an assignment keeps the target's watermark and
+// rotation, as EditParameters' does.
 class ChildTask : public MediaInfo
 {
 public:
