@@ -1,0 +1,267 @@
+#include "task.h"
+
+#include "profilelookup.h"
+#include "utils.h"
+
+#include <QFile>
+
+#include <algorithm>
+
+std::unique_ptr<Task> Task::clone() const
+{
+    auto copy = std::make_unique<Task>();
+    for (const auto &child : items) {
+        auto childCopy = std::make_unique<ChildTask>(*child);
+        childCopy->owner = copy.get();
+        copy->items.push_back(std::move(childCopy));
+    }
+    copy->output = output;
+    copy->thumbnails = thumbnails;
+    copy->checked = checked;
+    copy->name = name;
+    copy->progress = progress;
+    copy->nextChildId = nextChildId;
+    return copy;
+}
+
+ChildTask *Task::item(int index) const
+{
+    return index >= 0 && index < itemCount() ? items[size_t(index)].get() : nullptr;
+}
+
+ChildTask *Task::itemById(int childId) const
+{
+    for (const auto &child : items) {
+        if (child->id == childId)
+            return child.get();
+    }
+    return nullptr;
+}
+
+int Task::indexOfItem(const ChildTask *child) const
+{
+    for (int i = 0; i < itemCount(); ++i) {
+        if (items[size_t(i)].get() == child)
+            return i;
+    }
+    return -1;
+}
+
+int Task::appendItem(const ChildTask &source)
+{
+    auto copy = std::make_unique<ChildTask>(source);
+    copy->id = nextChildId++;
+    copy->owner = this;
+    items.push_back(std::move(copy));
+    return items.back()->id;
+}
+
+void Task::removeItem(int index)
+{
+    if (item(index))
+        items.erase(items.begin() + index);
+}
+
+int Task::moveItemUp(int index)
+{
+    if (!item(index) || !item(index - 1))
+        return -1;
+    std::swap(items[size_t(index)], items[size_t(index - 1)]);
+    return 0;
+}
+
+int Task::moveItemDown(int index)
+{
+    if (!item(index) || !item(index + 1))
+        return -1;
+    std::swap(items[size_t(index)], items[size_t(index + 1)]);
+    return 0;
+}
+
+bool Task::isChecked(int index) const
+{
+    if (index == -1)
+        return checked;
+    const ChildTask *child = item(index);
+    return child && child->checked;
+}
+
+void Task::setChecked(bool value, int index)
+{
+    if (index == -1)
+        checked = value;
+    else if (ChildTask *child = item(index))
+        child->checked = value;
+}
+
+QString Task::displayPath(int index) const
+{
+    if (index == -1)
+        return name;
+    const ChildTask *child = item(index);
+    return child ? child->sourcePath : QString();
+}
+
+void Task::setState(EState newState)
+{
+    if (newState == state)
+        return;
+    // Each run is timed afresh; the queue's time tracker starts the clock.
+    if (newState == Running)
+        reset();
+    state = newState;
+}
+
+void Task::setOutputBaseName(const QString &base, const ProfileLookup &catalogue)
+{
+    setOutputBaseName(base, catalogue.extNameOf(output.profileKey));
+}
+
+void Task::setOutputBaseName(const QString &base, const QString &extension)
+{
+    // A profile the catalogue doesn't know gives no extension and no point.
+    output.fileName = extension.isEmpty() ? base : base + QLatin1Char('.') + extension;
+}
+
+QSize Task::outputSize() const
+{
+    QString size = value(QStringLiteral("s"));
+    if (size.isEmpty())
+        return {0, 0};
+    const int bracket = size.indexOf(QLatin1Char('('));
+    if (bracket >= 0)
+        size.truncate(bracket);
+    if (size == QLatin1String("Auto")) {
+        const ChildTask *first = item(0);
+        if (!first)
+            return {0, 0};
+        return {int(first->DisplayAspect() * first->height), first->height};
+    }
+    const QStringList parts = size.split(QLatin1Char('*'));
+    if (parts.size() != 2)
+        return {0, 0};
+    return {parts[0].trimmed().toInt(), parts[1].trimmed().toInt()};
+}
+
+QImage Task::thumbnail(int childId)
+{
+    return thumbnails[childId];
+}
+
+double Task::totalDuration(bool onlyChecked) const
+{
+    double sum = 0.0;
+    for (const auto &child : items) {
+        if (!onlyChecked || child->checked)
+            sum += child->duration;
+    }
+    return sum;
+}
+
+QString Task::totalDurationText(bool onlyChecked) const
+{
+    return Utils::durationText(totalDuration(onlyChecked));
+}
+
+double Task::trimmedDuration() const
+{
+    double sum = 0.0;
+    for (const auto &child : items)
+        sum += child->edit.trimEnd - child->edit.trimStart;
+    return sum;
+}
+
+QString Task::trimmedDurationText() const
+{
+    return Utils::durationText(trimmedDuration());
+}
+
+double Task::convertDuration() const
+{
+    double sum = 0.0;
+    for (const auto &child : items)
+        sum += child->edit.convertEnd - child->edit.trimStart;
+    return sum;
+}
+
+bool Task::hasVideoInput() const
+{
+    return std::any_of(items.begin(), items.end(),
+                       [](const auto &child) { return child->hasVideo; });
+}
+
+qint64 Task::estimatedSize() const
+{
+    const double seconds = trimmedDuration();
+    // The video term is a tenth of the nominal rate; the audio one is not.
+    const qint64 video = qint64(value(QStringLiteral("b")).toInt() * 1000.0 * seconds) / 10;
+    const double audio = value(QStringLiteral("ab")).toInt() * 1000.0 * seconds;
+    return qint64(audio + double(video));
+}
+
+void Task::prepareFrame(int index)
+{
+    ChildTask *child = item(index);
+    if (!child)
+        return;
+    EditParameters &edit = child->edit;
+    const QSize size = outputSize();
+    const int W = size.width();
+    const int H = size.height();
+    if (!hasVideoInput()) {
+        edit.innerWidth = std::max(W, 16);
+        edit.innerHeight = std::max(H, 16);
+        return;
+    }
+    if (W <= 0 || H <= 0)
+        return; // a profile without video has no frame
+
+    const int cw = std::max(child->width - edit.cropRight - edit.cropLeft, 16);
+    const int ch = std::max(child->height - edit.cropBottom - edit.cropTop, 16);
+    double ratio = 0.0;
+    if (edit.zoomMode == QLatin1String("Full Screen")) {
+        edit.innerWidth = W;
+        edit.innerHeight = H;
+        return;
+    } else if (edit.zoomMode == QLatin1String("4:3")) {
+        ratio = 1.3333333333333333;
+    } else if (edit.zoomMode == QLatin1String("16:9")) {
+        ratio = 1.7777777777777777;
+    } else {
+        ratio = double(cw) / double(ch);
+    }
+
+    // An odd bar moves one pixel to the left or the bottom one, so that the
+    // left and top offsets stay even.
+    if (double(W) / double(H) >= ratio) {
+        const int half = (W - int(H * ratio)) / 2;
+        edit.padTop = edit.padBottom = 0;
+        edit.padRight = edit.padLeft = half;
+        if (half % 2) {
+            edit.padRight = half - 1;
+            edit.padLeft = half + 1;
+        }
+        edit.innerWidth = W - edit.padLeft - edit.padRight;
+        edit.innerHeight = H;
+    } else {
+        const int half = (H - int(W / ratio)) / 2;
+        edit.padRight = edit.padLeft = 0;
+        edit.padTop = edit.padBottom = half;
+        if (half % 2) {
+            edit.padTop = half - 1;
+            edit.padBottom = half + 1;
+        }
+        edit.innerWidth = W;
+        edit.innerHeight = H - edit.padBottom - edit.padTop;
+    }
+}
+
+void Task::removeWatermarkFiles()
+{
+    for (const auto &child : items) {
+        if (child->edit.watermarkFile.isEmpty())
+            continue;
+        QFile::remove(child->edit.watermarkFile);
+        child->edit.watermarkFile.clear();
+    }
+}

@@ -1,0 +1,83 @@
+#pragma once
+
+#include "childtask.h"
+#include "runtimer.h"
+#include "taskoutput.h"
+
+#include <QImage>
+#include <QMap>
+#include <QSize>
+
+#include <memory>
+#include <vector>
+
+class ProfileLookup;
+
+// One output file: its inputs in encoding order, what to produce, and its
+// place in the conversion.
+class Task : public RunTimer
+{
+public:
+    enum EState {
+        Idle = 0,
+        Waiting = 1,
+        Running = 2,
+        Paused = 3,
+        Pending = 4,
+        Succeed = 5,
+        Failed = 6
+    };
+
+    Task() = default;
+
+    std::vector<std::unique_ptr<ChildTask>> items;
+    TaskOutput output;
+    QMap<int, QImage> thumbnails; // by child id; a single input uses 0
+    bool checked = true;
+    QString name; // "Merge %1" for a merged task, else empty
+    EState state = Idle;
+    double progress = 0.0; // seconds of output the encoder reported
+    int id = 0;
+    int nextChildId = 1000;
+
+    // A deep copy: new children owned by the copy, Idle, stopwatch at zero.
+    std::unique_ptr<Task> clone() const;
+
+    QString value(const QString &key) const { return output.settings.value(key); }
+
+    int itemCount() const { return int(items.size()); }
+    ChildTask *item(int index) const;
+    ChildTask *itemById(int childId) const;
+    int indexOfItem(const ChildTask *child) const;
+    int appendItem(const ChildTask &source);
+    void removeItem(int index);
+    int moveItemUp(int index);
+    int moveItemDown(int index);
+
+    bool isChecked(int index = -1) const;
+    void setChecked(bool value, int index = -1);
+    QString displayPath(int index = -1) const;
+
+    void setState(EState newState);
+    void setOutputBaseName(const QString &base, const ProfileLookup &catalogue);
+    void setOutputBaseName(const QString &base, const QString &extension);
+
+    // The profile's picture size, (0, 0) for a profile without video.
+    QSize outputSize() const;
+
+    QImage thumbnail(int childId);
+    void setThumbnail(int childId, const QImage &image) { thumbnails[childId] = image; }
+
+    double totalDuration(bool onlyChecked) const;
+    QString totalDurationText(bool onlyChecked) const;
+    double trimmedDuration() const;
+    QString trimmedDurationText() const;
+    double convertDuration() const;
+    bool hasVideoInput() const;
+    qint64 estimatedSize() const;
+
+    // The bars and inner picture size of one input for the output size.
+    void prepareFrame(int index);
+    // Deletes the watermark pictures rendered for a conversion.
+    void removeWatermarkFiles();
+};
