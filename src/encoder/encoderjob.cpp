@@ -86,8 +86,13 @@ std::optional<EncoderJob> EncoderJob::parse(const QStringList &arguments, QStrin
                  || token.name == QLatin1String("vf") || token.name == QLatin1String("cpu_percent"))
             arity = OptionTable::Arity::One;
         const bool next = i + 1 < end;
-        if (arity == OptionTable::Arity::One
-            || (arity == OptionTable::Arity::Guess && next && !looksLikeOption(arguments[i + 1]))) {
+        // Our own input options always take their value; an output option
+        // written without one is the table's to judge.
+        const bool strict = token.name == QLatin1String("i") || token.name == QLatin1String("vf")
+                            || token.name == QLatin1String("cpu_percent")
+                            || inputOptionNames.contains(token.name);
+        if ((arity == OptionTable::Arity::One && strict)
+            || (arity != OptionTable::Arity::None && next && !looksLikeOption(arguments[i + 1]))) {
             if (!next)
                 return fail(QStringLiteral("option -%1 needs a value").arg(token.name));
             token.value = arguments[++i];

@@ -1,8 +1,8 @@
 #include "encoderjob.h"
 #include "ffmpegtools.h"
 #include "filtertranslator.h"
-#include "utils.h"
 #include "mediafixtures.h"
+#include "utils.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -238,8 +238,7 @@ void TestEncoderJob::watermarkOnFile()
     const QString markPath = dir.filePath(QStringLiteral("mark, 'one'.png"));
     QVERIFY(mark.save(markPath));
     const QString out = dir.filePath(QStringLiteral("marked.mkv"));
-    const QString chain
-        = QStringLiteral("scale=320:240,watermark2=100:50:") + hexText(markPath);
+    const QString chain = QStringLiteral("scale=320:240,watermark2=100:50:") + hexText(markPath);
     QCOMPARE(encode({QStringLiteral("-y"), QStringLiteral("-i"), fixture(fixtures, "clip.mp4"),
                      QStringLiteral("-vf"), chain, QStringLiteral("-vcodec"),
                      QStringLiteral("mpeg4"), QStringLiteral("-qscale"), QStringLiteral("2"), out}),
