@@ -2,6 +2,7 @@
 
 #include "utils.h"
 
+#include <QMap>
 #include <QSettings>
 #include <QStandardPaths>
 
@@ -14,7 +15,13 @@ struct Store
     {
         settings.beginGroup(QStringLiteral("Setting"));
     }
+    QVariant value(const QString &key, const QVariant &defaultValue) const
+    {
+        const auto it = overrides.constFind(key);
+        return it != overrides.constEnd() ? *it : settings.value(key, defaultValue);
+    }
     QSettings settings;
+    QMap<QString, QVariant> overrides;
 };
 
 Q_GLOBAL_STATIC(Store, store)
@@ -40,7 +47,7 @@ QString firstOf(std::initializer_list<QStandardPaths::StandardLocation> types)
 
 QString settingString(const QString &key, const QString &defaultValue)
 {
-    return store->settings.value(key, defaultValue).toString();
+    return store->value(key, defaultValue).toString();
 }
 
 void setSettingString(const QString &key, const QString &value)
@@ -50,7 +57,7 @@ void setSettingString(const QString &key, const QString &value)
 
 int settingInt(const QString &key, int defaultValue)
 {
-    return store->settings.value(key, defaultValue).toInt();
+    return store->value(key, defaultValue).toInt();
 }
 
 void setSettingInt(const QString &key, int value)
@@ -60,12 +67,20 @@ void setSettingInt(const QString &key, int value)
 
 bool settingBool(const QString &key, bool defaultValue)
 {
-    return store->settings.value(key, defaultValue).toBool();
+    return store->value(key, defaultValue).toBool();
 }
 
 void setSettingBool(const QString &key, bool value)
 {
     store->settings.setValue(key, value);
+}
+
+void overrideSetting(const QString &key, const QVariant &value)
+{
+    if (value.isValid())
+        store->overrides.insert(key, value);
+    else
+        store->overrides.remove(key);
 }
 
 void syncSettings()

@@ -3,6 +3,7 @@
 #include <QString>
 
 class QSettings;
+class QVariant;
 
 // The persistent store: one user-scope QSettings, group "Setting".
 // Main thread only.
@@ -12,6 +13,11 @@ int settingInt(const QString &key, int defaultValue = 0);
 void setSettingInt(const QString &key, int value);
 bool settingBool(const QString &key, bool defaultValue = false);
 void setSettingBool(const QString &key, bool value);
+
+// A value that holds for this process only: read before the store and never
+// written to it, so a run can point somewhere else without changing what the
+// user keeps. An invalid value takes the override away.
+void overrideSetting(const QString &key, const QVariant &value);
 
 // Writes pending values now instead of waiting for the event loop.
 void syncSettings();

@@ -4,6 +4,7 @@
 
 #include <QDebug>
 #include <QFile>
+#include <QFileInfo>
 
 namespace {
 
@@ -129,6 +130,31 @@ std::unique_ptr<DvdDisc> LoadDvdDisc(const QString &path, bool useAspi)
     std::unique_ptr<DvdDisc> disc = BuildDvdDisc(path, record, attributes);
     ifoFree(&record);
     return disc;
+}
+
+QStringList DvdIfoFiles(const QString &folder)
+{
+    QString videoTs = folder;
+    if (videoTs.mid(videoTs.lastIndexOf(QLatin1Char('/')) + 1) != QLatin1String("VIDEO_TS")) {
+        if (!videoTs.endsWith(QLatin1Char('/')))
+            videoTs += QLatin1Char('/');
+        videoTs += QStringLiteral("VIDEO_TS");
+    }
+    QStringList files;
+    for (int n = 1;; ++n) {
+        const QString file
+            = QStringLiteral("%1/VTS_%2_0.IFO").arg(videoTs).arg(n, 2, 10, QLatin1Char('0'));
+        if (!QFileInfo::exists(file))
+            break;
+        files.append(file);
+    }
+    return files;
+}
+
+bool IsDvdSource(const QString &path)
+{
+    const QFileInfo info(path);
+    return info.isDir() || info.suffix().compare(QLatin1String("ifo"), Qt::CaseInsensitive) == 0;
 }
 
 QString AudioFormatLabel(int index)

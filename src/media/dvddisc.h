@@ -56,5 +56,12 @@ std::unique_ptr<DvdDisc> LoadDvdDisc(const QString &path, bool useAspi);
 std::unique_ptr<DvdDisc> BuildDvdDisc(const QString &path, const IfoRecord &record,
                                       const MediaAttributes &attributes);
 
+// The IFO files of a disc folder: the folder is completed to its VIDEO_TS
+// (a drive root or the folder above it, case-sensitive), then VTS_01_0.IFO,
+// VTS_02_0.IFO and so on are taken while they exist. Empty when there is none.
+QStringList DvdIfoFiles(const QString &folder);
+// Whether a path names a disc rather than a media file: a folder or an IFO file.
+bool IsDvdSource(const QString &path);
+
 QString AudioFormatLabel(int index);
 QString VideoFormatLabel(int index);

@@ -103,6 +103,17 @@ QString ProfileGroupLoader::profileKey(const QString &groupId, const QString &id
     return QStringLiteral("%1,%2").arg(groupId, id);
 }
 
+bool ProfileGroupLoader::matchesSearch(const QDomNode &profile, const QString &text)
+{
+    const QString line = QStringLiteral("%1(*.%2)")
+                             .arg(childValue(profile, QStringLiteral("Name")),
+                                  childValue(profile, QStringLiteral("ExtName")));
+    const QString description = QCoreApplication::translate(
+        "Profile", childValue(profile, QStringLiteral("Desc")).toUtf8().constData());
+    return line.contains(text, Qt::CaseInsensitive)
+           || description.contains(text, Qt::CaseInsensitive);
+}
+
 bool ProfileGroupLoader::isUserProfileId(const QString &id)
 {
     return id.toInt() >= firstUserId;

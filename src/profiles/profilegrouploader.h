@@ -27,6 +27,9 @@ public:
     // icons that are shipped and shown.
     static QString iconPath(const QString &iconName);
     static QString profileKey(const QString &groupId, const QString &id);
+    // The profile search: text occurs, ignoring case, in the stored English
+    // name with "(*.ext)", or in the translated description.
+    static bool matchesSearch(const QDomNode &profile, const QString &text);
     // Ids from 1000 up belong to the user's profiles.
     static bool isUserProfileId(const QString &id);
 

@@ -2,7 +2,9 @@
 #include "ifoparse.h"
 #include "mediafixtures.h"
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QTest>
@@ -117,6 +119,8 @@ private slots:
     void badInput();
     void damagedIfoFallsBackToBackup();
     void unreadableIfo();
+    void ifoFilesOfFolder_data();
+    void ifoFilesOfFolder();
 
 private:
     QString fixtures;
@@ -330,6 +334,51 @@ void TestDvdDisc::unreadableIfo()
     } else {
         QVERIFY(!LoadDvdDisc(ifo, false));
     }
+}
+
+void TestDvdDisc::ifoFilesOfFolder_data()
+{
+    QTest::addColumn<QStringList>("files"); // made below the temporary folder
+    QTest::addColumn<QString>("folder");
+    QTest::addColumn<QStringList>("found");
+
+    const QStringList three
+        = {QStringLiteral("VIDEO_TS/VIDEO_TS.IFO"), QStringLiteral("VIDEO_TS/VTS_01_0.IFO"),
+           QStringLiteral("VIDEO_TS/VTS_02_0.IFO"), QStringLiteral("VIDEO_TS/VTS_03_0.IFO")};
+    const QStringList found
+        = {QStringLiteral("VIDEO_TS/VTS_01_0.IFO"), QStringLiteral("VIDEO_TS/VTS_02_0.IFO"),
+           QStringLiteral("VIDEO_TS/VTS_03_0.IFO")};
+    QTest::newRow("disc root") << three << QString() << found;
+    QTest::newRow("root with slash") << three << QStringLiteral("/") << found;
+    QTest::newRow("VIDEO_TS itself") << three << QStringLiteral("/VIDEO_TS") << found;
+    QTest::newRow("a gap ends the search")
+        << QStringList{QStringLiteral("VIDEO_TS/VTS_01_0.IFO"),
+                       QStringLiteral("VIDEO_TS/VTS_03_0.IFO")}
+        << QString() << QStringList{QStringLiteral("VIDEO_TS/VTS_01_0.IFO")};
+    QTest::newRow("lower-case folder is looked into")
+        << QStringList{QStringLiteral("video_ts/VTS_01_0.IFO")} << QStringLiteral("/video_ts")
+        << QStringList();
+    QTest::newRow("no title set") << QStringList{QStringLiteral("VIDEO_TS/VIDEO_TS.IFO")}
+                                  << QString() << QStringList();
+}
+
+void TestDvdDisc::ifoFilesOfFolder()
+{
+    QFETCH(QStringList, files);
+    QFETCH(QString, folder);
+    QFETCH(QStringList, found);
+
+    QTemporaryDir dir;
+    for (const QString &name : files) {
+        QVERIFY(QDir().mkpath(QFileInfo(dir.filePath(name)).path()));
+        QFile file(dir.filePath(name));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+    }
+    QStringList expected;
+    for (const QString &name : found)
+        expected << dir.filePath(name);
+    QCOMPARE(DvdIfoFiles(dir.path() + folder), expected);
+    QVERIFY(IsDvdSource(dir.path() + folder));
 }
 
 QTEST_GUILESS_MAIN(TestDvdDisc)

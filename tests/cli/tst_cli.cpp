@@ -1,0 +1,326 @@
+#include "mediafixtures.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QSet>
+#include <QTemporaryDir>
+#include <QTest>
+
+// The real kestrove-cli on the fixture discs and files, with HOME in a
+// temporary folder so that the user's settings stay untouched.
+class TestCli : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void scanDiscsAndFiles_data();
+    void scanDiscsAndFiles();
+    void scanKeepsGoingPastBadInput();
+    void profiles();
+    void profileSearch_data();
+    void profileSearch();
+    void help_data();
+    void help();
+    void wrongArguments_data();
+    void wrongArguments();
+
+private:
+    struct Result
+    {
+        int status = -1;
+        QByteArray out;
+        QString err;
+        QJsonObject json() const { return QJsonDocument::fromJson(out).object(); }
+    };
+    Result cli(const QStringList &args, int timeoutMs = 60000);
+
+    QTemporaryDir home;
+    QString fixtures;
+};
+
+TestCli::Result TestCli::cli(const QStringList &args, int timeoutMs)
+{
+    QProcess process;
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    env.insert(QStringLiteral("HOME"), home.path());
+    env.remove(QStringLiteral("XDG_CONFIG_HOME"));
+    env.remove(QStringLiteral("XDG_DATA_HOME"));
+    env.insert(QStringLiteral("TMPDIR"), home.path());
+    process.setProcessEnvironment(env);
+    process.start(QStringLiteral(KESTROVE_CLI), args);
+    Result result;
+    if (!process.waitForFinished(timeoutMs) || process.exitStatus() != QProcess::NormalExit) {
+        process.kill();
+        process.waitForFinished();
+        result.err = QStringLiteral("did not end normally");
+        return result;
+    }
+    result.status = process.exitCode();
+    result.out = process.readAllStandardOutput();
+    result.err = QString::fromUtf8(process.readAllStandardError());
+    return result;
+}
+
+void TestCli::initTestCase()
+{
+    QVERIFY(home.isValid());
+    fixtures = mediaFixtures();
+    QVERIFY2(!fixtures.isEmpty(), "the fixture script failed (ffmpeg, dvdauthor, spumux?)");
+}
+
+// What a scan says about one source, in a line: per disc title
+// "pgc:seconds(chapter starts)[audio/labels][subtitle labels]", per file
+// "WxH seconds audio:codecs subtitles:n chapters:n".
+static QString describe(const QJsonObject &source)
+{
+    QStringList parts;
+    const auto number = [](double value) {
+        return QString::number(value, 'f', 1);
+    };
+    if (source.value(QStringLiteral("kind")).toString() == QLatin1String("dvd")) {
+        for (const auto &value : source.value(QStringLiteral("titles")).toArray()) {
+            const QJsonObject title = value.toObject();
+            QStringList chapters, audio, subtitles;
+            for (const auto &start : title.value(QStringLiteral("chapters")).toArray())
+                chapters << number(start.toDouble());
+            for (const auto &label : title.value(QStringLiteral("audio")).toArray())
+                audio << label.toString();
+            for (const auto &label : title.value(QStringLiteral("subtitles")).toArray())
+                subtitles << label.toString();
+            parts << QStringLiteral("%1 %2:%3(%4)[%5][%6]")
+                         .arg(title.value(QStringLiteral("name")).toString())
+                         .arg(title.value(QStringLiteral("pgc")).toInt())
+                         .arg(number(title.value(QStringLiteral("duration")).toDouble()),
+                              chapters.join(QLatin1Char(',')), audio.join(QLatin1Char('/')),
+                              subtitles.join(QLatin1Char('/')));
+        }
+        return parts.join(QLatin1Char(' '));
+    }
+    const QJsonObject media = source.value(QStringLiteral("media")).toObject();
+    QStringList codecs;
+    for (const auto &value : media.value(QStringLiteral("audioStreams")).toArray())
+        codecs << value.toObject().value(QStringLiteral("codec")).toString();
+    return QStringLiteral("%1x%2 %3 audio:%4 subtitles:%5 chapters:%6")
+        .arg(media.value(QStringLiteral("width")).toInt())
+        .arg(media.value(QStringLiteral("height")).toInt())
+        .arg(number(media.value(QStringLiteral("duration")).toDouble()),
+             codecs.join(QLatin1Char(',')))
+        .arg(media.value(QStringLiteral("subtitleStreams")).toArray().size())
+        .arg(media.value(QStringLiteral("chapters")).toArray().size());
+}
+
+void TestCli::scanDiscsAndFiles_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QString>("kind");
+    QTest::addColumn<QString>("expected");
+
+    // PGCs 2 and 3 repeat PGC 1 and are dropped, as are PGC 4 (0.6 s) and 5
+    // (1.0 s). The red title's chapters are the cells 0-1.2, 1.2-3.0, 3.0-4.2.
+    const QString main
+        = QStringLiteral("Title_1 0:4.8(0.0,1.2,3.0)[en AC3 2ch/fr MPEG-1 2ch][de Normal] "
+                         "Title_2 1:2.4(0.0)[en AC3 2ch/fr MPEG-1 2ch][] "
+                         "Title_3 6:4.8(0.0,1.2,3.0)[en AC3 2ch/fr MPEG-1 2ch][de Normal]");
+    QTest::newRow("disc root") << fixture(fixtures, "dvd-main") << "dvd" << main;
+    QTest::newRow("VIDEO_TS") << fixture(fixtures, "dvd-main/VIDEO_TS") << "dvd" << main;
+    QTest::newRow("IFO file") << fixture(fixtures, "dvd-main/VIDEO_TS/VTS_01_0.IFO") << "dvd"
+                              << main;
+    QTest::newRow("NTSC disc") << fixture(fixtures, "dvd-ntsc") << "dvd"
+                               << "Title_1 0:3.0(0.0,1.2)[ja AC3 2ch/es MPEG-1 2ch][]";
+    QTest::newRow("file with chapters and subtitles")
+        << fixture(fixtures, "movie.mkv") << "file"
+        << "320x240 3.0 audio:mp2,ac3 subtitles:1 chapters:2";
+    QTest::newRow("audio file") << fixture(fixtures, "tone.flac") << "file"
+                                << "0x0 2.5 audio:flac subtitles:0 chapters:0";
+}
+
+void TestCli::scanDiscsAndFiles()
+{
+    QFETCH(QString, path);
+    QFETCH(QString, kind);
+    QFETCH(QString, expected);
+
+    const Result result = cli({QStringLiteral("scan"), QStringLiteral("--json"), path});
+    QVERIFY2(result.status == 0, qPrintable(result.err));
+    const QJsonArray sources = result.json().value(QStringLiteral("sources")).toArray();
+    QCOMPARE(sources.size(), 1);
+    const QJsonObject source = sources.first().toObject();
+    QCOMPARE(source.value(QStringLiteral("path")).toString(), path);
+    QCOMPARE(source.value(QStringLiteral("kind")).toString(), kind);
+    QCOMPARE(describe(source), expected);
+    // Titles name the IFO file they are read from, wherever the scan began.
+    QString ifo = path;
+    if (QFileInfo(path).isDir())
+        ifo += path.endsWith(QLatin1String("VIDEO_TS")) ? QStringLiteral("/VTS_01_0.IFO")
+                                                        : QStringLiteral("/VIDEO_TS/VTS_01_0.IFO");
+    for (const auto &title : source.value(QStringLiteral("titles")).toArray())
+        QCOMPARE(title.toObject().value(QStringLiteral("ifo")).toString(), ifo);
+
+    // Without --json the same titles, for a person.
+    const Result plain = cli({QStringLiteral("scan"), path});
+    QCOMPARE(plain.status, 0);
+    QVERIFY(QJsonDocument::fromJson(plain.out).isNull());
+    if (kind == QLatin1String("dvd"))
+        QVERIFY(plain.out.contains("Title_1"));
+}
+
+void TestCli::scanKeepsGoingPastBadInput()
+{
+    QTemporaryDir dir;
+    const QString junk = dir.filePath(QStringLiteral("junk.mp4"));
+    QFile file(junk);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(QByteArray(4096, 'x'));
+    file.close();
+    const QString empty = dir.filePath(QStringLiteral("empty"));
+    QVERIFY(QDir().mkpath(empty));
+
+    const Result result
+        = cli({QStringLiteral("scan"), QStringLiteral("--json"), junk,
+               fixture(fixtures, "clip.mp4"), empty, dir.filePath(QStringLiteral("missing.mkv"))});
+    QCOMPARE(result.status, 1);
+    const QJsonArray sources = result.json().value(QStringLiteral("sources")).toArray();
+    QCOMPARE(sources.size(), 4);
+    QStringList errors;
+    for (const auto &value : sources)
+        errors << QString::number(value.toObject().contains(QStringLiteral("error")));
+    QCOMPARE(errors.join(QLatin1Char(' ')), QStringLiteral("1 0 1 1"));
+    QCOMPARE(describe(sources.at(1).toObject()),
+             QStringLiteral("160x120 2.0 audio:aac subtitles:0 chapters:0"));
+    QVERIFY2(result.err.contains(junk) && result.err.contains(QStringLiteral("missing.mkv")),
+             qPrintable(result.err));
+}
+
+void TestCli::profiles()
+{
+    const Result result = cli({QStringLiteral("profiles"), QStringLiteral("--json")});
+    QVERIFY2(result.status == 0, qPrintable(result.err));
+    const QJsonArray groups = result.json().value(QStringLiteral("groups")).toArray();
+    QVERIFY(groups.size() > 10);
+    QSet<QString> keys;
+    QStringList recommended;
+    int profiles = 0;
+    for (const auto &groupValue : groups) {
+        const QJsonObject group = groupValue.toObject();
+        QVERIFY(!group.value(QStringLiteral("name")).toString().isEmpty());
+        const int groupId = group.value(QStringLiteral("id")).toInt(-1);
+        for (const auto &value : group.value(QStringLiteral("profiles")).toArray()) {
+            const QJsonObject profile = value.toObject();
+            const QString key = profile.value(QStringLiteral("key")).toString();
+            QCOMPARE(key.section(QLatin1Char(','), 0, 0).toInt(), groupId);
+            QVERIFY2(!keys.contains(key), qPrintable(key));
+            keys.insert(key);
+            QVERIFY(!profile.value(QStringLiteral("ext")).toString().isEmpty());
+            if (profile.value(QStringLiteral("recommended")).toBool())
+                recommended << profile.value(QStringLiteral("name")).toString();
+            ++profiles;
+        }
+    }
+    QCOMPARE(profiles, 85);
+    QCOMPARE(recommended.size(), 6);
+    QVERIFY(keys.contains(QStringLiteral("1,68")));
+
+    // The listing for a person has one line per profile with its key.
+    const Result plain = cli({QStringLiteral("profiles")});
+    QCOMPARE(plain.status, 0);
+    QCOMPARE(plain.out.count("(*."), 85);
+}
+
+void TestCli::profileSearch_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("hits");
+    QTest::newRow("name, any case") << "IPHONE" << true;
+    QTest::newRow("extension") << "(*.webm)" << true;
+    QTest::newRow("description") << "container" << true;
+    QTest::newRow("nothing") << "no such profile at all" << false;
+}
+
+void TestCli::profileSearch()
+{
+    QFETCH(QString, text);
+    QFETCH(bool, hits);
+
+    const Result all = cli({QStringLiteral("profiles"), QStringLiteral("--json")});
+    const Result found = cli(
+        {QStringLiteral("profiles"), QStringLiteral("--search"), text, QStringLiteral("--json")});
+    QCOMPARE(found.status, 0);
+    // The hits are exactly the profiles whose name and extension hold the
+    // text, or whose description does; the listing has no descriptions, so
+    // a hit without the text in its line must come from its description.
+    QSet<QString> hitKeys;
+    for (const auto &group : found.json().value(QStringLiteral("groups")).toArray()) {
+        QVERIFY(!group.toObject().value(QStringLiteral("profiles")).toArray().isEmpty());
+        for (const auto &profile : group.toObject().value(QStringLiteral("profiles")).toArray())
+            hitKeys.insert(profile.toObject().value(QStringLiteral("key")).toString());
+    }
+    QCOMPARE(!hitKeys.isEmpty(), hits);
+    for (const auto &group : all.json().value(QStringLiteral("groups")).toArray()) {
+        for (const auto &value : group.toObject().value(QStringLiteral("profiles")).toArray()) {
+            const QJsonObject profile = value.toObject();
+            const QString line = QStringLiteral("%1(*.%2)")
+                                     .arg(profile.value(QStringLiteral("name")).toString(),
+                                          profile.value(QStringLiteral("ext")).toString());
+            if (line.contains(text, Qt::CaseInsensitive))
+                QVERIFY2(hitKeys.contains(profile.value(QStringLiteral("key")).toString()),
+                         qPrintable(line));
+        }
+    }
+}
+
+void TestCli::help_data()
+{
+    QTest::addColumn<QString>("command");
+    QTest::addColumn<QString>("mentions");
+    QTest::newRow("scan") << "scan"
+                          << "--json";
+    QTest::newRow("profiles") << "profiles"
+                              << "--search";
+}
+
+void TestCli::help()
+{
+    QFETCH(QString, command);
+    QFETCH(QString, mentions);
+    const Result result = cli({command, QStringLiteral("--help")});
+    QCOMPARE(result.status, 0);
+    const QString text = QString::fromUtf8(result.out);
+    QVERIFY2(text.startsWith(QStringLiteral("Usage: kestrove-cli ") + command), qPrintable(text));
+    QVERIFY(text.contains(mentions));
+}
+
+void TestCli::wrongArguments_data()
+{
+    QTest::addColumn<QStringList>("args");
+    QTest::addColumn<QString>("message");
+    QTest::newRow("no command") << QStringList() << "no command given";
+    QTest::newRow("unknown command")
+        << QStringList{QStringLiteral("transcode")} << "unknown command 'transcode'";
+    QTest::newRow("scan without path")
+        << QStringList{QStringLiteral("scan")} << "scan: no PATH given";
+    QTest::newRow("unknown option")
+        << QStringList{QStringLiteral("scan"), QStringLiteral("--fast"), QStringLiteral("x")}
+        << "scan: Unknown option 'fast'";
+    QTest::newRow("search without text")
+        << QStringList{QStringLiteral("profiles"), QStringLiteral("--search")}
+        << "profiles: Missing value after '--search'";
+    QTest::newRow("profiles takes no path")
+        << QStringList{QStringLiteral("profiles"), QStringLiteral("movie.mkv")}
+        << "profiles: unexpected argument 'movie.mkv'";
+}
+
+void TestCli::wrongArguments()
+{
+    QFETCH(QStringList, args);
+    QFETCH(QString, message);
+    const Result result = cli(args);
+    QCOMPARE(result.status, 2);
+    QVERIFY2(result.err.contains(message), qPrintable(result.err));
+    QVERIFY(result.out.isEmpty());
+}
+
+QTEST_GUILESS_MAIN(TestCli)
+#include "tst_cli.moc"
