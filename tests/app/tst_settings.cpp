@@ -7,6 +7,7 @@
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QVariant>
 
 #include <cstdio>
 
@@ -27,6 +28,7 @@ private slots:
     void valuesSurviveNewProcess();
     void badValueReadsAsNull();
     void defaultFoldersFallBack();
+    void overrideIsReadButNeverStored();
 
 private:
     QString runHelper(const QStringList &arguments);
@@ -112,6 +114,25 @@ void TestSettings::badValueReadsAsNull()
     QCOMPARE(settingString(QStringLiteral("ProcessCount")), QStringLiteral("4"));
 }
 
+void TestSettings::overrideIsReadButNeverStored()
+{
+    setSettingString(QStringLiteral("OutputDir"), QStringLiteral("/stored"));
+    overrideSetting(QStringLiteral("OutputDir"), QStringLiteral("/for this run"));
+    overrideSetting(QStringLiteral("OutputToSrc"), 0);
+    QCOMPARE(Setting::outputDir(), QStringLiteral("/for this run"));
+    // A write during the override goes to the store; the override still wins.
+    setSettingInt(QStringLiteral("OutputToSrc"), 1);
+    QCOMPARE(Setting::outputToSrc(), 0);
+    syncSettings();
+    QCOMPARE(runHelper({QStringLiteral("output")}), QStringLiteral("/stored|1"));
+
+    overrideSetting(QStringLiteral("OutputDir"), QVariant());
+    overrideSetting(QStringLiteral("OutputToSrc"), QVariant());
+    QCOMPARE(Setting::outputDir(), QStringLiteral("/stored"));
+    QCOMPARE(Setting::outputToSrc(), 1);
+    setSettingInt(QStringLiteral("OutputToSrc"), 0);
+}
+
 void TestSettings::defaultFoldersFallBack()
 {
     // Documents moved by the user's own folder configuration.
@@ -132,6 +153,14 @@ static int helperMain(const QStringList &arguments)
         setSettingBool(QStringLiteral("EnableCuda"), false);
         std::puts("written");
         return 0; // no explicit sync: the store must flush on its own at exit
+    }
+    if (arguments.value(0) == QLatin1String("output")) {
+        std::puts(QStringLiteral("%1|%2")
+                      .arg(Setting::outputDir())
+                      .arg(Setting::outputToSrc())
+                      .toUtf8()
+                      .constData());
+        return 0;
     }
     const QString line
         = QStringLiteral("%1|%2|%3")
