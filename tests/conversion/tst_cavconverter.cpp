@@ -1,4 +1,5 @@
 #include "cavconverter.h"
+#include "processtools.h"
 #include "version.h"
 
 #include <QCoreApplication>
@@ -38,40 +39,6 @@ double probeDuration(const QString &file)
     bool ok = false;
     const double value = probe.readAllStandardOutput().trimmed().toDouble(&ok);
     return ok ? value : -1;
-}
-
-// The process and every descendant of it, from /proc.
-QList<qint64> processTree(qint64 root)
-{
-    QMultiMap<qint64, qint64> children;
-    const QStringList entries = QDir(QStringLiteral("/proc")).entryList(QDir::Dirs);
-    for (const QString &entry : entries) {
-        bool numeric = false;
-        const qint64 pid = entry.toLongLong(&numeric);
-        if (!numeric)
-            continue;
-        QFile stat(QStringLiteral("/proc/%1/stat").arg(pid));
-        if (!stat.open(QIODevice::ReadOnly))
-            continue;
-        const QByteArray text = stat.readAll();
-        const QList<QByteArray> fields = text.mid(text.lastIndexOf(')') + 2).split(' ');
-        if (fields.size() > 1)
-            children.insert(fields[1].toLongLong(), pid);
-    }
-    QList<qint64> tree{root};
-    for (int i = 0; i < tree.size(); ++i)
-        tree += children.values(tree[i]);
-    return tree;
-}
-
-char processState(qint64 pid)
-{
-    QFile stat(QStringLiteral("/proc/%1/stat").arg(pid));
-    if (!stat.open(QIODevice::ReadOnly))
-        return '?';
-    const QByteArray text = stat.readAll();
-    const int at = text.lastIndexOf(')') + 2;
-    return at > 1 && at < text.size() ? text.at(at) : '?';
 }
 
 QList<double> progressValues(const QSignalSpy &spy)
@@ -282,7 +249,8 @@ void TestCAVConverter::missingFfmpegIsSaidInTheLog()
     CAVConverter converter;
     QSignalSpy finished(&converter, &CAVConverter::convertFinished);
     converter.setLogFile(log);
-    converter.setCommand({QStringLiteral("-i"), QStringLiteral("in.wav"), QStringLiteral("out.wav")}, 5);
+    converter.setCommand(
+        {QStringLiteral("-i"), QStringLiteral("in.wav"), QStringLiteral("out.wav")}, 5);
     converter.start();
     QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 10000);
     qunsetenv("KESTROVE_FFMPEG");
