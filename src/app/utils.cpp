@@ -12,6 +12,16 @@
 #include <algorithm>
 #include <iterator>
 
+QString hexText(const QString &text)
+{
+    return QString::fromLatin1(text.toLocal8Bit().toHex());
+}
+
+QString fromHexText(const QString &hex)
+{
+    return QString::fromLocal8Bit(QByteArray::fromHex(hex.toLatin1()));
+}
+
 QString replaceBaseName(const QString &path, const QString &newBase)
 {
     const QFileInfo info(path);

@@ -7,6 +7,12 @@ class QString;
 // The path with another base name and the same suffix, in the same folder.
 QString replaceBaseName(const QString &path, const QString &newBase);
 
+// Text in the local 8-bit encoding as lower-case hexadecimal digits, two a
+// byte: paths and font names travel this way inside filter texts, whose own
+// syntax has no room for them.
+QString hexText(const QString &text);
+QString fromHexText(const QString &hex);
+
 // A file name made from a title: the characters that no file system takes
 // everywhere removed, blanks trimmed.
 QString sanitizeFileName(const QString &text);

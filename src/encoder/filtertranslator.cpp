@@ -1,5 +1,7 @@
 #include "filtertranslator.h"
 
+#include "utils.h"
+
 #include <QByteArray>
 #include <QFileInfo>
 
@@ -15,13 +17,13 @@ QString subtitleFilter(const QStringList &args, QStringList &notes)
             << QStringLiteral("subtitle filter needs 8 values, got %1: left out").arg(args.size());
         return QString();
     }
-    const QString path = FilterTranslator::fromHex(args[7]);
+    const QString path = fromHexText(args[7]);
     if (path.isEmpty()) {
         notes << QStringLiteral("subtitle filter without a file: left out");
         return QString();
     }
     // force_style is a comma list of its own: a font name cannot carry one.
-    QString family = FilterTranslator::fromHex(args[0]);
+    QString family = fromHexText(args[0]);
     family.remove(QLatin1Char(','));
     const int size = args[1].toInt();
     const int style = args[2].toInt();
@@ -58,16 +60,6 @@ QString subtitleFilter(const QStringList &args, QStringList &notes)
 }
 
 } // namespace
-
-QString FilterTranslator::toHex(const QString &text)
-{
-    return QString::fromLatin1(text.toLocal8Bit().toHex());
-}
-
-QString FilterTranslator::fromHex(const QString &hex)
-{
-    return QString::fromLocal8Bit(QByteArray::fromHex(hex.toLatin1()));
-}
 
 QString FilterTranslator::escapeValue(const QString &value)
 {
@@ -182,7 +174,7 @@ FilterTranslator::Result FilterTranslator::translate(const QString &chain,
             if (!parts.isEmpty())
                 linear << parts.join(QLatin1Char(','));
         } else if (name == QLatin1String("watermark2")) {
-            const QString path = fromHex(args.value(2));
+            const QString path = fromHexText(args.value(2));
             if (args.size() != 3 || path.isEmpty()) {
                 result.notes << QStringLiteral("watermark filter without a picture: left out");
                 continue;

@@ -25,7 +25,4 @@ public:
 
     // A filter option value quoted for use inside a filter graph text.
     static QString escapeValue(const QString &value);
-    // The reverse of the hexadecimal form in which paths and font names arrive.
-    static QString fromHex(const QString &hex);
-    static QString toHex(const QString &text);
 };

@@ -4,8 +4,6 @@
 
 #include <QDebug>
 #include <QFileInfo>
-#include <QSaveFile>
-#include <QTextStream>
 
 namespace {
 
@@ -115,29 +113,7 @@ bool Profile::saveValues(const QMap<QString, QString> &values, const QString &pa
             target.setAttribute(valueAttribute, wanted);
         }
     }
-    // The declaration the documents are written with, in place of whatever
-    // quoting the parser kept.
-    const QDomProcessingInstruction declaration = doc.createProcessingInstruction(
-        QStringLiteral("xml"), QStringLiteral("version=\"1.0\" encoding=\"UTF-8\""));
-    const QDomNode first = doc.firstChild();
-    if (first.isProcessingInstruction() && first.nodeName() == QLatin1String("xml"))
-        doc.replaceChild(declaration, first);
-    else
-        doc.insertBefore(declaration, first);
-    // Written aside and renamed, so a failed write leaves no half file.
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
-        qDebug().noquote() << "Can't write profile" << path << ':' << file.errorString();
-        return false;
-    }
-    QTextStream stream(&file);
-    doc.save(stream, 4);
-    stream.flush();
-    if (stream.status() != QTextStream::Ok || !file.commit()) {
-        qDebug().noquote() << "Can't write profile" << path << ':' << file.errorString();
-        return false;
-    }
-    return true;
+    return writeDocument(doc, path);
 }
 
 QString Profile::key(const QDomNode &parameter)

@@ -2,6 +2,8 @@
 
 #include <QDebug>
 #include <QFile>
+#include <QSaveFile>
+#include <QTextStream>
 
 QString childValue(const QDomNode &node, const QString &tagName)
 {
@@ -39,6 +41,34 @@ bool XmlLoader::load(const QString &path)
         qDebug().noquote() << "Can't read" << path
                            << QStringLiteral("(%1:%2):").arg(line).arg(column) << error;
         doc = QDomDocument(QStringLiteral("doc"));
+        return false;
+    }
+    return true;
+}
+
+bool writeDocument(QDomDocument &doc, const QString &path)
+{
+    // The declaration the documents are written with, in place of whatever
+    // quoting the parser kept.
+    const QDomProcessingInstruction declaration = doc.createProcessingInstruction(
+        QStringLiteral("xml"), QStringLiteral("version=\"1.0\" encoding=\"UTF-8\""));
+    const QDomNode first = doc.firstChild();
+    if (first.isProcessingInstruction() && first.nodeName() == QLatin1String("xml"))
+        doc.replaceChild(declaration, first);
+    else
+        doc.insertBefore(declaration, first);
+    // Written aside and renamed, so a failed write leaves no half file and
+    // keeps the last good one.
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
+        qDebug().noquote() << "Can't write" << path << ':' << file.errorString();
+        return false;
+    }
+    QTextStream stream(&file);
+    doc.save(stream, 4);
+    stream.flush();
+    if (stream.status() != QTextStream::Ok || !file.commit()) {
+        qDebug().noquote() << "Can't write" << path << ':' << file.errorString();
         return false;
     }
     return true;

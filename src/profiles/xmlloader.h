@@ -10,6 +10,9 @@ QString childValue(const QDomNode &node, const QString &tagName);
 QString attributeValue(const QDomNode &node, const QString &name);
 // The element is marked not to be edited; only presence of the mark counts.
 bool isReadOnly(const QDomNode &node);
+// Writes doc with the UTF-8 declaration and an indent of 4. False, with a
+// line in the log, when path can't be written; an existing file then stays.
+bool writeDocument(QDomDocument &doc, const QString &path);
 
 // Holds one XML document read from a file or a resource.
 class XmlLoader

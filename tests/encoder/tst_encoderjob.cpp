@@ -1,6 +1,7 @@
 #include "encoderjob.h"
 #include "ffmpegtools.h"
 #include "filtertranslator.h"
+#include "utils.h"
 #include "mediafixtures.h"
 
 #include <QCoreApplication>
@@ -238,7 +239,7 @@ void TestEncoderJob::watermarkOnFile()
     QVERIFY(mark.save(markPath));
     const QString out = dir.filePath(QStringLiteral("marked.mkv"));
     const QString chain
-        = QStringLiteral("scale=320:240,watermark2=100:50:") + FilterTranslator::toHex(markPath);
+        = QStringLiteral("scale=320:240,watermark2=100:50:") + hexText(markPath);
     QCOMPARE(encode({QStringLiteral("-y"), QStringLiteral("-i"), fixture(fixtures, "clip.mp4"),
                      QStringLiteral("-vf"), chain, QStringLiteral("-vcodec"),
                      QStringLiteral("mpeg4"), QStringLiteral("-qscale"), QStringLiteral("2"), out}),

@@ -1,5 +1,6 @@
 #include "ffmpegtools.h"
 #include "filtertranslator.h"
+#include "utils.h"
 
 #include <QDir>
 #include <QFile>
@@ -73,22 +74,22 @@ void TestFilterTranslator::translates_data()
         << QStringLiteral("scale=320:240,vflip") << QStringLiteral("unknown effect 99");
     QTest::newRow("watermark")
         << QStringLiteral("scale=320:240,watermark2=10:20:")
-               + FilterTranslator::toHex(QStringLiteral("/tmp/w.png"))
+               + hexText(QStringLiteral("/tmp/w.png"))
         << QStringLiteral("scale=320:240[kv0];movie=filename=/tmp/w.png,format=rgba[kw0];"
                           "[kv0][kw0]overlay=x=10:y=20:format=auto")
         << QString();
     QTest::newRow("watermark then effect")
         << QStringLiteral("scale=320:240,watermark2=1:2:")
-               + FilterTranslator::toHex(QStringLiteral("/w.png"))
+               + hexText(QStringLiteral("/w.png"))
                + QStringLiteral(",effect2=0:0:0:5a")
         << QStringLiteral("scale=320:240[kv0];movie=filename=/"
                           "w.png,format=rgba[kw0];[kv0][kw0]overlay=x=1:y=2:format=auto,negate")
         << QString();
     QTest::newRow("subtitle")
         << QStringLiteral("scale=320:240,subtitle=")
-               + FilterTranslator::toHex(QStringLiteral("DejaVu Sans"))
+               + hexText(QStringLiteral("DejaVu Sans"))
                + QStringLiteral(":20:3:255x0x16:127:90:-1:")
-               + FilterTranslator::toHex(QStringLiteral("/s.srt"))
+               + hexText(QStringLiteral("/s.srt"))
         << QStringLiteral(
                "scale=320:240,subtitles=filename=/s.srt:force_style=FontName=DejaVu Sans\\,"
                "FontSize=20\\,Bold=-1\\,Italic=-1\\,PrimaryColour=&H801000FF\\,Alignment=2\\,"
@@ -96,7 +97,7 @@ void TestFilterTranslator::translates_data()
         << QString();
     QTest::newRow("subtitle with track")
         << QStringLiteral("scale=8:8,subtitle=41:10:0:0x0x0:255:100:2:")
-               + FilterTranslator::toHex(QStringLiteral("/m.mkv"))
+               + hexText(QStringLiteral("/m.mkv"))
         << QStringLiteral("scale=8:8,subtitles=filename=/m.mkv:si=2:force_style=FontName=A\\,"
                           "FontSize=10\\,Bold=0\\,Italic=0\\,PrimaryColour=&H00000000\\,"
                           "Alignment=2\\,MarginV=0")
@@ -125,9 +126,9 @@ void TestFilterTranslator::translates()
 void TestFilterTranslator::hexRoundTrip()
 {
     const QString text = QStringLiteral("/tmp/Vidéos d'été: [1], a;b\\c");
-    const QString hex = FilterTranslator::toHex(text);
+    const QString hex = hexText(text);
     QVERIFY(QRegularExpression(QStringLiteral("^[0-9a-f]+$")).match(hex).hasMatch());
-    QCOMPARE(FilterTranslator::fromHex(hex), text);
+    QCOMPARE(fromHexText(hex), text);
 }
 
 void TestFilterTranslator::everyEffectRunsAndChangesThePicture_data()
@@ -169,7 +170,7 @@ void TestFilterTranslator::awkwardPathsReachFfmpeg()
     const QString markPath = folder + QStringLiteral("/w ") + name + QStringLiteral(".png");
     QVERIFY(mark.save(markPath));
     const auto marked = FilterTranslator::translate(
-        QStringLiteral("scale=160:120,watermark2=10:20:") + FilterTranslator::toHex(markPath));
+        QStringLiteral("scale=160:120,watermark2=10:20:") + hexText(markPath));
     const QImage withMark = render(marked.graph);
     QVERIFY(!withMark.isNull());
     QCOMPARE(QColor(withMark.pixel(25, 30)), QColor(0, 255, 0));
@@ -183,8 +184,8 @@ void TestFilterTranslator::awkwardPathsReachFfmpeg()
     srt.close();
     const auto subtitled = FilterTranslator::translate(
         QStringLiteral("scale=160:120,subtitle=%1:24:1:255x0x255:255:90:-1:%2")
-            .arg(FilterTranslator::toHex(QStringLiteral("DejaVu Sans")),
-                 FilterTranslator::toHex(srtPath)));
+            .arg(hexText(QStringLiteral("DejaVu Sans")),
+                 hexText(srtPath)));
     const QImage withText = render(subtitled.graph);
     QVERIFY(!withText.isNull());
     const double changed = differingShare(withText, plain);

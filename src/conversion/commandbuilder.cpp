@@ -1,0 +1,269 @@
+#include "commandbuilder.h"
+
+#include "filterchain.h"
+#include "gpuencoder.h"
+#include "pathparts.h"
+#include "settings.h"
+#include "task.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+namespace {
+
+int gpuOverride = -1;
+
+const char *const expertKeys[]
+    = {"g",          "qscale",     "coder",       "pix_fmt",      "deinterlace",
+       "async",      "intra",      "qmin",        "qmax",         "lmin",
+       "lmax",       "qdiff",      "qblur",       "qcomp",        "rc_init_cplx",
+       "b_qfactor",  "i_qfactor",  "b_qoffset",   "i_qoffset",    "ibias",
+       "pbias",      "rc_eq",      "rc_override", "me_threshold", "mb_threshold",
+       "bf",         "mbd",        "mbcmp",       "ildctcmp",     "subcmp",
+       "cmp",        "precmp",     "preme",       "lumi_mask",    "dark_mask",
+       "scplx_mask", "tcplx_mask", "p_mask",      "ps",           "error",
+       "strict",     "psnr",       "vstats",      "intra_matrix", "inter_matrix",
+       "top",        "nr",         "qns",         "sc_threshold", "me_range",
+       "dc",         "pred",       "er",          "ec",           "bug"};
+
+const char *const flagKeys[] = {"bitexact", "ilme", "obmc", "part",  "aic",         "aiv",
+                                "umv",      "alt",  "qpel", "ildct", "scan_offset", "cgop"};
+
+const char *const metaKeys[]
+    = {"title",    "author",      "copyright", "comment",   "album", "genre",
+       "composer", "origaritist", "url",       "encodedby", "year",  "track"};
+
+QString number(double value)
+{
+    return QString::number(value, 'g', 6);
+}
+
+QString videoCodecName(const QString &value)
+{
+    if (value == QLatin1String("wmv3x"))
+        return QStringLiteral("wmv2");
+    if (value == QLatin1String("realvideo"))
+        return QStringLiteral("rv20");
+    if (value == QLatin1String("vp8"))
+        return QStringLiteral("libvpx");
+    return value;
+}
+
+QString audioCodecName(const QString &value)
+{
+    if (value == QLatin1String("mpeg4aac"))
+        return QStringLiteral("libfaac");
+    if (value == QLatin1String("mp3"))
+        return QStringLiteral("libmp3lame");
+    if (value == QLatin1String("wma7x"))
+        return QStringLiteral("wmav2");
+    if (value == QLatin1String("libamr_nb"))
+        return QStringLiteral("libopencore_amrnb");
+    if (value == QLatin1String("rmaudio"))
+        return QString();
+    if (value == QLatin1String("vorbis"))
+        return QStringLiteral("libvorbis");
+    return value;
+}
+
+bool gpuUsable()
+{
+    return gpuOverride >= 0 ? gpuOverride == 1 : isGpuEncoderAvailable();
+}
+
+// Where the output goes, reserved on disk so that a second task that starts
+// at the same moment can't take the same name.
+QString outputPath(Task &task, const QString &commonRoot)
+{
+    QString folder = QDir::fromNativeSeparators(Setting::outputDir());
+    const QString firstSource = task.items.empty() ? QString() : task.items.front()->sourcePath;
+    const QString sourceFolder = QFileInfo(firstSource).path();
+    if (Setting::outputToSrc() != 0) {
+        folder = sourceFolder;
+    } else if (Setting::copyDirStruct() != 0) {
+        QString relative = commonRoot.isEmpty() ? QString(sourceFolder).remove(QLatin1Char(':'))
+                                                : sourceFolder.mid(commonRoot.length() + 1);
+        // A leading separator would leave the output folder.
+        while (relative.startsWith(QLatin1Char('/')))
+            relative.remove(0, 1);
+        if (!relative.isEmpty()) {
+            QDir(folder).mkpath(relative);
+            folder += QLatin1Char('/') + relative;
+        }
+    }
+
+    PathParts parts;
+    parts.setFolder(folder);
+    parts.setFileName(task.output.fileName);
+    if (!task.value(QStringLiteral("pcodec")).isEmpty()) {
+        // A numbered picture series: base001, base(1)001, ...
+        const QString base = parts.baseName();
+        parts.setBaseName(base + QStringLiteral("001"));
+        const int taken = parts.makeUniqueAt(base.length());
+        parts.setBaseName(base + (taken > 0 ? QStringLiteral("(%1)").arg(taken) : QString())
+                          + QStringLiteral("%03d"));
+    } else {
+        parts.reserveUnique();
+    }
+    QDir().mkpath(folder);
+    task.output.filePath = QDir::toNativeSeparators(parts.fullPath());
+    return task.output.filePath;
+}
+
+} // namespace
+
+void CommandBuilder::setGpuEncoderOverride(int usable)
+{
+    gpuOverride = usable;
+}
+
+QStringList CommandBuilder::build(Task &task, const QString &commonRoot)
+{
+    const bool audioOnly = task.value(QStringLiteral("s")).isEmpty();
+    const QString path = outputPath(task, commonRoot);
+
+    QStringList args{QStringLiteral("-y")};
+    const QString cpu = Setting::cpuUsage();
+    if (cpu.length() > 2 && cpu.endsWith(QLatin1Char('%'))) {
+        const int percent = cpu.chopped(1).toInt();
+        if (percent < 100)
+            args << QStringLiteral("-cpu_percent") << QString::number(qMax(percent, 50));
+    }
+
+    for (int i = 0; i < task.itemCount(); ++i) {
+        ChildTask &child = *task.items[size_t(i)];
+        EditParameters &edit = child.edit;
+        if (i > 0)
+            args << QStringLiteral("-si");
+        if (!audioOnly) {
+            task.prepareFrame(i);
+            const QSize size = task.outputSize();
+            edit.watermarkFile.clear();
+            if (edit.hasWatermark())
+                edit.renderWatermark(size.width(), size.height(),
+                                     EditParameters::newWatermarkPath());
+        }
+        edit.convertEnd = edit.trimEnd;
+        args << QStringLiteral("-ss") << number(edit.trimStart);
+        if (child.duration - 0.1 > edit.convertEnd - edit.trimStart)
+            args << QStringLiteral("-t") << number(edit.convertEnd - edit.trimStart);
+        const int audio = edit.selectedAudioStream();
+        if (child.pgcIndex < 0 && audio > 0)
+            args << QStringLiteral("-ast") << QString::number(audio);
+        if (!child.inputFormat.isEmpty())
+            args << QStringLiteral("-f") << child.inputFormat;
+        if (child.pgcIndex >= 0)
+            args << QStringLiteral("-pgc") << QString::number(child.pgcIndex)
+                 << QStringLiteral("-audio_track") << QString::number(audio)
+                 << QStringLiteral("-subtitle") << QString::number(edit.selectedSubtitleStream());
+        args << QStringLiteral("-i") << QDir::toNativeSeparators(child.sourcePath);
+        if (!audioOnly)
+            args << QStringLiteral("-vf") << filterChain(child);
+    }
+
+    if (!task.output.keepMetaData)
+        args << QStringLiteral("-map_meta_data") << QStringLiteral("-1:0");
+
+    if (audioOnly) {
+        args << QStringLiteral("-vn");
+    } else {
+        for (const char *key : expertKeys) {
+            const QString value = task.value(QLatin1String(key));
+            if (value.isEmpty() || value == QLatin1String("False"))
+                continue;
+            args << QLatin1Char('-') + QLatin1String(key);
+            if (value != QLatin1String("True"))
+                args << value;
+        }
+        QString flags;
+        for (const char *key : flagKeys) {
+            if (task.value(QLatin1String(key)) == QLatin1String("True"))
+                flags += QLatin1Char('+') + QLatin1String(key);
+        }
+        if (!flags.isEmpty())
+            args << QStringLiteral("-flags") << flags;
+
+        const bool sameq = task.value(QStringLiteral("sameq")) == QLatin1String("True");
+        const QString bitRate = task.value(QStringLiteral("b"));
+        if (sameq)
+            args << QStringLiteral("-sameq");
+        else if (!bitRate.isEmpty())
+            args << QStringLiteral("-b:v") << bitRate + QStringLiteral("000");
+        const QString rate = task.value(QStringLiteral("r"));
+        if (!rate.isEmpty() && rate != QLatin1String("Auto"))
+            args << QStringLiteral("-r") << rate;
+        const QString interval = task.value(QStringLiteral("pi"));
+        if (!interval.isEmpty())
+            args << QStringLiteral("-r") << QStringLiteral("1/") + interval;
+
+        const QSize size = task.outputSize();
+        const QString vcodec = task.value(QStringLiteral("vcodec"));
+        if (vcodec == QLatin1String("h264") && gpuUsable() && Setting::enableCuda()) {
+            args << QStringLiteral("-vcodec") << QStringLiteral("cuh264");
+        } else if (vcodec == QLatin1String("h264")) {
+            const QString profile = size.height() <= 480   ? QStringLiteral("baseline")
+                                    : size.height() <= 720 ? QStringLiteral("main")
+                                                           : QStringLiteral("high");
+            args << QStringLiteral("-vcodec") << QStringLiteral("libx264")
+                 << QStringLiteral("-preset") << QStringLiteral("superfast")
+                 << QStringLiteral("-vprofile") << profile;
+        } else if (vcodec == QLatin1String("divx")) {
+            args << QStringLiteral("-vtag") << QStringLiteral("DX50") << QStringLiteral("-vcodec")
+                 << QStringLiteral("mpeg4");
+        } else if (!vcodec.isEmpty()) {
+            args << QStringLiteral("-vcodec") << videoCodecName(vcodec);
+        }
+        const int threads = Setting::threadCount();
+        if ((vcodec == QLatin1String("mpeg4") || vcodec == QLatin1String("mpeg2video")
+             || vcodec == QLatin1String("h264"))
+            && threads > 1)
+            args << QStringLiteral("-threads") << QString::number(threads);
+
+        const QString aspect = task.value(QStringLiteral("aspect"));
+        if (!aspect.isEmpty() && aspect != QLatin1String("Auto"))
+            args << QStringLiteral("-aspect") << aspect;
+        else
+            args << QStringLiteral("-aspect")
+                 << (size.height() == 0 ? QStringLiteral("1")
+                                        : number(double(size.width()) / size.height()));
+    }
+
+    if (task.value(QStringLiteral("an")) == QLatin1String("True")) {
+        args << QStringLiteral("-an");
+    } else {
+        const QString ab = task.value(QStringLiteral("ab"));
+        if (!ab.isEmpty())
+            args << QStringLiteral("-ab") << ab + QLatin1Char('k');
+        const QString ac = task.value(QStringLiteral("ac"));
+        if (!ac.isEmpty()) {
+            const QString channels = ac.contains(QLatin1Char(' '))
+                                         ? ac.section(QLatin1Char(' '), 0, 0)
+                                     : ac == QLatin1String("5.1") ? QStringLiteral("6")
+                                                                  : ac;
+            args << QStringLiteral("-ac") << channels;
+        }
+        const QString ar = task.value(QStringLiteral("ar"));
+        if (!ar.isEmpty())
+            args << QStringLiteral("-ar") << ar;
+        const QString acodec = task.value(QStringLiteral("acodec"));
+        if (acodec == QLatin1String("aac"))
+            args << QStringLiteral("-strict") << QStringLiteral("experimental");
+        const QString encoderName = audioCodecName(acodec);
+        if (!encoderName.isEmpty())
+            args << QStringLiteral("-acodec") << encoderName;
+        const QString vol = task.value(QStringLiteral("vol"));
+        if (!vol.isEmpty() && vol != QLatin1String("100%"))
+            args << QStringLiteral("-vol") << QString::number(vol.chopped(1).toInt() * 256 / 100);
+    }
+
+    for (const char *key : metaKeys) {
+        const QString value = task.value(QLatin1String(key));
+        if (!value.isEmpty())
+            args << QStringLiteral("-metadata") << QLatin1String(key) + QLatin1Char('=') + value;
+    }
+    if (QFileInfo(task.output.fileName).suffix() == QLatin1String("mkv"))
+        args << QStringLiteral("-sn");
+    args << path;
+    return args;
+}
