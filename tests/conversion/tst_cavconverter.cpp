@@ -62,6 +62,7 @@ private slots:
     void pauseStopsEveryProcessAndResumes();
     void stopKillsRunningAndSuspendedEncoders_data();
     void stopKillsRunningAndSuspendedEncoders();
+    void stopRightAfterStart();
     void encoderThatCannotStartFails_data();
     void encoderThatCannotStartFails();
     void missingFfmpegIsSaidInTheLog();
@@ -201,6 +202,18 @@ void TestCAVConverter::stopKillsRunningAndSuspendedEncoders()
     // ffmpeg itself is gone too, not left running on its own.
     for (qint64 pid : tree)
         QTRY_VERIFY_WITH_TIMEOUT(processState(pid) == '?' || processState(pid) == 'Z', 5000);
+}
+
+void TestCAVConverter::stopRightAfterStart()
+{
+    // The queue may stop a task in the same pass that started it.
+    CAVConverter converter;
+    QSignalSpy finished(&converter, &CAVConverter::convertFinished);
+    converter.setCommand(liveEncode(dir.filePath(QStringLiteral("at-once.avi")), 60), 4);
+    converter.start();
+    converter.stop();
+    QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 10000);
+    QCOMPARE(finished.at(0).at(1).toBool(), false);
 }
 
 void TestCAVConverter::encoderThatCannotStartFails_data()
