@@ -142,6 +142,7 @@ private slots:
     void initTestCase();
     void batchRunsInListOrderWithinTheLimit();
     void pauseStandsOneEncoderAndStopEndsAll();
+    void limitChangesDuringBatch();
     void remainingTimeFallsAndHoldsAtHalfWay();
 };
 
@@ -303,6 +304,63 @@ void TestConverterManager::pauseStandsOneEncoderAndStopEndsAll()
     QCOMPARE(list.byId(third)->state, Task::Running);
     manager.stopTask(third);
     QTRY_COMPARE_WITH_TIMEOUT(list.byId(third)->state, Task::Failed, 10000);
+    qunsetenv("KESTROVE_FFMPEG");
+}
+
+void TestConverterManager::limitChangesDuringBatch()
+{
+    qputenv("KESTROVE_FFMPEG", QFile::encodeName(pacedFfmpeg));
+    TaskList list(&catalogue);
+    const int first = addTitle(list, *mainDisc, 0);
+    const int second = addTitle(list, *mainDisc, 2);
+    const int third = addFile(list, "movie.mkv");
+    const int fourth = addFile(list, "clip.mp4");
+    ConverterManager manager(&list);
+    BatchWatch watch(manager, list);
+    const auto states = [&list] {
+        QList<Task::EState> result;
+        for (int i = 0; i < list.count(); ++i)
+            result.append(list.at(i)->state);
+        return result;
+    };
+    using S = QList<Task::EState>;
+    manager.setMaxProcesses(1);
+    manager.startAll();
+    QCOMPARE(states(), S({Task::Running, Task::Waiting, Task::Waiting, Task::Waiting}));
+
+    // A paused task keeps its slot; a higher limit resumes it before it
+    // starts anything new.
+    manager.pauseTask(first);
+    manager.setMaxProcesses(2);
+    QCOMPARE(states(), S({Task::Running, Task::Waiting, Task::Waiting, Task::Waiting}));
+    manager.pauseTask(first);
+    manager.setMaxProcesses(4);
+    QCOMPARE(states(), S({Task::Running, Task::Running, Task::Running, Task::Waiting}));
+    QCOMPARE(watch.started, QList<int>({first, second, third}));
+
+    // A lower limit stands the first running encoders, and they stay so.
+    manager.setMaxProcesses(2);
+    QCOMPARE(states(), S({Task::Paused, Task::Paused, Task::Running, Task::Waiting}));
+    QCOMPARE(manager.runningCount(), 3);
+    for (qint64 pid : processTree(manager.processId(second)))
+        QTRY_COMPARE_WITH_TIMEOUT(processState(pid), 'T', 5000);
+
+    manager.stopAll();
+    QTRY_VERIFY_WITH_TIMEOUT(allAtRest(list), 10000);
+    QCOMPARE(states(), S({Task::Failed, Task::Failed, Task::Failed, Task::Idle}));
+    QCOMPARE(watch.started.size(), 3);
+    QVERIFY(!manager.isBatchActive());
+
+    // Closing the program ends the encoders with the manager.
+    QList<qint64> tree;
+    {
+        ConverterManager closing(&list);
+        closing.startTask(fourth);
+        QTRY_VERIFY_WITH_TIMEOUT((tree = processTree(closing.processId(fourth))).size() >= 2,
+                                 10000);
+    }
+    for (qint64 pid : tree)
+        QTRY_VERIFY_WITH_TIMEOUT(processState(pid) == '?' || processState(pid) == 'Z', 5000);
     qunsetenv("KESTROVE_FFMPEG");
 }
 
