@@ -188,8 +188,6 @@ void ConverterManager::launch(Task &task)
         connect(converter, &CAVConverter::convertFinished, this,
                 &ConverterManager::on_convertFinished, Qt::QueuedConnection);
     }
-    if (!program.isEmpty())
-        converter->setProgram(program);
 
     if (Setting::outputLog() != 0) {
         const QString folder = logFolder();

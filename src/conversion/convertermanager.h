@@ -35,8 +35,6 @@ public:
     int runningCount() const { return int(running.size()); }
     // The encoder's process id for a task, 0 when it has none.
     qint64 processId(int taskId) const;
-    // The encoder program; the front beside the executable unless set.
-    void setProgram(const QString &path) { program = path; }
 
 signals:
     void progressChanged(int nTaskId, double progress);
@@ -58,5 +56,4 @@ private:
     QMap<int, CAVConverter *> running;
     QList<CAVConverter *> idle;
     bool batchActive = false;
-    QString program;
 };

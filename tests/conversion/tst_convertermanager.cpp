@@ -344,6 +344,10 @@ void TestConverterManager::limitChangesDuringBatch()
     QCOMPARE(manager.runningCount(), 3);
     for (qint64 pid : processTree(manager.processId(second)))
         QTRY_COMPARE_WITH_TIMEOUT(processState(pid), 'T', 5000);
+    manager.pauseAll();
+    QCOMPARE(states(), S({Task::Paused, Task::Paused, Task::Paused, Task::Waiting}));
+    for (qint64 pid : processTree(manager.processId(third)))
+        QTRY_COMPARE_WITH_TIMEOUT(processState(pid), 'T', 5000);
 
     manager.stopAll();
     QTRY_VERIFY_WITH_TIMEOUT(allAtRest(list), 10000);
