@@ -17,11 +17,8 @@ ConverterManager::ConverterManager(TaskList *taskList, QObject *parent)
 ConverterManager::~ConverterManager()
 {
     // Closing the program kills every encoder; their results no longer matter.
-    for (CAVConverter *converter : std::as_const(running)) {
-        disconnect(converter, nullptr, this, nullptr);
-        converter->stop();
-    }
-    for (CAVConverter *converter : std::as_const(idle)) {
+    const QList<CAVConverter *> converters = running.values() + idle;
+    for (CAVConverter *converter : converters) {
         disconnect(converter, nullptr, this, nullptr);
         converter->stop();
     }
