@@ -93,6 +93,8 @@ QString outputPath(Task &task, const QString &commonRoot)
         }
     }
 
+    // The folder first: a name can only be reserved in a folder that exists.
+    QDir().mkpath(folder);
     PathParts parts;
     parts.setFolder(folder);
     parts.setFileName(task.output.fileName);
@@ -106,7 +108,6 @@ QString outputPath(Task &task, const QString &commonRoot)
     } else {
         parts.reserveUnique();
     }
-    QDir().mkpath(folder);
     task.output.filePath = QDir::toNativeSeparators(parts.fullPath());
     return task.output.filePath;
 }

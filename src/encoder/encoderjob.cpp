@@ -2,7 +2,9 @@
 
 #include "filtertranslator.h"
 
+#include <QFileInfo>
 #include <QRegularExpression>
+#include <QSize>
 
 namespace {
 
@@ -86,8 +88,13 @@ std::optional<EncoderJob> EncoderJob::parse(const QStringList &arguments, QStrin
                  || token.name == QLatin1String("vf") || token.name == QLatin1String("cpu_percent"))
             arity = OptionTable::Arity::One;
         const bool next = i + 1 < end;
-        if (arity == OptionTable::Arity::One
-            || (arity == OptionTable::Arity::Guess && next && !looksLikeOption(arguments[i + 1]))) {
+        // Our own input options always take their value; an output option
+        // written without one is the table's to judge.
+        const bool strict = token.name == QLatin1String("i") || token.name == QLatin1String("vf")
+                            || token.name == QLatin1String("cpu_percent")
+                            || inputOptionNames.contains(token.name);
+        if ((arity == OptionTable::Arity::One && strict)
+            || (arity != OptionTable::Arity::None && next && !looksLikeOption(arguments[i + 1]))) {
             if (!next)
                 return fail(QStringLiteral("option -%1 needs a value").arg(token.name));
             token.value = arguments[++i];
@@ -141,6 +148,8 @@ std::optional<EncoderJob> EncoderJob::parse(const QStringList &arguments, QStrin
                 pending.titleStart = t.value;
             else if (n == QLatin1String("t") && isTitleAhead(tokens, i))
                 pending.titleLength = t.value;
+            else if (n == QLatin1String("ss") && t.value.toDouble() == 0)
+                ; // no seek at all: a seek to 0 shifts the streams of some files apart
             else if (n != QLatin1String("si"))
                 pending.options << QLatin1Char('-') + n << t.value;
             if (!ok)
@@ -157,6 +166,7 @@ std::optional<EncoderJob> EncoderJob::parse(const QStringList &arguments, QStrin
         afterInput = false;
     }
     OptionTable::finish(job.output);
+    job.fitCodecToSize();
     job.notes += job.output.notes;
     return job;
 }
@@ -168,7 +178,50 @@ bool EncoderJob::wantsVideo() const
 
 bool EncoderJob::wantsAudio() const
 {
-    return !output.args.contains(QStringLiteral("-an"));
+    return !output.args.contains(QStringLiteral("-an")) && !isPictureSeries();
+}
+
+bool EncoderJob::isPictureSeries() const
+{
+    static const QRegularExpression series(QStringLiteral("%0?\\d*d\\.(bmp|jpe?g|png|gif)$"),
+                                           QRegularExpression::CaseInsensitiveOption);
+    return series.match(outputPath).hasMatch();
+}
+
+void EncoderJob::fitCodecToSize()
+{
+    if (inputs.isEmpty())
+        return;
+    const QStringList size = outputSizeOf(inputs.last().videoChain).split(QLatin1Char('x'));
+    const int width = size.value(0).toInt(), height = size.value(1).toInt();
+    const QString &codec = output.videoCodec;
+    auto replaceCodec = [this](const QString &to) {
+        const int at = output.args.indexOf(QStringLiteral("-c:v"));
+        if (at >= 0)
+            output.args[at + 1] = to;
+        output.videoCodec = to;
+    };
+    if (codec == QLatin1String("h263")) {
+        static const QList<QSize> sizes
+            = {{128, 96}, {176, 144}, {352, 288}, {704, 576}, {1408, 1152}};
+        if (!sizes.contains(QSize(width, height))) {
+            output.notes << QStringLiteral("H.263 has no %1x%2 pictures: encoded as MPEG-4 part 2")
+                                .arg(width)
+                                .arg(height);
+            replaceCodec(QStringLiteral("mpeg4"));
+        }
+    } else if ((codec == QLatin1String("rv10") || codec == QLatin1String("rv20"))
+               && (width % 16 || height % 16)) {
+        // RealVideo takes whole macroblocks only.
+        const int w = qMax(16, (width + 8) / 16 * 16), h = qMax(16, (height + 8) / 16 * 16);
+        output.notes << QStringLiteral("RealVideo needs sizes in steps of 16: %1x%2 becomes %3x%4")
+                            .arg(width)
+                            .arg(height)
+                            .arg(w)
+                            .arg(h);
+        for (EncoderInput &input : inputs)
+            input.videoChain += QStringLiteral(",scale=%1:%2").arg(w).arg(h);
+    }
 }
 
 QStringList EncoderJob::ffmpegArguments(const QStringList &sources,
@@ -317,6 +370,18 @@ QStringList EncoderJob::ffmpegArguments(const QStringList &sources,
             args << QStringLiteral("-map") << QStringLiteral("[aout]");
     }
 
-    args << output.args << outputPath;
+    args << output.args;
+    if (isPictureSeries()) {
+        // Each picture in the format its name says; the gif muxer would
+        // otherwise take "%03d" for part of one file's name.
+        if (output.videoCodec.isEmpty()) {
+            const QString extension = QFileInfo(outputPath).suffix().toLower();
+            args << QStringLiteral("-c:v")
+                 << (extension.startsWith(QLatin1String("jp")) ? QStringLiteral("mjpeg") : extension);
+        }
+        if (!output.args.contains(QStringLiteral("-f")))
+            args << QStringLiteral("-f") << QStringLiteral("image2");
+    }
+    args << outputPath;
     return args;
 }

@@ -56,4 +56,10 @@ struct EncoderJob
 
     bool wantsVideo() const;
     bool wantsAudio() const;
+    // A numbered picture series ("name%03d.png") carries no sound.
+    bool isPictureSeries() const;
+
+private:
+    // Stock encoders that take only some picture sizes.
+    void fitCodecToSize();
 };

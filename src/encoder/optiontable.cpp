@@ -130,8 +130,13 @@ struct NameRow
 };
 
 const NameRow videoCodecs[] = {
-    {"cuh264", "h264_nvenc", nullptr}, {"xvid", "libxvid", nullptr}, {"wmv3x", "wmv2", nullptr},
-    {"realvideo", "rv20", nullptr},    {"vp8", "libvpx", nullptr},
+    {"cuh264", "h264_nvenc", nullptr},
+    {"xvid", "libxvid", nullptr},
+    {"wmv1x", "wmv1", nullptr},
+    {"wmv2x", "wmv2", nullptr},
+    {"wmv3x", "wmv2", "this ffmpeg has no WMV 9 encoder"},
+    {"realvideo", "rv20", nullptr},
+    {"vp8", "libvpx", nullptr},
 };
 
 const NameRow audioCodecs[] = {
@@ -141,6 +146,9 @@ const NameRow audioCodecs[] = {
     {"libamr_nb", "aac", "this ffmpeg has no AMR-NB encoder"},
     {"libopencore_amrnb", "aac", "this ffmpeg has no AMR-NB encoder"},
     {"wma7x", "wmav2", nullptr},
+    {"wma8x", "wmav2", nullptr},
+    {"wma9x", "wmav2", "this ffmpeg has no WMA 9 encoder"},
+    {"wmalsl", "wmav2", "this ffmpeg has no WMA Lossless encoder"},
     {"vorbis", "libvorbis", nullptr},
 };
 
@@ -251,6 +259,10 @@ void applyOutput(OutputOptions &out, const QString &name, const QString &value, 
     }
     switch (row->action) {
     case Action::Keep:
+        if (row->arity == Arity::One && !hasValue) {
+            out.notes << QStringLiteral("option -%1 without a value: left out").arg(name);
+            return;
+        }
         out.args << QLatin1Char('-') + name;
         if (hasValue)
             out.args << value;

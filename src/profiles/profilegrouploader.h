@@ -1,5 +1,6 @@
 #pragma once
 
+#include "profilelookup.h"
 #include "xmlloader.h"
 
 #include <QList>
@@ -9,7 +10,7 @@
 // The catalogue of output profiles: the built-in groups from the resources
 // with the user's own group "User Defined" merged in from the user's
 // Group.xml. Profiles are named by their key "<group id>,<profile id>".
-class ProfileGroupLoader : public XmlLoader
+class ProfileGroupLoader : public XmlLoader, public ProfileLookup
 {
 public:
     // The process's catalogue, read on first use.
@@ -36,8 +37,8 @@ public:
     // Null when the group (or the first group) holds no such id.
     QDomNode profile(const QString &groupId, const QString &id) const;
     QDomNode profileByKey(const QString &key) const;
-    QString profileFileName(const QString &groupId, const QString &id) const;
-    QString profileExtName(const QString &groupId, const QString &id) const;
+    QString profileFileName(const QString &groupId, const QString &id) const override;
+    QString profileExtName(const QString &groupId, const QString &id) const override;
     QString defaultProfile() const;
     bool hasProfile(const QString &key) const;
     // Keys in catalogue order across groups; empty at either end.

@@ -1,8 +1,8 @@
 #include "encoderjob.h"
 #include "ffmpegtools.h"
 #include "filtertranslator.h"
-#include "utils.h"
 #include "mediafixtures.h"
+#include "utils.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -49,6 +49,8 @@ private slots:
     void titleListBecomesPipedInput();
     void mergedListBecomesJoin();
     void titleTrimIsDoneOnFrames();
+    void codecsFittedToTheOutput_data();
+    void codecsFittedToTheOutput();
     void badLists_data();
     void badLists();
     // Real conversions through kestrove-encoder
@@ -124,7 +126,7 @@ void TestEncoderJob::mergedListBecomesJoin()
     QVERIFY2(job, qPrintable(error));
     QCOMPARE(job->inputs.size(), 2);
     QCOMPARE(job->inputs[0].options, words(QStringLiteral("-ss 10 -t 50")));
-    QCOMPARE(job->inputs[1].options, words(QStringLiteral("-ss 0")));
+    QVERIFY(job->inputs[1].options.isEmpty()); // a seek to 0 is left out
     QCOMPARE(job->inputs[1].audioStream, 1);
     QCOMPARE(job->inputs[1].videoChain, QStringLiteral("crop=10:10:2:2,scale=320:240"));
 
@@ -165,6 +167,56 @@ void TestEncoderJob::titleTrimIsDoneOnFrames()
              QStringLiteral("[0:v:0]null[kb];[kb][0:i:0x20]overlay=format=auto,scale=8:8[vout]"));
     QVERIFY2(!args.join(QLatin1Char(' ')).contains(QStringLiteral("0:a")),
              "no audio track was chosen");
+}
+
+void TestEncoderJob::codecsFittedToTheOutput_data()
+{
+    QTest::addColumn<QString>("list");
+    QTest::addColumn<QString>("expected"); // must stand in ffmpeg's list
+    QTest::addColumn<QString>("absent");
+    QTest::addColumn<QString>("note");
+    QTest::newRow("a seek to 0 is no seek")
+        << "-ss 0 -i /a.mkv -vf scale=64:48 -vcodec mpeg4 /o.avi"
+        << "-nostdin -i /a.mkv"
+        << "-ss"
+        << "";
+    QTest::newRow("H.263 at a size it has") << "-i /a.mkv -vf scale=176:144 -vcodec h263 /o.3gp"
+                                            << "-c:v h263"
+                                            << "mpeg4"
+                                            << "";
+    QTest::newRow("H.263 at a size it lacks") << "-i /a.mkv -vf scale=320:240 -vcodec h263 /o.3gp"
+                                              << "-c:v mpeg4"
+                                              << "h263"
+                                              << "H.263 has no 320x240";
+    QTest::newRow("RealVideo in steps of 16") << "-i /a.mkv -vf scale=854:480 -vcodec rv20 /o.rm"
+                                              << "-vf scale=854:480,scale=848:480"
+                                              << ""
+                                              << "854x480 becomes 848x480";
+    QTest::newRow("picture series") << "-i /a.mkv -vf scale=64:48 -r 1/5 /p/shot%03d.gif"
+                                    << "-c:v gif -f image2 /p/shot%03d.gif"
+                                    << "0:a"
+                                    << "";
+}
+
+void TestEncoderJob::codecsFittedToTheOutput()
+{
+    QFETCH(QString, list);
+    QFETCH(QString, expected);
+    QFETCH(QString, absent);
+    QFETCH(QString, note);
+    QString error;
+    const auto job = EncoderJob::parse(words(list), &error);
+    QVERIFY2(job, qPrintable(error));
+    const QString args
+        = job->ffmpegArguments({job->inputs.first().path}, {InputLayout()}).join(QLatin1Char(' '));
+    QVERIFY2(args.contains(expected), qPrintable(args));
+    if (!absent.isEmpty())
+        QVERIFY2(!args.contains(absent), qPrintable(args));
+    if (note.isEmpty())
+        QVERIFY(job->notes.isEmpty());
+    else
+        QVERIFY2(job->notes.join(QLatin1Char('\n')).contains(note),
+                 qPrintable(job->notes.join(QLatin1Char('\n'))));
 }
 
 void TestEncoderJob::badLists_data()
@@ -238,8 +290,7 @@ void TestEncoderJob::watermarkOnFile()
     const QString markPath = dir.filePath(QStringLiteral("mark, 'one'.png"));
     QVERIFY(mark.save(markPath));
     const QString out = dir.filePath(QStringLiteral("marked.mkv"));
-    const QString chain
-        = QStringLiteral("scale=320:240,watermark2=100:50:") + hexText(markPath);
+    const QString chain = QStringLiteral("scale=320:240,watermark2=100:50:") + hexText(markPath);
     QCOMPARE(encode({QStringLiteral("-y"), QStringLiteral("-i"), fixture(fixtures, "clip.mp4"),
                      QStringLiteral("-vf"), chain, QStringLiteral("-vcodec"),
                      QStringLiteral("mpeg4"), QStringLiteral("-qscale"), QStringLiteral("2"), out}),

@@ -73,23 +73,19 @@ void TestFilterTranslator::translates_data()
         << QStringLiteral("scale=320:240,effect2=0:0:0:99a14a")
         << QStringLiteral("scale=320:240,vflip") << QStringLiteral("unknown effect 99");
     QTest::newRow("watermark")
-        << QStringLiteral("scale=320:240,watermark2=10:20:")
-               + hexText(QStringLiteral("/tmp/w.png"))
+        << QStringLiteral("scale=320:240,watermark2=10:20:") + hexText(QStringLiteral("/tmp/w.png"))
         << QStringLiteral("scale=320:240[kv0];movie=filename=/tmp/w.png,format=rgba[kw0];"
                           "[kv0][kw0]overlay=x=10:y=20:format=auto")
         << QString();
     QTest::newRow("watermark then effect")
-        << QStringLiteral("scale=320:240,watermark2=1:2:")
-               + hexText(QStringLiteral("/w.png"))
+        << QStringLiteral("scale=320:240,watermark2=1:2:") + hexText(QStringLiteral("/w.png"))
                + QStringLiteral(",effect2=0:0:0:5a")
         << QStringLiteral("scale=320:240[kv0];movie=filename=/"
                           "w.png,format=rgba[kw0];[kv0][kw0]overlay=x=1:y=2:format=auto,negate")
         << QString();
     QTest::newRow("subtitle")
-        << QStringLiteral("scale=320:240,subtitle=")
-               + hexText(QStringLiteral("DejaVu Sans"))
-               + QStringLiteral(":20:3:255x0x16:127:90:-1:")
-               + hexText(QStringLiteral("/s.srt"))
+        << QStringLiteral("scale=320:240,subtitle=") + hexText(QStringLiteral("DejaVu Sans"))
+               + QStringLiteral(":20:3:255x0x16:127:90:-1:") + hexText(QStringLiteral("/s.srt"))
         << QStringLiteral(
                "scale=320:240,subtitles=filename=/s.srt:force_style=FontName=DejaVu Sans\\,"
                "FontSize=20\\,Bold=-1\\,Italic=-1\\,PrimaryColour=&H801000FF\\,Alignment=2\\,"
@@ -184,8 +180,7 @@ void TestFilterTranslator::awkwardPathsReachFfmpeg()
     srt.close();
     const auto subtitled = FilterTranslator::translate(
         QStringLiteral("scale=160:120,subtitle=%1:24:1:255x0x255:255:90:-1:%2")
-            .arg(hexText(QStringLiteral("DejaVu Sans")),
-                 hexText(srtPath)));
+            .arg(hexText(QStringLiteral("DejaVu Sans")), hexText(srtPath)));
     const QImage withText = render(subtitled.graph);
     QVERIFY(!withText.isNull());
     const double changed = differingShare(withText, plain);

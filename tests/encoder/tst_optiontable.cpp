@@ -64,7 +64,10 @@ void TestOptionTable::translates_data()
     // Codecs
     row("vcodec cuh264", words("-vcodec cuh264"), words("-c:v h264_nvenc"), {}, {}, {}, false);
     row("vcodec plain", words("-vcodec mpeg4"), words("-c:v mpeg4"));
-    row("vcodec wmv3x", words("-vcodec wmv3x"), words("-c:v wmv2"));
+    row("vcodec wmv1x", words("-vcodec wmv1x"), words("-c:v wmv1"));
+    row("vcodec wmv2x", words("-vcodec wmv2x"), words("-c:v wmv2"));
+    row("vcodec wmv3x", words("-vcodec wmv3x"), words("-c:v wmv2"), {}, {},
+        QStringLiteral("WMV 9"));
     row("vcodec realvideo", words("-vcodec realvideo"), words("-c:v rv20"));
     row("vcodec vp8", words("-vcodec vp8"), words("-c:v libvpx"));
     row("vcodec xvid", words("-vcodec xvid"), words("-c:v libxvid"));
@@ -76,6 +79,11 @@ void TestOptionTable::translates_data()
     row("acodec libamr_nb", words("-acodec libamr_nb"), words("-c:a aac"), {}, {},
         QStringLiteral("AMR-NB"));
     row("acodec wma7x", words("-acodec wma7x"), words("-c:a wmav2"));
+    row("acodec wma8x", words("-acodec wma8x"), words("-c:a wmav2"));
+    row("acodec wma9x", words("-acodec wma9x"), words("-c:a wmav2"), {}, {},
+        QStringLiteral("WMA 9"));
+    row("acodec wmalsl", words("-acodec wmalsl"), words("-c:a wmav2"), {}, {},
+        QStringLiteral("Lossless"));
     row("acodec vorbis", words("-acodec vorbis"), words("-c:a libvorbis"));
     row("vprofile", words("-vcodec libx264 -vprofile baseline"),
         words("-c:v libx264 -profile:v baseline"));
@@ -159,6 +167,8 @@ void TestOptionTable::translates_data()
         const QStringList pair{QLatin1Char('-') + QLatin1String(name), value};
         row(name, pair, pair);
     }
+    row("bf without a value", words("-bf -g 12"), words("-g 12"), {}, {},
+        QStringLiteral("-bf without a value"));
     // Decoding options move in front of the inputs.
     row("ec", words("-ec guess_mvs"), {}, {}, {}, {}, true, words("-ec guess_mvs"));
     row("bug", words("-bug autodetect"), {}, {}, {}, {}, true, words("-bug autodetect"));

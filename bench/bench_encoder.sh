@@ -1,0 +1,63 @@
+#!/usr/bin/env bash
+# Times the encoder front against stock ffmpeg, and one DVD title to the
+# "iPhone H.264 Video" settings against HandBrakeCLI.
+#   bench/bench_encoder.sh BUILD_DIR
+# BUILD_DIR holds bin/kestrove-encoder (an optimised build without sanitizers).
+set -euo pipefail
+build=$(cd "${1:?usage: bench_encoder.sh BUILD_DIR}" && pwd)
+encoder="$build/bin/kestrove-encoder"
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+cd "$work"
+runs=${RUNS:-5}
+
+now() { date +%s.%N; }
+median() { sort -n | awk '{a[NR]=$1} END {print (NR % 2) ? a[(NR+1)/2] : (a[NR/2] + a[NR/2+1]) / 2}'; }
+timed() { local t0 t1; t0=$(now); "$@" > /dev/null 2>&1; t1=$(now); echo "$t1 - $t0" | bc -l; }
+# Processor seconds (user + system) of a command and its children: steadier than wall time on a busy machine.
+cputime() { /usr/bin/time -f '%U %S' "$@" 2>&1 >/dev/null | tail -1 | awk '{print $1 + $2}'; }
+
+echo "== Encoder front overhead: 20 s of 640x480 to MPEG-4 + AAC, $runs runs each"
+ffmpeg -v error -f lavfi -i testsrc2=s=640x480:r=25:d=20 -f lavfi -i sine=f=440:d=20 \
+    -c:v mpeg4 -q:v 3 -c:a mp2 -shortest source.mkv
+front=(-y -ss 0 -i source.mkv -vf scale=640:480 -b:v 1200000 -r 25 -vcodec mpeg4 -threads 2 -aspect 1.33333
+       -ab 128k -ac 2 -ar 44100 -acodec libfaac out-front.mp4)
+stock=(-nostdin -y -i source.mkv -vf scale=640:480 -map 0:v:0? -map 0:a:0? -b:v 1200000 -r 25 -c:v mpeg4
+       -threads 2 -aspect 1.33333 -b:a 128k -ac 2 -ar 44100 -c:a aac out-stock.mp4)
+for i in $(seq "$runs"); do
+    timed ffmpeg "${stock[@]}" >> stock.txt
+    timed "$encoder" "${front[@]}" >> front.txt
+    cputime ffmpeg "${stock[@]}" >> stock-cpu.txt
+    cputime "$encoder" "${front[@]}" >> front-cpu.txt
+done
+s=$(median < stock.txt); f=$(median < front.txt)
+printf 'wall: stock ffmpeg median %.3f s, kestrove-encoder median %.3f s, overhead %+.2f%%\n' \
+    "$s" "$f" "$(echo "($f - $s) / $s * 100" | bc -l)"
+s=$(median < stock-cpu.txt); f=$(median < front-cpu.txt)
+printf 'processor: stock ffmpeg median %.3f s, kestrove-encoder median %.3f s, overhead %+.2f%%\n' \
+    "$s" "$f" "$(echo "($f - $s) / $s * 100" | bc -l)"
+
+echo "== One DVD title (60 s, PAL) to 480x320 H.264 1000 kbit/s + AAC 128 kbit/s"
+ffmpeg -v error -f lavfi -i testsrc2=s=720x576:r=25:d=60 -f lavfi -i sine=f=440:r=48000:d=60 \
+    -target pal-dvd -b:v 4000k -shortest title.mpg
+cat > dvd.xml <<'XML'
+<dvdauthor><vmgm/><titleset><titles><pgc><vob file="title.mpg"/></pgc></titles></titleset></dvdauthor>
+XML
+VIDEO_FORMAT=PAL dvdauthor -o dvd -x dvd.xml > /dev/null 2>&1
+ifo=dvd/VIDEO_TS/VTS_01_0.IFO
+ours=(-y -ss 0 -pgc 0 -audio_track 0 -subtitle -1 -i "$ifo" -vf scale=480:320 -b:v 1000000 -r 25
+      -vcodec libx264 -preset superfast -vprofile baseline -threads 2 -aspect 1.5 -ab 128k -ac 2 -ar 44100
+      -acodec libfaac ours.mp4)
+hb=(-i dvd -t 1 -o hb.mp4 -e x264 --encoder-preset superfast --encoder-profile baseline -b 1000 -w 480 -l 320
+    --custom-anamorphic --pixel-aspect 1:1 -r 25 --cfr -E av_aac -B 128 -R 44.1 -6 stereo)
+ours_t=$(timed "$encoder" "${ours[@]}")
+hb_t=$(timed HandBrakeCLI "${hb[@]}")
+ssim() {
+    ffmpeg -v error -i "$1" -i title.mpg -lavfi "[1:v]scale=480:320,setsar=1[ref];[0:v]setsar=1[out];[out][ref]ssim" \
+        -f null - 2>&1 | tail -1
+    ffmpeg -i "$1" -i title.mpg -lavfi "[1:v]scale=480:320,setsar=1[ref];[0:v]setsar=1[out];[out][ref]ssim" \
+        -f null - 2>&1 | grep -o 'All:[0-9.]*' | tail -1
+}
+printf 'kestrove-encoder: %.2f s, %s bytes, SSIM %s\n' "$ours_t" "$(stat -c %s ours.mp4)" "$(ssim ours.mp4 | tail -1)"
+printf 'HandBrakeCLI:     %.2f s, %s bytes, SSIM %s\n' "$hb_t" "$(stat -c %s hb.mp4)" "$(ssim hb.mp4 | tail -1)"
+printf 'wall time ratio (ours / HandBrake): %.2f\n' "$(echo "$ours_t / $hb_t" | bc -l)"

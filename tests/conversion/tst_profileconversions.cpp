@@ -1,0 +1,278 @@
+#include "commandbuilder.h"
+#include "dvddisc.h"
+#include "encoderjob.h"
+#include "mediafixtures.h"
+#include "optiontable.h"
+#include "profile.h"
+#include "profilegrouploader.h"
+#include "settings.h"
+#include "task.h"
+#include "tasklist.h"
+
+#include <QDir>
+#include <QGuiApplication>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTest>
+
+// Every profile of the built-in catalogue converts a short file and a DVD
+// title through the real encoder front into what the profile promises.
+class TestProfileConversions : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit TestProfileConversions(const QString &home)
+        : home(home)
+    {}
+
+private slots:
+    void initTestCase();
+    void converts_data();
+    void converts();
+
+private:
+    struct Job
+    {
+        std::unique_ptr<TaskList> list;
+        Task *task = nullptr;
+        QProcess process;
+    };
+    void start(Job &job, const QString &key, bool title);
+    void check(Job &job, const QString &key, bool title);
+
+    QString home;
+    QString fixtures;
+    std::unique_ptr<DvdDisc> disc;
+    QMap<QString, QString> codecOfEncoder;
+    QString encoder;
+};
+
+void TestProfileConversions::initTestCase()
+{
+    fixtures = mediaFixtures();
+    QVERIFY2(!fixtures.isEmpty(), "the media fixtures could not be made");
+    disc = LoadDvdDisc(fixture(fixtures, "dvd-ntsc/VIDEO_TS/VTS_01_0.IFO"), false);
+    QVERIFY(disc && !disc->titles.empty());
+    encoder = QCoreApplication::applicationDirPath() + QStringLiteral("/kestrove-encoder");
+    CommandBuilder::setGpuEncoderOverride(0);
+    setSettingString(QStringLiteral("OutputDir"), home + QStringLiteral("/out"));
+    setSettingInt(QStringLiteral("ThreadCount"), 1);
+
+    QProcess ffmpeg;
+    ffmpeg.start(QStringLiteral("ffmpeg"),
+                 {QStringLiteral("-hide_banner"), QStringLiteral("-encoders")});
+    QVERIFY(ffmpeg.waitForFinished(20000));
+    const QRegularExpression line(
+        QStringLiteral("^ [VAS][^ ]{5} (\\S+) .*?(?:\\(codec (\\S+)\\))?$"),
+        QRegularExpression::MultilineOption);
+    auto it = line.globalMatch(QString::fromUtf8(ffmpeg.readAllStandardOutput()));
+    while (it.hasNext()) {
+        const auto match = it.next();
+        codecOfEncoder[match.captured(1)]
+            = match.captured(2).isEmpty() ? match.captured(1) : match.captured(2);
+    }
+    QVERIFY(codecOfEncoder.value(QStringLiteral("libx264")) == QLatin1String("h264"));
+}
+
+void TestProfileConversions::converts_data()
+{
+    QTest::addColumn<QString>("key");
+    const ProfileGroupLoader *catalogue = ProfileGroupLoader::instance();
+    int count = 0;
+    for (const QDomNode &group : catalogue->groups()) {
+        const QString groupId
+            = group.firstChildElement(QStringLiteral("Id")).attribute(QStringLiteral("value"));
+        const QDomNodeList profiles = catalogue->profiles(group);
+        for (int i = 0; i < profiles.size(); ++i) {
+            const QDomElement profile = profiles.at(i).toElement();
+            const QString id = profile.firstChildElement(QStringLiteral("Id"))
+                                   .attribute(QStringLiteral("value"));
+            const QString name = profile.firstChildElement(QStringLiteral("Name"))
+                                     .attribute(QStringLiteral("value"));
+            const QString key = ProfileGroupLoader::profileKey(groupId, id);
+            QTest::newRow(qPrintable(key + QLatin1Char(' ') + name)) << key;
+            ++count;
+        }
+    }
+    QCOMPARE(count, 85);
+}
+
+void TestProfileConversions::start(Job &job, const QString &key, bool title)
+{
+    job.list = std::make_unique<TaskList>(ProfileGroupLoader::instance());
+    const int id = title ? job.list->addTitle(key, *disc->titles[0], 1, 1)
+                         : job.list->addFile(key, fixture(fixtures, "movie.mkv"));
+    job.task = job.list->byId(id);
+    QVERIFY(job.task);
+    job.task->output.settings
+        = Profile(QStringLiteral(":/profile/") + job.task->output.profileFile).values();
+    const QStringList args = CommandBuilder::build(*job.task, job.list->commonRootPath());
+    job.process.setProcessChannelMode(QProcess::MergedChannels);
+    job.process.start(encoder, args);
+}
+
+void TestProfileConversions::check(Job &job, const QString &key, bool title)
+{
+    const QString what = QStringLiteral("%1 from a %2")
+                             .arg(key, title ? QStringLiteral("title") : QStringLiteral("file"));
+    QVERIFY2(job.process.waitForFinished(120000), qPrintable(what));
+    const QByteArray log = job.process.readAll();
+    QVERIFY2(job.process.exitStatus() == QProcess::NormalExit && job.process.exitCode() == 0,
+             qPrintable(what + QLatin1Char('\n') + QString::fromUtf8(log.right(700))));
+    const Task &task = *job.task;
+
+    QString output = task.output.filePath;
+    const bool pictures = !task.value(QStringLiteral("pcodec")).isEmpty();
+    if (pictures)
+        output.replace(QStringLiteral("%03d"), QStringLiteral("001"));
+    QVERIFY2(QFileInfo(output).size() > 0, qPrintable(what));
+
+    QProcess probe;
+    probe.start(QStringLiteral("ffprobe"),
+                {QStringLiteral("-v"), QStringLiteral("error"), QStringLiteral("-print_format"),
+                 QStringLiteral("json"), QStringLiteral("-show_streams"),
+                 QStringLiteral("-show_format"), output});
+    QVERIFY(probe.waitForFinished(30000));
+    const QJsonObject root = QJsonDocument::fromJson(probe.readAllStandardOutput()).object();
+    const QJsonArray streams = root.value(QStringLiteral("streams")).toArray();
+    QJsonObject video, audio;
+    for (const auto &value : streams) {
+        const QJsonObject stream = value.toObject();
+        const QString type = stream.value(QStringLiteral("codec_type")).toString();
+        if (type == QLatin1String("video") && video.isEmpty())
+            video = stream;
+        if (type == QLatin1String("audio") && audio.isEmpty())
+            audio = stream;
+    }
+
+    // The container: what ffprobe calls the format of the profile's extension.
+    static const QMap<QString, QString> containers = {
+        {QStringLiteral("mp4"), QStringLiteral("mp4")},
+        {QStringLiteral("m4a"), QStringLiteral("mp4")},
+        {QStringLiteral("mov"), QStringLiteral("mov")},
+        {QStringLiteral("3gp"), QStringLiteral("3gp")},
+        {QStringLiteral("avi"), QStringLiteral("avi")},
+        {QStringLiteral("wmv"), QStringLiteral("asf")},
+        {QStringLiteral("wma"), QStringLiteral("asf")},
+        {QStringLiteral("asf"), QStringLiteral("asf")},
+        {QStringLiteral("mpg"), QStringLiteral("mpeg")},
+        {QStringLiteral("vob"), QStringLiteral("mpeg")},
+        {QStringLiteral("rm"), QStringLiteral("rm")},
+        {QStringLiteral("ra"), QStringLiteral("rm")},
+        {QStringLiteral("dv"), QStringLiteral("dv")},
+        {QStringLiteral("mkv"), QStringLiteral("matroska")},
+        {QStringLiteral("webm"), QStringLiteral("webm")},
+        {QStringLiteral("ac3"), QStringLiteral("ac3")},
+        {QStringLiteral("aiff"), QStringLiteral("aiff")},
+        {QStringLiteral("flac"), QStringLiteral("flac")},
+        {QStringLiteral("au"), QStringLiteral("au")},
+        {QStringLiteral("mp2"), QStringLiteral("mp3")},
+        {QStringLiteral("mp3"), QStringLiteral("mp3")},
+        {QStringLiteral("ogg"), QStringLiteral("ogg")},
+        {QStringLiteral("wav"), QStringLiteral("wav")},
+        {QStringLiteral("ts"), QStringLiteral("mpegts")},
+        {QStringLiteral("flv"), QStringLiteral("flv")},
+        {QStringLiteral("swf"), QStringLiteral("swf")},
+        {QStringLiteral("bmp"), QStringLiteral("bmp_pipe")},
+        {QStringLiteral("gif"), QStringLiteral("gif")},
+        {QStringLiteral("jpg"), QStringLiteral("image2")},
+        {QStringLiteral("png"), QStringLiteral("png_pipe")},
+    };
+    const QString extension = QFileInfo(task.output.fileName).suffix();
+    const QStringList formats = root.value(QStringLiteral("format"))
+                                    .toObject()
+                                    .value(QStringLiteral("format_name"))
+                                    .toString()
+                                    .split(QLatin1Char(','));
+    QVERIFY2(containers.contains(extension),
+             qPrintable(what + QStringLiteral(": extension ") + extension));
+    QVERIFY2(formats.contains(containers.value(extension)),
+             qPrintable(what + QStringLiteral(": container ") + formats.join(QLatin1Char(','))));
+
+    // What the encoder front made of the list: the encoders it asked for
+    // and the frame size of the last filter chain.
+    const auto front = EncoderJob::parse(job.process.arguments(), nullptr);
+    QVERIFY(front);
+    auto codecOf = [this](const QString &encoderName) {
+        return codecOfEncoder.value(encoderName, encoderName);
+    };
+    QSize size = task.outputSize();
+    const QRegularExpression lastSize(
+        QStringLiteral("(?:scale|pad)=(\\d+):(\\d+)(?!.*(?:scale|pad)=)"));
+    const auto match = lastSize.match(front->inputs.last().videoChain);
+    if (match.hasMatch())
+        size = QSize(match.captured(1).toInt(), match.captured(2).toInt());
+    if (task.value(QStringLiteral("s")).isEmpty()) {
+        QVERIFY2(video.isEmpty() || formats.contains(QStringLiteral("mp3")),
+                 qPrintable(what + QStringLiteral(": video in audio output")));
+    } else {
+        QVERIFY2(!video.isEmpty(), qPrintable(what + QStringLiteral(": no video")));
+        const QString codec = codecOf(front->output.videoCodec);
+        if (!codec.isEmpty())
+            QCOMPARE(video.value(QStringLiteral("codec_name")).toString(), codec);
+        QCOMPARE(video.value(QStringLiteral("width")).toInt(), size.width() + size.width() % 2);
+        QCOMPARE(video.value(QStringLiteral("height")).toInt(), size.height() + size.height() % 2);
+    }
+    if (task.value(QStringLiteral("an")) != QLatin1String("True") && !pictures) {
+        QVERIFY2(!audio.isEmpty(), qPrintable(what + QStringLiteral(": no audio")));
+        const QString codec = codecOf(front->output.audioCodec);
+        if (!codec.isEmpty())
+            QCOMPARE(audio.value(QStringLiteral("codec_name")).toString(), codec);
+    }
+    if (!pictures) {
+        double duration = root.value(QStringLiteral("format"))
+                              .toObject()
+                              .value(QStringLiteral("duration"))
+                              .toString()
+                              .toDouble();
+        if (duration == 0 && !video.isEmpty()) {
+            // Some containers (SWF) keep no duration: count the frames.
+            QProcess count;
+            count.start(QStringLiteral("ffprobe"),
+                        {QStringLiteral("-v"), QStringLiteral("error"),
+                         QStringLiteral("-count_packets"), QStringLiteral("-select_streams"),
+                         QStringLiteral("v:0"), QStringLiteral("-show_entries"),
+                         QStringLiteral("stream=nb_read_packets,r_frame_rate"),
+                         QStringLiteral("-of"), QStringLiteral("csv=p=0"), output});
+            QVERIFY(count.waitForFinished(30000));
+            const QStringList fields = QString::fromUtf8(count.readAllStandardOutput())
+                                           .trimmed()
+                                           .split(QLatin1Char(','));
+            const QStringList rate = fields.value(0).split(QLatin1Char('/'));
+            if (rate.size() == 2 && rate[0].toDouble() > 0)
+                duration = fields.value(1).toDouble() * rate[1].toDouble() / rate[0].toDouble();
+        }
+        QVERIFY2(qAbs(duration - 3.0) < 0.5,
+                 qPrintable(what + QStringLiteral(": lasts ") + QString::number(duration)));
+    }
+}
+
+void TestProfileConversions::converts()
+{
+    QFETCH(QString, key);
+    // The file and the title convert side by side, one encoder each.
+    Job file, title;
+    start(file, key, false);
+    start(title, key, true);
+    check(file, key, false);
+    check(title, key, true);
+}
+
+int main(int argc, char *argv[])
+{
+    QTemporaryDir home;
+    qputenv("HOME", home.path().toLocal8Bit());
+    qunsetenv("XDG_CONFIG_HOME");
+    qputenv("TMPDIR", home.path().toLocal8Bit());
+    // Watermark entries take the application's font.
+    QGuiApplication app(argc, argv);
+    TestProfileConversions test(home.path());
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_profileconversions.moc"
