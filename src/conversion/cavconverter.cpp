@@ -67,7 +67,9 @@ void CAVConverter::setPaused(bool paused)
 
 void CAVConverter::stop()
 {
-    if (process.state() == QProcess::Running)
+    // A child that was just started is still Starting until the event loop
+    // has seen it come up; it has a process id and must die all the same.
+    if (process.state() != QProcess::NotRunning)
         process.killGroup();
 }
 

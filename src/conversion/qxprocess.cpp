@@ -18,6 +18,17 @@ QxProcess::QxProcess(QObject *parent)
     });
 }
 
+QxProcess::~QxProcess()
+{
+    // QProcess's own destructor would end the child and report it to
+    // receivers that are already half destroyed, this object among them.
+    blockSignals(true);
+    if (state() != NotRunning) {
+        killGroup();
+        waitForFinished(5000);
+    }
+}
+
 bool QxProcess::signalGroup(int signalNumber)
 {
     const qint64 pid = processId();

@@ -11,6 +11,7 @@ class QxProcess : public QProcess
 
 public:
     explicit QxProcess(QObject *parent = nullptr);
+    ~QxProcess() override;
 
     // Stops (true) or continues (false) the child and its descendants.
     // False only when no signal could be delivered.

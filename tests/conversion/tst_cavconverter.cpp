@@ -1,4 +1,5 @@
 #include "cavconverter.h"
+#include "processtools.h"
 #include "version.h"
 
 #include <QCoreApplication>
@@ -40,40 +41,6 @@ double probeDuration(const QString &file)
     return ok ? value : -1;
 }
 
-// The process and every descendant of it, from /proc.
-QList<qint64> processTree(qint64 root)
-{
-    QMultiMap<qint64, qint64> children;
-    const QStringList entries = QDir(QStringLiteral("/proc")).entryList(QDir::Dirs);
-    for (const QString &entry : entries) {
-        bool numeric = false;
-        const qint64 pid = entry.toLongLong(&numeric);
-        if (!numeric)
-            continue;
-        QFile stat(QStringLiteral("/proc/%1/stat").arg(pid));
-        if (!stat.open(QIODevice::ReadOnly))
-            continue;
-        const QByteArray text = stat.readAll();
-        const QList<QByteArray> fields = text.mid(text.lastIndexOf(')') + 2).split(' ');
-        if (fields.size() > 1)
-            children.insert(fields[1].toLongLong(), pid);
-    }
-    QList<qint64> tree{root};
-    for (int i = 0; i < tree.size(); ++i)
-        tree += children.values(tree[i]);
-    return tree;
-}
-
-char processState(qint64 pid)
-{
-    QFile stat(QStringLiteral("/proc/%1/stat").arg(pid));
-    if (!stat.open(QIODevice::ReadOnly))
-        return '?';
-    const QByteArray text = stat.readAll();
-    const int at = text.lastIndexOf(')') + 2;
-    return at > 1 && at < text.size() ? text.at(at) : '?';
-}
-
 QList<double> progressValues(const QSignalSpy &spy)
 {
     QList<double> values;
@@ -95,6 +62,7 @@ private slots:
     void pauseStopsEveryProcessAndResumes();
     void stopKillsRunningAndSuspendedEncoders_data();
     void stopKillsRunningAndSuspendedEncoders();
+    void stopRightAfterStart();
     void encoderThatCannotStartFails_data();
     void encoderThatCannotStartFails();
     void missingFfmpegIsSaidInTheLog();
@@ -236,6 +204,18 @@ void TestCAVConverter::stopKillsRunningAndSuspendedEncoders()
         QTRY_VERIFY_WITH_TIMEOUT(processState(pid) == '?' || processState(pid) == 'Z', 5000);
 }
 
+void TestCAVConverter::stopRightAfterStart()
+{
+    // The queue may stop a task in the same pass that started it.
+    CAVConverter converter;
+    QSignalSpy finished(&converter, &CAVConverter::convertFinished);
+    converter.setCommand(liveEncode(dir.filePath(QStringLiteral("at-once.avi")), 60), 4);
+    converter.start();
+    converter.stop();
+    QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 10000);
+    QCOMPARE(finished.at(0).at(1).toBool(), false);
+}
+
 void TestCAVConverter::encoderThatCannotStartFails_data()
 {
     QTest::addColumn<QString>("program");
@@ -282,7 +262,8 @@ void TestCAVConverter::missingFfmpegIsSaidInTheLog()
     CAVConverter converter;
     QSignalSpy finished(&converter, &CAVConverter::convertFinished);
     converter.setLogFile(log);
-    converter.setCommand({QStringLiteral("-i"), QStringLiteral("in.wav"), QStringLiteral("out.wav")}, 5);
+    converter.setCommand(
+        {QStringLiteral("-i"), QStringLiteral("in.wav"), QStringLiteral("out.wav")}, 5);
     converter.start();
     QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 10000);
     qunsetenv("KESTROVE_FFMPEG");

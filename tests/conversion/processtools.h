@@ -1,0 +1,74 @@
+#pragma once
+
+#include <QDir>
+#include <QFile>
+#include <QList>
+#include <QMultiMap>
+#include <QString>
+
+// What /proc says about the encoders a test started.
+
+struct ProcEntry
+{
+    qint64 pid = 0;
+    qint64 parent = 0;
+    QByteArray name; // the kernel keeps at most 15 characters
+    char state = '?';
+};
+
+inline QList<ProcEntry> processTable()
+{
+    QList<ProcEntry> table;
+    const QStringList entries = QDir(QStringLiteral("/proc")).entryList(QDir::Dirs);
+    for (const QString &entry : entries) {
+        bool numeric = false;
+        const qint64 pid = entry.toLongLong(&numeric);
+        if (!numeric)
+            continue;
+        QFile stat(QStringLiteral("/proc/%1/stat").arg(pid));
+        if (!stat.open(QIODevice::ReadOnly))
+            continue;
+        const QByteArray text = stat.readAll();
+        const int open = text.indexOf('(');
+        const int close = text.lastIndexOf(')');
+        const QList<QByteArray> fields = text.mid(close + 2).split(' ');
+        if (open < 0 || fields.size() < 2 || fields[0].isEmpty())
+            continue;
+        table.append(
+            {pid, fields[1].toLongLong(), text.mid(open + 1, close - open - 1), fields[0].at(0)});
+    }
+    return table;
+}
+
+// The process and every descendant of it.
+inline QList<qint64> processTree(qint64 root)
+{
+    QMultiMap<qint64, qint64> children;
+    for (const ProcEntry &entry : processTable())
+        children.insert(entry.parent, entry.pid);
+    QList<qint64> tree{root};
+    for (int i = 0; i < tree.size(); ++i)
+        tree += children.values(tree[i]);
+    return tree;
+}
+
+inline char processState(qint64 pid)
+{
+    QFile stat(QStringLiteral("/proc/%1/stat").arg(pid));
+    if (!stat.open(QIODevice::ReadOnly))
+        return '?';
+    const QByteArray text = stat.readAll();
+    const int at = text.lastIndexOf(')') + 2;
+    return at > 1 && at < text.size() ? text.at(at) : '?';
+}
+
+// Live (not zombie) children of `parent` with the command name `name`.
+inline QList<qint64> childrenNamed(qint64 parent, const QByteArray &name)
+{
+    QList<qint64> found;
+    for (const ProcEntry &entry : processTable()) {
+        if (entry.parent == parent && entry.state != 'Z' && entry.name == name.left(15))
+            found.append(entry.pid);
+    }
+    return found;
+}
