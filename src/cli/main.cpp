@@ -1,4 +1,5 @@
 #include "cliparser.h"
+#include "convertcommand.h"
 #include "profilescommand.h"
 #include "scancommand.h"
 #include "version.h"
@@ -15,8 +16,9 @@ const char usage[] = "Usage: kestrove-cli COMMAND [options]\n"
                      "The conversion engine of Tessarine Kestrove, without a window.\n"
                      "\n"
                      "Commands:\n"
-                     "  scan PATH... [--json]            titles of discs, probes of media files\n"
+                     "  scan PATH... [--json]              titles of discs, probes of media files\n"
                      "  profiles [--search TEXT] [--json]  the profile catalogue and its keys\n"
+                     "  convert INPUT... --profile KEY     convert a batch with parallel encoders\n"
                      "\n"
                      "'kestrove-cli COMMAND --help' tells more about each.\n";
 
@@ -41,6 +43,10 @@ int main(int argc, char *argv[])
         return ScanCommand::run(args);
     if (command == QLatin1String("profiles"))
         return ProfilesCommand::run(args);
+    if (command == QLatin1String("convert")) {
+        ConvertCommand convert;
+        return convert.run(args);
+    }
     if (command == QLatin1String("--help") || command == QLatin1String("-h")
         || command == QLatin1String("help")) {
         printOut(QString::fromLatin1(usage));

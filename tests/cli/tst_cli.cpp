@@ -8,6 +8,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <csignal>
+
 // The real kestrove-cli on the fixture discs and files, with HOME in a
 // temporary folder so that the user's settings stay untouched.
 class TestCli : public QObject
@@ -22,6 +24,9 @@ private slots:
     void profiles();
     void profileSearch_data();
     void profileSearch();
+    void convert_data();
+    void convert();
+    void interruptStopsEveryEncoder();
     void help_data();
     void help();
     void wrongArguments_data();
@@ -36,20 +41,35 @@ private:
         QJsonObject json() const { return QJsonDocument::fromJson(out).object(); }
     };
     Result cli(const QStringList &args, int timeoutMs = 60000);
+    QProcessEnvironment environment() const;
+    QString input(const QString &name) const;
 
     QTemporaryDir home;
     QString fixtures;
+    QByteArray storedSettings;
 };
 
-TestCli::Result TestCli::cli(const QStringList &args, int timeoutMs)
+QProcessEnvironment TestCli::environment() const
 {
-    QProcess process;
     QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
     env.insert(QStringLiteral("HOME"), home.path());
     env.remove(QStringLiteral("XDG_CONFIG_HOME"));
     env.remove(QStringLiteral("XDG_DATA_HOME"));
     env.insert(QStringLiteral("TMPDIR"), home.path());
-    process.setProcessEnvironment(env);
+    return env;
+}
+
+// A fixture, or a file that initTestCase made in the home folder.
+QString TestCli::input(const QString &name) const
+{
+    const QString path = QDir(fixtures).filePath(name);
+    return QFileInfo::exists(path) ? path : QDir(home.path()).filePath(name);
+}
+
+TestCli::Result TestCli::cli(const QStringList &args, int timeoutMs)
+{
+    QProcess process;
+    process.setProcessEnvironment(environment());
     process.start(QStringLiteral(KESTROVE_CLI), args);
     Result result;
     if (!process.waitForFinished(timeoutMs) || process.exitStatus() != QProcess::NormalExit) {
@@ -69,6 +89,20 @@ void TestCli::initTestCase()
     QVERIFY(home.isValid());
     fixtures = mediaFixtures();
     QVERIFY2(!fixtures.isEmpty(), "the fixture script failed (ffmpeg, dvdauthor, spumux?)");
+
+    QFile junk(QDir(home.path()).filePath(QStringLiteral("junk.mp4")));
+    QVERIFY(junk.open(QIODevice::WriteOnly));
+    junk.write(QByteArray(4096, 'x'));
+    junk.close();
+
+    // The user's stored output folder, which no run may change.
+    const QString config = home.filePath(QStringLiteral(".config/Tessarine"));
+    QVERIFY(QDir().mkpath(config));
+    QFile settings(config + QStringLiteral("/Kestrove.conf"));
+    QVERIFY(settings.open(QIODevice::WriteOnly));
+    storedSettings = "[Setting]\nOutputDir=" + home.filePath(QStringLiteral("stored")).toUtf8()
+                     + "\nOutputToSrc=1\nProcessCount=1\n";
+    settings.write(storedSettings);
 }
 
 // What a scan says about one source, in a line: per disc title
@@ -271,6 +305,191 @@ void TestCli::profileSearch()
     }
 }
 
+static double mediaDuration(const QString &path)
+{
+    QProcess probe;
+    probe.start(QStringLiteral("ffprobe"),
+                {QStringLiteral("-v"), QStringLiteral("error"), QStringLiteral("-show_entries"),
+                 QStringLiteral("format=duration"), QStringLiteral("-of"),
+                 QStringLiteral("csv=p=0"), path});
+    if (!probe.waitForFinished(30000) || probe.exitCode() != 0)
+        return -1.0;
+    return probe.readAllStandardOutput().trimmed().toDouble();
+}
+
+void TestCli::convert_data()
+{
+    QTest::addColumn<QStringList>("inputs");
+    QTest::addColumn<QStringList>("options");
+    QTest::addColumn<int>("status");
+    // Per task in the order of the inputs: "title:state:seconds of output".
+    QTest::addColumn<QString>("expected");
+    QTest::addColumn<int>("jobs"); // encoders that must have run at once; 0: not looked at
+
+    const QStringList mp4{QStringLiteral("--profile"), QStringLiteral("1,68")};
+    QTest::newRow("files and a disc, two encoders")
+        << QStringList{QStringLiteral("clip.mp4"), QStringLiteral("movie.mkv"),
+                       QStringLiteral("dvd-ntsc")}
+        << mp4 + QStringList{QStringLiteral("--jobs"), QStringLiteral("2")} << 0
+        << "clip:Succeed:2.0 movie:Succeed:3.0 Title_1:Succeed:3.0" << 2;
+    QTest::newRow("a bad input among good ones")
+        << QStringList{QStringLiteral("junk.mp4"), QStringLiteral("clip.mp4")} << mp4 << 1
+        << ":Failed:- clip:Succeed:2.0" << 1;
+    QTest::newRow("chosen titles and chapters")
+        << QStringList{QStringLiteral("dvd-main")}
+        << mp4
+               + QStringList{QStringLiteral("--titles"), QStringLiteral("1,3"),
+                             QStringLiteral("--chapters"), QStringLiteral("2-3")}
+        << 0 << "Title_1:Succeed:3.0 Title_3:Succeed:3.0" << 0;
+    QTest::newRow("a title the disc lacks")
+        << QStringList{QStringLiteral("dvd-ntsc")}
+        << mp4 + QStringList{QStringLiteral("--titles"), QStringLiteral("1,2")} << 1
+        << "Title_2:Failed:- Title_1:Succeed:3.0" << 0;
+    QTest::newRow("audio track and a parameter")
+        << QStringList{QStringLiteral("movie.mkv")}
+        << mp4
+               + QStringList{QStringLiteral("--audio"), QStringLiteral("2"),
+                             QStringLiteral("--set"), QStringLiteral("b=800")}
+        << 0 << "movie:Succeed:3.0" << 0;
+    QTest::newRow("an audio track the input lacks")
+        << QStringList{QStringLiteral("clip.mp4"), QStringLiteral("movie.mkv")}
+        << mp4 + QStringList{QStringLiteral("--audio"), QStringLiteral("2")} << 1
+        << "clip:Failed:- movie:Succeed:3.0" << 0;
+    QTest::newRow("a subtitle burnt in")
+        << QStringList{QStringLiteral("dvd-main")}
+        << mp4 + QStringList{QStringLiteral("--titles"), QStringLiteral("1"),
+                             QStringLiteral("--subtitle"), QStringLiteral("1")}
+        << 0 << "Title_1:Succeed:4.8" << 0;
+    QTest::newRow("merged into one output")
+        << QStringList{QStringLiteral("clip.mp4"), QStringLiteral("movie.mkv")}
+        << mp4 + QStringList{QStringLiteral("--merge")} << 0 << "Merge 1:Succeed:5.0" << 0;
+}
+
+void TestCli::convert()
+{
+    QFETCH(QStringList, inputs);
+    QFETCH(QStringList, options);
+    QFETCH(int, status);
+    QFETCH(QString, expected);
+    QFETCH(int, jobs);
+
+    QTemporaryDir out;
+    QStringList args{QStringLiteral("convert")};
+    for (const QString &name : std::as_const(inputs))
+        args << input(name);
+    args << options << QStringLiteral("--output-dir") << out.path() << QStringLiteral("--json");
+    const Result result = cli(args, 240000);
+    QVERIFY2(result.status == status, qPrintable(result.err));
+
+    QStringList tasks;
+    for (const auto &value : result.json().value(QStringLiteral("tasks")).toArray()) {
+        const QJsonObject task = value.toObject();
+        const QString state = task.value(QStringLiteral("state")).toString();
+        const QString output = task.value(QStringLiteral("output")).toString();
+        QString seconds = QStringLiteral("-");
+        if (state == QLatin1String("Succeed")) {
+            QCOMPARE(QFileInfo(output).path(), out.path());
+            const double duration = mediaDuration(output);
+            // Within half a second, shown at the expected figure.
+            seconds = QString::number(duration, 'f', 1);
+            const double wanted = expected
+                                      .section(task.value(QStringLiteral("title")).toString()
+                                                   + QStringLiteral(":Succeed:"),
+                                               1)
+                                      .section(QLatin1Char(' '), 0, 0)
+                                      .toDouble();
+            if (qAbs(duration - wanted) < 0.5)
+                seconds = QString::number(wanted, 'f', 1);
+        } else {
+            QVERIFY(output.isEmpty());
+            QVERIFY(!task.value(QStringLiteral("error")).toString().isEmpty());
+        }
+        tasks << QStringLiteral("%1:%2:%3")
+                     .arg(task.value(QStringLiteral("title")).toString(), state, seconds);
+        QVERIFY(!task.value(QStringLiteral("source")).toString().isEmpty());
+    }
+    QCOMPARE(tasks.join(QLatin1Char(' ')), expected);
+
+    // Standard error is no terminal here: one line per change of state.
+    if (jobs > 0) {
+        int running = 0, most = 0;
+        for (const QString &line : result.err.split(QLatin1Char('\n'))) {
+            if (line.startsWith(QLatin1String("Running: ")))
+                most = std::max(most, ++running);
+            else if (line.startsWith(QLatin1String("Succeed: "))
+                     || line.startsWith(QLatin1String("Failed: ")))
+                --running;
+        }
+        QCOMPARE(most, jobs);
+    }
+
+    // The run's output folder never reaches the stored settings.
+    QFile settings(home.filePath(QStringLiteral(".config/Tessarine/Kestrove.conf")));
+    QVERIFY(settings.open(QIODevice::ReadOnly));
+    QCOMPARE(settings.readAll(), storedSettings);
+    QVERIFY(!QFileInfo::exists(home.filePath(QStringLiteral("stored"))));
+}
+
+// Ctrl-C while encoders run: they are stopped, the waiting task never
+// starts, and the program ends with a report.
+void TestCli::interruptStopsEveryEncoder()
+{
+    // An encoder that never ends, and says who it is.
+    const QString pids = home.filePath(QStringLiteral("encoder.pids"));
+    const QString fake = home.filePath(QStringLiteral("slow-ffmpeg"));
+    QFile script(fake);
+    QVERIFY(script.open(QIODevice::WriteOnly));
+    script.write("#!/bin/sh\necho $$ >> '" + pids.toUtf8() + "'\nexec sleep 120\n");
+    script.close();
+    QVERIFY(script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+
+    QTemporaryDir out;
+    QProcess process;
+    QProcessEnvironment env = environment();
+    env.insert(QStringLiteral("KESTROVE_FFMPEG"), fake);
+    process.setProcessEnvironment(env);
+    process.start(QStringLiteral(KESTROVE_CLI),
+                  {QStringLiteral("convert"), input(QStringLiteral("clip.mp4")),
+                   input(QStringLiteral("movie.mkv")), input(QStringLiteral("tone.flac")),
+                   QStringLiteral("--profile"), QStringLiteral("1,68"), QStringLiteral("--jobs"),
+                   QStringLiteral("2"), QStringLiteral("--output-dir"), out.path(),
+                   QStringLiteral("--json")});
+    QVERIFY(process.waitForStarted());
+    auto started = [&pids] {
+        QFile file(pids);
+        return file.open(QIODevice::ReadOnly) ? file.readAll().count('\n') : 0;
+    };
+    QTRY_COMPARE_WITH_TIMEOUT(started(), 2, 60000);
+    ::kill(pid_t(process.processId()), SIGINT);
+    QVERIFY(process.waitForFinished(30000));
+    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(process.exitCode(), 1);
+
+    const QJsonObject report = QJsonDocument::fromJson(process.readAllStandardOutput()).object();
+    QCOMPARE(report.value(QStringLiteral("interrupted")).toBool(), true);
+    QStringList states;
+    for (const auto &value : report.value(QStringLiteral("tasks")).toArray())
+        states << value.toObject().value(QStringLiteral("state")).toString();
+    QCOMPARE(states.join(QLatin1Char(' ')), QStringLiteral("Failed Failed Idle"));
+
+    // No encoder outlives the program (a zombie has ended too).
+    QFile file(pids);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    for (const QByteArray &line : file.readAll().split('\n')) {
+        if (line.isEmpty())
+            continue;
+        auto gone = [&line] {
+            QFile stat(QStringLiteral("/proc/%1/stat").arg(QString::fromLatin1(line)));
+            return !stat.open(QIODevice::ReadOnly) || stat.readAll().contains(") Z ");
+        };
+        QTRY_VERIFY_WITH_TIMEOUT(gone(), 10000);
+    }
+    QCOMPARE(started(), 2);
+    // Nothing was written: at most the empty names the queue reserved.
+    for (const QFileInfo &file : QDir(out.path()).entryInfoList(QDir::Files))
+        QVERIFY2(file.size() == 0, qPrintable(file.fileName()));
+}
+
 void TestCli::help_data()
 {
     QTest::addColumn<QString>("command");
@@ -310,6 +529,39 @@ void TestCli::wrongArguments_data()
     QTest::newRow("profiles takes no path")
         << QStringList{QStringLiteral("profiles"), QStringLiteral("movie.mkv")}
         << "profiles: unexpected argument 'movie.mkv'";
+    const QString input = QStringLiteral("movie.mkv");
+    const QString profile = QStringLiteral("--profile");
+    const QString mp4 = QStringLiteral("1,68");
+    QTest::newRow("convert without profile")
+        << QStringList{QStringLiteral("convert"), input} << "convert: --profile KEY is required";
+    QTest::newRow("convert without input")
+        << QStringList{QStringLiteral("convert"), profile, mp4} << "convert: no INPUT given";
+    QTest::newRow("unknown profile")
+        << QStringList{QStringLiteral("convert"), input, profile, QStringLiteral("9,999")}
+        << "convert: unknown profile '9,999'";
+    QTest::newRow("unknown parameter")
+        << QStringList{QStringLiteral("convert"), input, profile, mp4, QStringLiteral("--set"),
+                       QStringLiteral("speed=9")}
+        << "convert: profile 1,68 has no parameter 'speed'";
+    QTest::newRow("set without value")
+        << QStringList{QStringLiteral("convert"), input, profile, mp4, QStringLiteral("--set"),
+                       QStringLiteral("b")}
+        << "convert: --set wants KEY=VALUE, not 'b'";
+    QTest::newRow("titles not numbers")
+        << QStringList{QStringLiteral("convert"), input, profile, mp4, QStringLiteral("--titles"),
+                       QStringLiteral("first")}
+        << "convert: --titles wants N,M or all, not 'first'";
+    QTest::newRow("chapters backwards")
+        << QStringList{QStringLiteral("convert"), input, profile, mp4, QStringLiteral("--chapters"),
+                       QStringLiteral("3-2")}
+        << "convert: --chapters wants A-B with 1 <= A <= B, not '3-2'";
+    QTest::newRow("no encoders") << QStringList{
+        QStringLiteral("convert"), input, profile, mp4, QStringLiteral("--jobs"),
+        QStringLiteral("0")} << "convert: --jobs wants a number from 1, not '0'";
+    QTest::newRow("audio track 0")
+        << QStringList{QStringLiteral("convert"), input, profile, mp4, QStringLiteral("--audio"),
+                       QStringLiteral("0")}
+        << "convert: --audio wants a track number from 1, not '0'";
 }
 
 void TestCli::wrongArguments()
