@@ -349,7 +349,7 @@ void ConvertCommand::drawProgress()
             = length > 0 ? qBound(0.0, task.progress * 100.0 / length, 100.0) : 0.0;
         const int filled = int(percent / 5.0);
         text += QStringLiteral("%1 [%2%3] %4%  %5 left\n")
-                    .arg(task.output.fileName.left(40).leftJustified(40),
+                    .arg(QFileInfo(task.output.filePath).fileName().left(40).leftJustified(40),
                          QString(filled, QLatin1Char('#')), QString(20 - filled, QLatin1Char(' ')))
                     .arg(int(percent), 3)
                     .arg(timeText(TimeTracker::remainingMs(task)));
