@@ -379,16 +379,20 @@ int ConvertCommand::report(bool json)
         const QString output
             = task && task->state == Task::Succeed ? task->output.filePath : QString();
         allGood = allGood && task && task->state == Task::Succeed;
+        QString error = entry.error;
+        if (task && task->state == Task::Failed)
+            error = interrupted ? QStringLiteral("stopped") : QStringLiteral("the encoder failed");
+        else if (task && task->state != Task::Succeed)
+            error = QStringLiteral("not started");
         QJsonObject object{{QStringLiteral("source"), entry.source},
                            {QStringLiteral("title"), entry.title},
                            {QStringLiteral("state"), state},
                            {QStringLiteral("output"), output}};
-        if (!entry.error.isEmpty())
-            object.insert(QStringLiteral("error"), entry.error);
+        if (!error.isEmpty())
+            object.insert(QStringLiteral("error"), error);
         tasks.append(object);
         text += QStringLiteral("%1\t%2\t%3\t%4\n")
-                    .arg(state, entry.source, entry.title,
-                         entry.error.isEmpty() ? output : entry.error);
+                    .arg(state, entry.source, entry.title, error.isEmpty() ? output : error);
     }
     if (json)
         printOut(QString::fromUtf8(

@@ -357,7 +357,8 @@ void TestCli::convert_data()
         << "clip:Failed:- movie:Succeed:3.0" << 0;
     QTest::newRow("a subtitle burnt in")
         << QStringList{QStringLiteral("dvd-main")}
-        << mp4 + QStringList{QStringLiteral("--titles"), QStringLiteral("1"),
+        << mp4
+               + QStringList{QStringLiteral("--titles"), QStringLiteral("1"),
                              QStringLiteral("--subtitle"), QStringLiteral("1")}
         << 0 << "Title_1:Succeed:4.8" << 0;
     QTest::newRow("merged into one output")
@@ -469,8 +470,10 @@ void TestCli::interruptStopsEveryEncoder()
     QCOMPARE(report.value(QStringLiteral("interrupted")).toBool(), true);
     QStringList states;
     for (const auto &value : report.value(QStringLiteral("tasks")).toArray())
-        states << value.toObject().value(QStringLiteral("state")).toString();
-    QCOMPARE(states.join(QLatin1Char(' ')), QStringLiteral("Failed Failed Idle"));
+        states << value.toObject().value(QStringLiteral("state")).toString() + QLatin1Char('/')
+                      + value.toObject().value(QStringLiteral("error")).toString();
+    QCOMPARE(states.join(QLatin1Char(' ')),
+             QStringLiteral("Failed/stopped Failed/stopped Idle/not started"));
 
     // No encoder outlives the program (a zombie has ended too).
     QFile file(pids);
