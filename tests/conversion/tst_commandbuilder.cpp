@@ -14,6 +14,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include "testhome.h"
+
 namespace {
 
 QStringList words(const QString &text)
@@ -465,9 +467,7 @@ void TestCommandBuilder::everyCandidateCodecIsOneFfmpegHas()
 
 int main(int argc, char *argv[])
 {
-    QTemporaryDir home;
-    qputenv("HOME", home.path().toLocal8Bit());
-    qunsetenv("XDG_CONFIG_HOME");
+    TestHome home;
     qputenv("TMPDIR", home.path().toLocal8Bit());
     // Watermark entries take the application's font.
     QGuiApplication app(argc, argv);

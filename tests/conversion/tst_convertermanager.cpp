@@ -16,6 +16,8 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include "testhome.h"
 #include <QTimer>
 
 namespace {
@@ -471,11 +473,7 @@ void TestConverterManager::remainingTimeFallsAndHoldsAtHalfWay()
 
 int main(int argc, char *argv[])
 {
-    // The settings store is the user's: give this process a home of its own.
-    QTemporaryDir home;
-    qputenv("HOME", home.path().toLocal8Bit());
-    qunsetenv("XDG_CONFIG_HOME");
-    qunsetenv("XDG_DATA_HOME");
+    TestHome home;
     // Watermark and subtitle settings read the application font.
     QGuiApplication app(argc, argv);
     TestConverterManager test;

@@ -19,6 +19,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include "testhome.h"
+
 // Every profile of the built-in catalogue converts a short file and a DVD
 // title through the real encoder front into what the profile promises.
 class TestProfileConversions : public QObject
@@ -265,9 +267,7 @@ void TestProfileConversions::converts()
 
 int main(int argc, char *argv[])
 {
-    QTemporaryDir home;
-    qputenv("HOME", home.path().toLocal8Bit());
-    qunsetenv("XDG_CONFIG_HOME");
+    TestHome home;
     qputenv("TMPDIR", home.path().toLocal8Bit());
     // Watermark entries take the application's font.
     QGuiApplication app(argc, argv);

@@ -9,6 +9,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include "testhome.h"
+
 // Walks the whole built-in catalogue and every document in the resources.
 namespace {
 
@@ -432,10 +434,7 @@ void TestCatalogue::icons()
 
 int main(int argc, char *argv[])
 {
-    QTemporaryDir home;
-    qputenv("HOME", home.path().toLocal8Bit());
-    qunsetenv("XDG_CONFIG_HOME");
-    qunsetenv("XDG_DATA_HOME");
+    TestHome home;
     QGuiApplication app(argc, argv);
     TestCatalogue test;
     return QTest::qExec(&test, argc, argv);
