@@ -1,4 +1,5 @@
 #include "cavconverter.h"
+#include "ffmpegtools.h"
 #include "processtools.h"
 #include "version.h"
 
@@ -25,20 +26,6 @@ QStringList liveEncode(const QString &output, int seconds)
             QStringLiteral("-c:v"),
             QStringLiteral("mpeg4"),
             output};
-}
-
-double probeDuration(const QString &file)
-{
-    QProcess probe;
-    probe.start(QStringLiteral("ffprobe"),
-                {QStringLiteral("-v"), QStringLiteral("error"), QStringLiteral("-show_entries"),
-                 QStringLiteral("format=duration"), QStringLiteral("-of"),
-                 QStringLiteral("csv=p=0"), file});
-    if (!probe.waitForFinished(20000))
-        return -1;
-    bool ok = false;
-    const double value = probe.readAllStandardOutput().trimmed().toDouble(&ok);
-    return ok ? value : -1;
 }
 
 QList<double> progressValues(const QSignalSpy &spy)
