@@ -250,6 +250,9 @@ assert len(EXPERT_TEXT) + len(EXPERT_FLAGS) == 67
 QUALITY = "Highest,Higher,Normal,Lower,Lowest"
 RATES = "15,20,23.97,24,25,29.97,30"
 SAMPLE_RATES = "48000,44100,32000,22050,16000,8000"
+# The rates the AC-3 encoder takes; MPEG audio adds the halves.
+AC3_RATES = "48000,44100,32000"
+MP2_RATES = "48000,44100,32000,22050,16000"
 CHANNELS = "1 (Mono),2 (Stereo)"
 CHANNELS_51 = "1 (Mono),2 (Stereo),5.1"
 VOLUMES = "25%,50%,75%,100%,125%,150%,175%,200%"
@@ -307,23 +310,23 @@ FAMILIES = {
     "disc: VCD": dict(
         vcodec=("mpeg1video", "mpeg1video", True), acodec=("mp2", "mp2", True),
         s=("352*240", "352*240,352*288 (cif)", False), b=("text", "1150"), r=("29.97", "25,29.97"),
-        ab=("224", "384,320,224,192,128"), ar=("44100", SAMPLE_RATES, False),
+        ab=("224", "384,320,224,192,128"), ar=("44100", "44100", False),
         ac=("2 (Stereo)", CHANNELS, False), sameq=False, expert={"g": "18"}),
     "camera: DV": dict(
         vcodec=("dvvideo", "dvvideo", True), acodec=("pcm_s16le", "pcm_s16le", True),
         s=("720*480", DISC_SIZES, False), r=("29.97", "25,29.97"),
-        ar=("48000", "48000,32000", True), ac=("2 (Stereo)", "2 (Stereo)", True), sameq=False,
+        ar=("48000", "48000", True), ac=("2 (Stereo)", "2 (Stereo)", True), sameq=False,
         an=False, expert={"g": "18", "pix_fmt": "yuv422p"}),
     "streaming: Real": dict(
         vcodec=("rv10", "rv10,rv20", False), acodec=("rmaudio", "rmaudio", True),
         s=("Auto", LABELLED_SIZES, False), b=("384", "1200,512,384,256,128"),
         r=("Auto", "Auto," + RATES), ab=("64", "128,96,64,48,32"),
-        ar=("44100", SAMPLE_RATES, False), ac=("2 (Stereo)", CHANNELS, False), expert={}),
+        ar=("44100", AC3_RATES, False), ac=("2 (Stereo)", CHANNELS, False), expert={}),
     "Windows Media": dict(
         vcodec=("wmv3x", "wmv1x,wmv2x,wmv3x", False),
         acodec=("wma7x", "wma7x,wma8x,wma9x,wmalsl", False), s=("Auto", GENERAL_SIZES, False),
         b=("1200", "2000,1500,1200,768,512"), r=("Auto", "Auto," + RATES),
-        ab=("128", "256,192,128,80,48"), ar=("48000", SAMPLE_RATES, False),
+        ab=("128", "256,192,128,80,48"), ar=("44100", SAMPLE_RATES, False),
         ac=("2 (Stereo)", CHANNELS, False), summary="full", vn=True, expert={}),
     "Matroska": dict(
         vcodec=("h264", "mpeg4,h264", False),
@@ -358,7 +361,7 @@ FAMILIES = {
     "tablet HD": dict(
         vcodec=("h264", "h264", True), acodec=("mpeg4aac", "mpeg4aac", True),
         s=("1280*720", "1280*720,960*540", True), b=("3500", "5000,4000,3500,2500,2000"),
-        r=("29.97", RATES), ab=("128", "160,128,128,96,64"), ar=("48000", SAMPLE_RATES, False),
+        r=("29.97", RATES), ab=("128", "160,128,128,96,64"), ar=("44100", SAMPLE_RATES, False),
         ac=("2 (Stereo)", CHANNELS, False), level=("31", "22,30,31"), expert={}),
     "television box": dict(
         vcodec=("h264", "h264", True), acodec=("mpeg4aac", "mpeg4aac,ac3", False),
@@ -389,7 +392,7 @@ FAMILIES = {
     "picture": dict(general="JPG", s=("Auto", PICTURE_SIZES, False)),
     "audio with bit rate": dict(
         acodec=("mp3", "mp3", True), ab=("128", "320,256,128,96,64"),
-        ar=("48000", SAMPLE_RATES, False), ac=("2 (Stereo)", CHANNELS, False)),
+        ar=("44100", SAMPLE_RATES, False), ac=("2 (Stereo)", CHANNELS, False)),
     "audio without bit rate": dict(
         acodec=("pcm_s16le",
                 "pcm_s24le,pcm_s16le,pcm_u8,pcm_alaw,pcm_mulaw,adpcm_ms,adpcm_ima_wav", False),
@@ -422,6 +425,12 @@ MPEG2_PS = dict(vcodec=codec("mpeg2video"), **MP2_AUDIO)
 H264_TV = dict(vcodec=codec("h264"), level=("30", "21,22,30"), **DEVICE_AUDIO)
 MPEG4_TV = dict(vcodec=codec("mpeg4"), **DEVICE_AUDIO)
 HD_RATE = ("8000", "12000,10000,8000,6000,4000")
+# TV-out sizes and editing formats keep the source's frame rate.
+SOURCE_RATE = ("Auto", "Auto," + RATES)
+EDITING_AB = ("256", "320,256,192,160,128")
+CONSOLE_MP2_AB = ("224", "384,320,224,192,128")
+# Players of later catalogues offer 192 kbit/s as the highest audio quality.
+PLAYER_AB_VALUES = "192,160,128,96,64"
 # The consoles that list the expert options with bitexact first.
 CONSOLE_ORDER = {"Xbox_divx_hd.xml", "Xbox_mpeg2.xml", "Xbox_mpeg2_hd.xml",
                  "Xbox_mpeg2_hd_ts.xml", "Xbox_mpeg4.xml", "Xbox_mpeg4_hd.xml", "Xbox_xvid.xml",
@@ -446,12 +455,13 @@ DOCUMENTS = {
     "mpeg4h264.xml": ("general H.264", {}),
     "rm.xml": ("streaming: Real", {}),
     "vcd.xml": ("disc: VCD", {}),
-    "wmv.xml": ("Windows Media", {}),
+    "wmv.xml": ("Windows Media", dict(ar=("48000", SAMPLE_RATES, False))),
     "xvid.xml": ("general video", XVID),
     "mkv.xml": ("Matroska", {}),
     "webm.xml": ("WebM", {}),
     # General audio
     "ac3.xml": ("audio with bit rate", dict(acodec=codec("ac3"), ab=("192", "448,384,256,192,128"),
+                                            ar=("48000", AC3_RATES, False),
                                             ac=("2 (Stereo)", CHANNELS_51, False))),
     "aiff.xml": ("audio without bit rate", dict(acodec=codec("pcm_s16be", "pcm_s16be,pcm_s24be",
                                                              False))),
@@ -460,12 +470,13 @@ DOCUMENTS = {
     "au.xml": ("audio without bit rate", dict(acodec=codec("pcm_s16be", "pcm_s16be,pcm_alaw,"
                                                            "pcm_mulaw", False))),
     "m4a.xml": ("audio with bit rate", dict(acodec=codec("mpeg4aac"), summary="full")),
-    "mp2.xml": ("audio with bit rate", dict(acodec=codec("mp2"), ab=("192", "384,320,192,128,96"))),
-    "mp3.xml": ("audio with bit rate", dict(summary="full")),
+    "mp2.xml": ("audio with bit rate", dict(acodec=codec("mp2"), ab=("192", "384,320,192,128,96"),
+                                            ar=("44100", MP2_RATES, False))),
+    "mp3.xml": ("audio with bit rate", dict(summary="full", ar=("48000", SAMPLE_RATES, False))),
     "ogg.xml": ("audio with bit rate", dict(acodec=codec("libvorbis"), ar=("44100", SAMPLE_RATES,
                                                                              False))),
     "ra.xml": ("audio with bit rate", dict(acodec=codec("rmaudio"), ab=("64", "128,96,64,48,32"),
-                                           ar=("44100", SAMPLE_RATES, False))),
+                                           ar=("44100", AC3_RATES, False))),
     "wav.xml": ("audio without bit rate", {}),
     "wma.xml": ("audio with bit rate", dict(acodec=codec("wma7x", "wma7x,wma8x,wma9x", False),
                                             summary="full")),
@@ -478,6 +489,7 @@ DOCUMENTS = {
     "HTCG2Magic_mp4.xml": ("phone MPEG-4", fixed_size("480*320")),
     "HTCHero_mp4.xml": ("phone MPEG-4", fixed_size("480*320")),
     "HTCTattoo_mp4.xml": ("phone MPEG-4", dict(vcodec=codec("h263", "h263,mpeg4", False),
+                                               r=("15", "10,12,15,20,25"),
                                                **fixed_size("352*288", ("448",
                                                "768,640,448,320,192")))),
     "MotorolaCLIQ_mp4.xml": ("phone MPEG-4", fixed_size("480*320")),
@@ -502,21 +514,26 @@ DOCUMENTS = {
     "mpeg2_hd_mpg.xml": ("HD transport stream", dict(acodec=codec("mp2", "mp2,ac3", False))),
     "mpeg2_ts.xml": ("HD transport stream", {}),
     "mpeg4_hd.xml": ("HD", {}),
-    "rm_hd.xml": ("streaming: Real", dict(s=("1280*720", HD_SIZES, False), b=("2000",
+    # RM files take no frame over 64 kB, which bigger pictures soon make.
+    "rm_hd.xml": ("streaming: Real", dict(s=("1280*720", "640*360,960*540,1280*720", False),
+                                          b=("2000",
                                           "4000,3000,2000,1500,1000"))),
     "wmv_hd.xml": ("Windows Media", dict(s=("1920*1080", HD_SIZES, False), b=HD_RATE, vn=False)),
     "xvid_hd.xml": ("HD", dict(b=HD_RATE, **XVID)),
     "divx_hd.xml": ("HD", dict(b=HD_RATE, **DIVX)),
-    "imovie.xml": ("general video", dict(s=("640*480", "640*480,720*480,720*576", False))),
-    "imovie_hd.xml": ("HD", dict(s=("1280*720", HD_SIZES, False))),
+    "imovie.xml": ("general video", dict(s=("640*480", "640*480,720*480,720*576", False),
+                                         r=SOURCE_RATE, ab=EDITING_AB)),
+    "imovie_hd.xml": ("HD", dict(s=("1280*720", HD_SIZES, False), r=SOURCE_RATE, ab=EDITING_AB)),
     "prores.xml": ("HD", dict(vcodec=codec("prores"), b=None, vprofile=True, aspect=False,
+                              r=SOURCE_RATE,
                               sameq=False, an=False, ab=None, expert=None,
                               acodec=codec("pcm_s16le", "pcm_s16le,pcm_s24le", False))),
-    "wtv.xml": ("disc: DVD", dict(acodec=codec("ac3", "ac3,mp2", False))),
+    "wtv.xml": ("disc: DVD", dict(acodec=codec("ac3", "ac3,mp2", False),
+                                  ar=("44100", "48000,44100", False))),
     # iPad
     "iPad_h264.xml": ("phone H.264", fixed_size("1024*768", ("2000", "3000,2500,2000,1500,1000"),
                                                 ("31", "22,30,31"))),
-    "iPad_h264_hd.xml": ("tablet HD", {}),
+    "iPad_h264_hd.xml": ("tablet HD", dict(ar=("48000", SAMPLE_RATES, False))),
     "iPad_mpeg4.xml": ("phone MPEG-4", fixed_size("1024*768", ("2000",
                                                   "3000,2500,2000,1500,1000"))),
     "iPad2_h264.xml": ("phone H.264", fixed_size("1024*768", ("2000", "3000,2500,2000,1500,1000"),
@@ -541,8 +558,9 @@ DOCUMENTS = {
     "iPhone5_h264.xml": ("phone H.264", fixed_size("1136*640", ("2000",
                                                    "3000,2500,2000,1500,1000"),
                                                    ("31", "22,30,31"))),
-    "iPhone_h264_tv.xml": ("phone H.264", dict(fixed_size("640*480", None, ("30", "21,22,30")))),
-    "iPhone_mpeg4_tv.xml": ("phone MPEG-4", fixed_size("640*480")),
+    "iPhone_h264_tv.xml": ("phone H.264", dict(r=SOURCE_RATE, **fixed_size("640*480", None,
+                                                                          ("30", "21,22,30")))),
+    "iPhone_mpeg4_tv.xml": ("phone MPEG-4", dict(r=SOURCE_RATE, **fixed_size("640*480"))),
     # iPod
     "ipod_h264.xml": ("phone H.264", fixed_size("320*240", ("768", "1000,900,768,512,384"),
                                                 ("13", "12,13,21"))),
@@ -554,10 +572,12 @@ DOCUMENTS = {
                                                       ("31", "22,30,31"))),
     "iPodtouch4_mpeg4.xml": ("phone MPEG-4", fixed_size("960*640", ("1500",
                                                         "2500,2000,1500,1200,1000"))),
-    "ipod_h264_tv.xml": ("phone H.264", fixed_size("640*480", None, ("30", "21,22,30"))),
-    "ipod_mpeg4_tv.xml": ("phone MPEG-4", fixed_size("640*480")),
-    "iPodtouch_h264_tv.xml": ("phone H.264", fixed_size("640*480", None, ("30", "21,22,30"))),
-    "iPodtouch_mpeg4_tv.xml": ("phone MPEG-4", fixed_size("640*480")),
+    "ipod_h264_tv.xml": ("phone H.264", dict(r=SOURCE_RATE, **fixed_size("640*480", None,
+                                                                        ("30", "21,22,30")))),
+    "ipod_mpeg4_tv.xml": ("phone MPEG-4", dict(r=SOURCE_RATE, **fixed_size("640*480"))),
+    "iPodtouch_h264_tv.xml": ("phone H.264", dict(r=SOURCE_RATE, **fixed_size(
+        "640*480", None, ("30", "21,22,30")))),
+    "iPodtouch_mpeg4_tv.xml": ("phone MPEG-4", dict(r=SOURCE_RATE, **fixed_size("640*480"))),
     # Mobile phones
     "3gpp2.xml": ("3GP stereo", {}),
     "3gpp.xml": ("3GP mono", {}),
@@ -593,12 +613,13 @@ DOCUMENTS = {
     "create_zenvision_xvid.xml": ("phone MPEG-4", dict(s=("640*480", "320*240,640*480", False),
                                                        **XVID)),
     "iriver_mpeg4.xml": ("phone MPEG-4", dict(s=("320*240", "320*240,480*272", False))),
-    "iriver_h264.xml": ("phone H.264", dict(s=("320*240", "320*240,480*272", False))),
+    "iriver_h264.xml": ("phone H.264", dict(s=("320*240", "320*240,480*272", False),
+                                            level=("20", "13,20,21"))),
     "iriver_wmv.xml": ("Windows Media", dict(s=("320*240", "320*240,480*272", False),
                                              summary=None, vn=False)),
     "iriver_xvid.xml": ("phone MPEG-4", dict(s=("320*240", "320*240,480*272", False), **XVID)),
-    "dpg.xml": ("dpg", {}),
-    "dpg2.xml": ("dpg", {}),
+    "dpg.xml": ("dpg", dict(ab=("96", PLAYER_AB_VALUES))),
+    "dpg2.xml": ("dpg", dict(ab=("96", PLAYER_AB_VALUES))),
     "dpg3.xml": ("dpg", {}),
     "dpg3_ogg.xml": ("dpg", dict(acodec=codec("vorbis"))),
     "dpg4.xml": ("dpg", dict(acodec=codec("mpeg4aac", "mpeg4aac,mp2", False))),
@@ -608,7 +629,8 @@ DOCUMENTS = {
                                              level=("40", "31,40,41"))),
     "ps3divx.xml": ("games console", dict(level=None, expert={}, **DIVX)),
     "ps3divx_hd.xml": ("HD", DIVX),
-    "ps3mpeg2.xml": ("games console", dict(level=None, expert={}, **MPEG2_PS)),
+    "ps3mpeg2.xml": ("games console", dict(level=None, expert={}, **dict(MPEG2_PS,
+                                                                        ab=CONSOLE_MP2_AB))),
     "ps3mpeg2_hd.xml": ("HD", dict(vcodec=codec("mpeg2video"), **AC3_AUDIO)),
     "ps3mpeg2_hd_ts.xml": ("HD transport stream", {}),
     "ps3wmv.xml": ("games console", dict(vcodec=codec("wmv3x", "wmv1x,wmv2x,wmv3x", False),
@@ -637,7 +659,8 @@ DOCUMENTS = {
     "Xbox_wmv.xml": ("Windows Media", dict(s=("720*480", DISC_SIZES, False))),
     "Xbox_wmv_hd.xml": ("Windows Media", dict(s=("1280*720", HD_SIZES, False), b=HD_RATE)),
     "Xbox_divx_hd.xml": ("HD", DIVX),
-    "Xbox_mpeg2.xml": ("games console", dict(level=None, expert={}, **MPEG2_PS)),
+    "Xbox_mpeg2.xml": ("games console", dict(level=None, expert={}, **dict(MPEG2_PS,
+                                                                         ab=CONSOLE_MP2_AB))),
     "Xbox_mpeg2_hd.xml": ("HD", dict(vcodec=codec("mpeg2video"), **AC3_AUDIO)),
     "Xbox_mpeg2_hd_ts.xml": ("HD transport stream", {}),
     "Xbox_xvid.xml": ("games console", dict(level=None, expert={}, **XVID)),
@@ -649,21 +672,26 @@ DOCUMENTS = {
     "zune_wmv.xml": ("Windows Media", dict(fixed_size("320*240", ("768", "1000,900,768,512,384")),
                                            summary=None, vn=False)),
     "wii-avi.xml": ("general video", dict(vcodec=codec("mjpeg"), s=("640*480", "320*240,640*480",
-                                          False), acodec=codec("pcm_s16le"), ab=None)),
+                                          False), r=SOURCE_RATE, acodec=codec("pcm_s16le"),
+                                          ab=None)),
     "wii-mov.xml": ("general video", dict(vcodec=codec("mjpeg"), s=("640*480", "320*240,640*480",
-                                          False), acodec=codec("mp3"), ab=("128", "320,256,128,96,64"))),
+                                          False), r=SOURCE_RATE, acodec=codec("mp3"),
+                                          ab=("128", "320,256,128,96,64"))),
 }
 
 FAMILIES["dpg"] = dict(
     vcodec=("mpeg1video", "mpeg1video", True), acodec=("mp2", "mp2", True),
     s=("256*192", "256*192", False), b=("256", "512,384,256,192,128"), r=("20", "15,20,24"),
-    ab=("128", "160,128,128,96,64"), ar=("32000", "32000,22050", False),
+    ab=("128", PLAYER_AB_VALUES), ar=("32000", "32000,22050", False),
     ac=("2 (Stereo)", CHANNELS, False), expert={})
 
 # Rows in which the tags stand whole or as the title alone.
 SUMMARY = {"Xbox_wmv_hd.xml": "full", "wmv_hd.xml": "full", "asf.xml": None,
            "wmv_mobile.xml": "full", "Xbox_wmv.xml": "full"}
 VN = {"wmv.xml", "wmv_mobile.xml", "Xbox_wmv.xml", "Xbox_wmv_hd.xml"}
+NAMED = {row[1] for rows in PROFILES.values() for row in rows}
+# Named players that step their audio like the later catalogues.
+PLAYERS = {"archos_mpeg4.xml", "create_zenvision_mpeg4.xml", "iriver_mpeg4.xml"}
 
 # ---------------------------------------------------------------------------
 # Writing
@@ -758,6 +786,9 @@ def make_document(name, family, changes):
         audio.append(listed("acodec", *p["acodec"]))
         if p.get("ab"):
             default, values = p["ab"]
+            if len(set(values.split(","))) < len(values.split(",")) and \
+                    (name not in NAMED or name in PLAYERS):
+                values = PLAYER_AB_VALUES
             audio.append(listed("ab", default, unique(values), False, "Audio Quality", QUALITY,
                                 values))
         default, candidates, fixed = p["ar"]
