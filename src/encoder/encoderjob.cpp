@@ -1,10 +1,13 @@
 #include "encoderjob.h"
 
+#include "encoderlimits.h"
 #include "filtertranslator.h"
 
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QSize>
+
+#include <iterator>
 
 namespace {
 
@@ -166,7 +169,7 @@ std::optional<EncoderJob> EncoderJob::parse(const QStringList &arguments, QStrin
         afterInput = false;
     }
     OptionTable::finish(job.output);
-    job.fitCodecToSize();
+    job.fitToEncoders();
     job.notes += job.output.notes;
     return job;
 }
@@ -188,13 +191,31 @@ bool EncoderJob::isPictureSeries() const
     return series.match(outputPath).hasMatch();
 }
 
+QString EncoderJob::outputOption(const char *name) const
+{
+    const int at = output.args.indexOf(QLatin1Char('-') + QLatin1String(name));
+    return at >= 0 ? output.args.value(at + 1) : QString();
+}
+
+void EncoderJob::setOutputOption(const char *name, const QString &value)
+{
+    const QString option = QLatin1Char('-') + QLatin1String(name);
+    const int at = output.args.indexOf(option);
+    if (at >= 0 && at + 1 < output.args.size())
+        output.args[at + 1] = value;
+    else
+        output.args << option << value;
+}
+
 void EncoderJob::fitCodecToSize()
 {
     if (inputs.isEmpty())
         return;
     const QStringList size = outputSizeOf(inputs.last().videoChain).split(QLatin1Char('x'));
     const int width = size.value(0).toInt(), height = size.value(1).toInt();
-    const QString &codec = output.videoCodec;
+    const QString codec = output.videoCodec.isEmpty()
+                              ? EncoderLimits::defaultVideoEncoder(outputPath, outputOption("f"))
+                              : output.videoCodec;
     auto replaceCodec = [this](const QString &to) {
         const int at = output.args.indexOf(QStringLiteral("-c:v"));
         if (at >= 0)
@@ -210,17 +231,121 @@ void EncoderJob::fitCodecToSize()
                                 .arg(height);
             replaceCodec(QStringLiteral("mpeg4"));
         }
-    } else if ((codec == QLatin1String("rv10") || codec == QLatin1String("rv20"))
-               && (width % 16 || height % 16)) {
-        // RealVideo takes whole macroblocks only.
-        const int w = qMax(16, (width + 8) / 16 * 16), h = qMax(16, (height + 8) / 16 * 16);
-        output.notes << QStringLiteral("RealVideo needs sizes in steps of 16: %1x%2 becomes %3x%4")
+    } else if (codec == QLatin1String("rv10") || codec == QLatin1String("rv20")) {
+        // RealVideo takes whole macroblocks only, and the RM muxer no frame
+        // over 64 kB, which pictures beyond 1280x720 soon make.
+        const double shrink = qMin(1.0, qMin(1280.0 / width, 720.0 / height));
+        const int w = qMax(16, int(width * shrink + 8) / 16 * 16);
+        const int h = qMax(16, int(height * shrink + 8) / 16 * 16);
+        if (w == width && h == height)
+            return;
+        output.notes << QStringLiteral("RealVideo takes sizes in steps of 16 up to 1280x720: "
+                                       "%1x%2 becomes %3x%4")
                             .arg(width)
                             .arg(height)
                             .arg(w)
                             .arg(h);
         for (EncoderInput &input : inputs)
             input.videoChain += QStringLiteral(",scale=%1:%2").arg(w).arg(h);
+    }
+}
+
+void EncoderJob::fitToEncoders()
+{
+    fitCodecToSize();
+    const QString format = outputOption("f");
+    const bool dv = (format.isEmpty() ? QFileInfo(outputPath).suffix().toLower() : format)
+                    == QLatin1String("dv");
+
+    // Frame rate: MPEG-1/2 streams know a handful; DV one for each line count.
+    const QString video = output.videoCodec.isEmpty()
+                              ? EncoderLimits::defaultVideoEncoder(outputPath, format)
+                              : output.videoCodec;
+    const QString rate = outputOption("r");
+    const QStringList fraction = rate.split(QLatin1Char('/'));
+    const double wanted = fraction.size() == 2 && fraction[1].toDouble() > 0
+                              ? fraction[0].toDouble() / fraction[1].toDouble()
+                              : rate.toDouble();
+    if (dv && !inputs.isEmpty()) {
+        const bool pal = outputSizeOf(inputs.last().videoChain).endsWith(QLatin1String("x576"));
+        const QString dvRate = pal ? QStringLiteral("25") : QStringLiteral("30000/1001");
+        if (rate.isEmpty() || qAbs(wanted - (pal ? 25.0 : 29.97)) > 0.01) {
+            if (!rate.isEmpty())
+                output.notes << QStringLiteral("DV with %1 lines runs at %2 frames a second, not %3")
+                                    .arg(pal ? 576 : 480)
+                                    .arg(pal ? QStringLiteral("25") : QStringLiteral("29.97"), rate);
+            setOutputOption("r", dvRate);
+        }
+    } else if (wanted > 0) {
+        const QList<QPair<int, int>> rates = EncoderLimits::frameRates(video);
+        QPair<int, int> best{0, 1};
+        for (const auto &allowed : rates) {
+            const double value = double(allowed.first) / allowed.second;
+            if (best.first == 0
+                || qAbs(value - wanted) < qAbs(double(best.first) / best.second - wanted))
+                best = allowed;
+        }
+        const double chosen = double(best.first) / best.second;
+        if (best.first && qAbs(chosen - wanted) > wanted / 100) {
+            output.notes << QStringLiteral("%1 has no %2 frames a second: %3 instead")
+                                .arg(video, rate, QString::number(chosen, 'g', 5));
+            setOutputOption("r", QStringLiteral("%1/%2").arg(best.first).arg(best.second));
+        }
+    }
+
+    if (!wantsAudio())
+        return;
+    const QString audio = output.audioCodec.isEmpty()
+                              ? EncoderLimits::defaultAudioEncoder(outputPath, format)
+                              : output.audioCodec;
+    const int sampleRate = outputOption("ar").toInt();
+    QList<int> rates = EncoderLimits::sampleRates(audio);
+    if (dv)
+        rates = {48000}; // the DV muxer writes no other
+    if (sampleRate > 0 && !rates.isEmpty() && !rates.contains(sampleRate)) {
+        const int fitted = EncoderLimits::nearest(rates, sampleRate);
+        output.notes << QStringLiteral("%1 has no %2 Hz sampling: %3 Hz instead")
+                            .arg(dv ? QStringLiteral("DV") : audio)
+                            .arg(sampleRate)
+                            .arg(fitted);
+        setOutputOption("ar", QString::number(fitted));
+    }
+    const int channels = outputOption("ac").toInt();
+    const int most = dv ? 2 : EncoderLimits::maxChannels(audio);
+    if (most > 0 && channels > most) {
+        output.notes << QStringLiteral("%1 takes at most %2 channels: %3 mixed down")
+                            .arg(dv ? QStringLiteral("DV") : audio)
+                            .arg(most)
+                            .arg(channels);
+        setOutputOption("ac", QString::number(most));
+    }
+    const QString bitRate = outputOption("b:a");
+    const int kbits = bitRate.endsWith(QLatin1Char('k')) ? bitRate.chopped(1).toInt()
+                                                         : bitRate.toInt() / 1000;
+    const int finalRate = outputOption("ar").toInt();
+    const QList<int> bitRates = EncoderLimits::audioBitRates(audio, finalRate > 0 ? finalRate
+                                                                                  : 44100);
+    if (kbits > 0 && !bitRates.isEmpty() && !bitRates.contains(kbits)) {
+        const int fitted = EncoderLimits::nearest(bitRates, kbits);
+        output.notes << QStringLiteral("%1 has no %2 kbit/s at %3 Hz: %4 kbit/s instead")
+                            .arg(audio)
+                            .arg(kbits)
+                            .arg(finalRate)
+                            .arg(fitted);
+        setOutputOption("b:a", QString::number(fitted) + QLatin1Char('k'));
+    }
+    if (audio == QLatin1String("libvorbis") && kbits > 0) {
+        // Vorbis's bit rate mode fails for most pairs of a high rate and a low
+        // sampling rate; its quality scale works for all. The steps are what
+        // each quality gives for stereo at 44.1 kHz.
+        static const int steps[] = {64, 80, 96, 112, 128, 160, 192, 224, 256, 320};
+        int quality = 0;
+        while (quality + 1 < int(std::size(steps)) && steps[quality + 1] <= kbits)
+            ++quality;
+        const int at = output.args.indexOf(QStringLiteral("-b:a"));
+        output.args.removeAt(at + 1);
+        output.args.removeAt(at);
+        output.args << QStringLiteral("-q:a") << QString::number(quality);
     }
 }
 

@@ -60,6 +60,11 @@ struct EncoderJob
     bool isPictureSeries() const;
 
 private:
+    // What the chosen encoders and container can't take, changed to the
+    // nearest they can, each change a line of `notes`.
+    void fitToEncoders();
     // Stock encoders that take only some picture sizes.
     void fitCodecToSize();
+    QString outputOption(const char *name) const;
+    void setOutputOption(const char *name, const QString &value);
 };

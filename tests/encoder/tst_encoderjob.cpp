@@ -192,6 +192,34 @@ void TestEncoderJob::codecsFittedToTheOutput_data()
                                               << "-vf scale=854:480,scale=848:480"
                                               << ""
                                               << "854x480 becomes 848x480";
+    QTest::newRow("RealVideo beyond 1280x720")
+        << "-i /a.mkv -vf scale=1920:1080 -vcodec rv10 /o.rm"
+        << "-vf scale=1920:1080,scale=1280:720" << "" << "1920x1080 becomes 1280x720";
+    QTest::newRow("MPEG-1 at a rate it lacks")
+        << "-i /a.mkv -vf scale=352:240 -r 15 -vcodec mpeg1video /o.mpg"
+        << "-r 24000/1001" << "-r 15" << "mpeg1video has no 15 frames a second";
+    QTest::newRow("MPEG-2 at a rate it has") << "-i /a.mkv -r 29.97 -vcodec mpeg2video /o.mpg"
+                                             << "-r 29.97" << "" << "";
+    QTest::newRow("PAL DV") << "-i /a.mkv -vf scale=720:576 -r 29.97 -ar 32000 -ac 6 /o.dv"
+                            << "-r 25 -ar 48000 -ac 2"
+                            << "32000"
+                            << "DV with 576 lines runs at 25";
+    QTest::newRow("NTSC DV keeps its rate") << "-i /a.mkv -vf scale=720:480 -r 29.97 /o.dv"
+                                            << "-r 29.97" << "" << "";
+    QTest::newRow("MP2 at a sampling rate it lacks")
+        << "-i /a.mkv -ab 128k -ar 8000 -acodec mp2 /o.mp2"
+        << "-ar 16000" << "8000" << "mp2 has no 8000 Hz sampling: 16000 Hz";
+    QTest::newRow("MP2 bit rate over the half-rate table")
+        << "-i /a.mkv -ab 192k -ar 22050 -acodec mp2 /o.mp2"
+        << "-b:a 160k" << "192k" << "mp2 has no 192 kbit/s at 22050 Hz";
+    QTest::newRow("MP3 in 5.1") << "-i /a.mkv -ab 192k -ac 6 -acodec mp3 /o.mkv"
+                                << "-ac 2" << "-ac 6" << "libmp3lame takes at most 2 channels";
+    QTest::newRow("AC-3 keeps 5.1") << "-i /a.mkv -ab 192k -ac 6 -acodec ac3 /o.mkv"
+                                    << "-ac 6" << "" << "";
+    QTest::newRow("RM's own audio at a rate AC-3 lacks") << "-i /a.mkv -ar 22050 -vn /o.ra"
+                                                        << "-ar 32000" << "22050" << "ac3 has no";
+    QTest::newRow("Vorbis by quality") << "-i /a.mkv -ab 192k -ar 22050 -acodec vorbis /o.ogg"
+                                       << "-ar 22050 -c:a libvorbis -q:a 6" << "-b:a" << "";
     QTest::newRow("picture series") << "-i /a.mkv -vf scale=64:48 -r 1/5 /p/shot%03d.gif"
                                     << "-c:v gif -f image2 /p/shot%03d.gif"
                                     << "0:a"

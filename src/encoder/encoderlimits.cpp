@@ -1,0 +1,173 @@
+#include "encoderlimits.h"
+
+#include <QFileInfo>
+#include <QStringList>
+
+#include <climits>
+#include <cstdlib>
+
+namespace EncoderLimits {
+
+namespace {
+
+struct AudioRow
+{
+    const char *encoder;
+    QList<int> rates; // empty: any
+    int channels;     // 0: no limit
+};
+
+const QList<AudioRow> &audioRows()
+{
+    static const QList<AudioRow> rows = {
+        {"mp2", {44100, 48000, 32000, 22050, 24000, 16000}, 2},
+        {"ac3", {48000, 44100, 32000}, 6},
+        {"libmp3lame", {44100, 48000, 32000, 22050, 24000, 16000, 11025, 12000, 8000}, 2},
+        {"wmav1", {}, 2},
+        {"wmav2", {}, 2},
+        {"aac",
+         {96000, 88200, 64000, 48000, 44100, 32000, 24000, 22050, 16000, 12000, 11025, 8000, 7350},
+         8},
+        {"libvorbis", {}, 0},
+        {"adpcm_ms", {}, 2},
+        {"adpcm_ima_wav", {}, 2},
+        {"pcm_s16le", {}, 0},
+        {"flac", {}, 0},
+        {"alac", {}, 8},
+    };
+    return rows;
+}
+
+struct VideoRow
+{
+    const char *encoder;
+    QList<QPair<int, int>> rates;
+};
+
+const QList<VideoRow> &videoRows()
+{
+    // MPEG-2 reaches many more rates through its extension fields.
+    static const QList<VideoRow> rows = {
+        {"mpeg1video",
+         {{24000, 1001}, {24, 1}, {25, 1}, {30000, 1001}, {30, 1}, {50, 1}, {60000, 1001}, {60, 1}}},
+    };
+    return rows;
+}
+
+struct ContainerRow
+{
+    const char *name; // format and extension alike
+    const char *audio;
+    const char *video;
+};
+
+const ContainerRow containers[] = {
+    {"rm", "ac3", "rv10"},
+    {"ra", "ac3", ""},
+    {"dv", "pcm_s16le", "dvvideo"},
+    {"flv", "libmp3lame", "flv"},
+    {"swf", "libmp3lame", "flv"},
+};
+
+const ContainerRow *containerOf(const QString &outputPath, const QString &format)
+{
+    const QString name = format.isEmpty() ? QFileInfo(outputPath).suffix().toLower() : format;
+    for (const ContainerRow &row : containers) {
+        if (name == QLatin1String(row.name))
+            return &row;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+QList<int> sampleRates(const QString &encoder)
+{
+    for (const AudioRow &row : audioRows()) {
+        if (encoder == QLatin1String(row.encoder))
+            return row.rates;
+    }
+    return {};
+}
+
+int maxChannels(const QString &encoder)
+{
+    for (const AudioRow &row : audioRows()) {
+        if (encoder == QLatin1String(row.encoder))
+            return row.channels;
+    }
+    return 0;
+}
+
+QList<int> audioBitRates(const QString &encoder, int sampleRate)
+{
+    // MPEG audio layer II has one table for the full rates and one for the
+    // half rates; the encoder refuses anything else.
+    if (encoder == QLatin1String("mp2")) {
+        if (sampleRate >= 32000)
+            return {32, 48, 56, 64, 80, 96, 112, 128, 160, 192, 224, 256, 320, 384};
+        return {8, 16, 24, 32, 40, 48, 56, 64, 80, 96, 112, 128, 144, 160};
+    }
+    return {};
+}
+
+QList<QPair<int, int>> frameRates(const QString &encoder)
+{
+    for (const VideoRow &row : videoRows()) {
+        if (encoder == QLatin1String(row.encoder))
+            return row.rates;
+    }
+    return {};
+}
+
+QString defaultAudioEncoder(const QString &outputPath, const QString &format)
+{
+    const ContainerRow *row = containerOf(outputPath, format);
+    return row ? QLatin1String(row->audio) : QString();
+}
+
+QString defaultVideoEncoder(const QString &outputPath, const QString &format)
+{
+    const ContainerRow *row = containerOf(outputPath, format);
+    return row ? QLatin1String(row->video) : QString();
+}
+
+QStringList audioEncoders()
+{
+    QStringList names;
+    for (const AudioRow &row : audioRows())
+        names << QLatin1String(row.encoder);
+    return names;
+}
+
+QStringList videoEncoders()
+{
+    QStringList names;
+    for (const VideoRow &row : videoRows())
+        names << QLatin1String(row.encoder);
+    return names;
+}
+
+QStringList containerNames()
+{
+    QStringList names;
+    for (const ContainerRow &row : containers)
+        names << QLatin1String(row.name);
+    return names;
+}
+
+int nearest(const QList<int> &allowed, int wanted)
+{
+    int best = wanted;
+    long long bestDistance = LLONG_MAX;
+    for (const int value : allowed) {
+        const long long distance = std::llabs(static_cast<long long>(value) - wanted);
+        if (distance < bestDistance || (distance == bestDistance && value > best)) {
+            best = value;
+            bestDistance = distance;
+        }
+    }
+    return best;
+}
+
+} // namespace EncoderLimits
