@@ -225,7 +225,14 @@ void EncoderJob::fitCodecToSize()
     if (codec == QLatin1String("h263")) {
         static const QList<QSize> sizes
             = {{128, 96}, {176, 144}, {352, 288}, {704, 576}, {1408, 1152}};
-        if (!sizes.contains(QSize(width, height))) {
+        const QString format = outputOption("f");
+        const bool mp4 = (format.isEmpty() ? QFileInfo(outputPath).suffix().toLower() : format)
+                         == QLatin1String("mp4");
+        if (mp4) {
+            // The MP4 muxer has no tag for H.263; 3GP and QuickTime have.
+            output.notes << QStringLiteral("MP4 files carry no H.263: encoded as MPEG-4 part 2");
+            replaceCodec(QStringLiteral("mpeg4"));
+        } else if (!sizes.contains(QSize(width, height))) {
             output.notes << QStringLiteral("H.263 has no %1x%2 pictures: encoded as MPEG-4 part 2")
                                 .arg(width)
                                 .arg(height);

@@ -188,6 +188,10 @@ void TestEncoderJob::codecsFittedToTheOutput_data()
                                               << "-c:v mpeg4"
                                               << "h263"
                                               << "H.263 has no 320x240";
+    QTest::newRow("H.263 in MP4") << "-i /a.mkv -vf scale=176:144 -vcodec h263 /o.mp4"
+                                  << "-c:v mpeg4"
+                                  << "h263"
+                                  << "MP4 files carry no H.263";
     QTest::newRow("RealVideo in steps of 16") << "-i /a.mkv -vf scale=854:480 -vcodec rv20 /o.rm"
                                               << "-vf scale=854:480,scale=848:480"
                                               << ""
