@@ -278,9 +278,11 @@ void EncoderJob::fitToEncoders()
         const QString dvRate = pal ? QStringLiteral("25") : QStringLiteral("30000/1001");
         if (rate.isEmpty() || qAbs(wanted - (pal ? 25.0 : 29.97)) > 0.01) {
             if (!rate.isEmpty())
-                output.notes << QStringLiteral("DV with %1 lines runs at %2 frames a second, not %3")
+                output.notes << QStringLiteral(
+                                    "DV with %1 lines runs at %2 frames a second, not %3")
                                     .arg(pal ? 576 : 480)
-                                    .arg(pal ? QStringLiteral("25") : QStringLiteral("29.97"), rate);
+                                    .arg(pal ? QStringLiteral("25") : QStringLiteral("29.97"),
+                                         rate);
             setOutputOption("r", dvRate);
         }
     } else if (wanted > 0) {
@@ -327,11 +329,11 @@ void EncoderJob::fitToEncoders()
         setOutputOption("ac", QString::number(most));
     }
     const QString bitRate = outputOption("b:a");
-    const int kbits = bitRate.endsWith(QLatin1Char('k')) ? bitRate.chopped(1).toInt()
-                                                         : bitRate.toInt() / 1000;
+    const int kbits
+        = bitRate.endsWith(QLatin1Char('k')) ? bitRate.chopped(1).toInt() : bitRate.toInt() / 1000;
     const int finalRate = outputOption("ar").toInt();
-    const QList<int> bitRates = EncoderLimits::audioBitRates(audio, finalRate > 0 ? finalRate
-                                                                                  : 44100);
+    const QList<int> bitRates
+        = EncoderLimits::audioBitRates(audio, finalRate > 0 ? finalRate : 44100);
     if (kbits > 0 && !bitRates.isEmpty() && !bitRates.contains(kbits)) {
         const int fitted = EncoderLimits::nearest(bitRates, kbits);
         output.notes << QStringLiteral("%1 has no %2 kbit/s at %3 Hz: %4 kbit/s instead")
@@ -356,36 +358,100 @@ void EncoderJob::fitToEncoders()
     }
 }
 
+QString EncoderJob::soundEncoder() const
+{
+    return output.audioCodec.isEmpty()
+               ? EncoderLimits::defaultAudioEncoder(outputPath, outputOption("f"))
+               : output.audioCodec;
+}
+
+bool EncoderJob::soundApart(const QList<InputLayout> &layouts) const
+{
+    // Encoders slow enough to be worth a process of their own, whose
+    // streams come through NUT whole. (WMA loses its block size there.)
+    static const QStringList worth
+        = {QStringLiteral("aac"), QStringLiteral("libmp3lame"), QStringLiteral("mp2"),
+           QStringLiteral("ac3"), QStringLiteral("libvorbis")};
+    // A share of the processor is kept by stopping one process.
+    return cpuPercent == 0 && inputs.size() == 1 && wantsVideo() && wantsAudio()
+           && layouts.value(0).hasVideo && layouts.value(0).hasAudio
+           && (!inputs[0].isTitle() || inputs[0].audioTrack >= 0)
+           && (inputs[0].isTitle() || layouts.value(0).audioStreams < 0
+               || inputs[0].audioStream < layouts.value(0).audioStreams)
+           && worth.contains(soundEncoder());
+}
+
+QStringList EncoderJob::inputArguments(int i, const QString &source) const
+{
+    QStringList args = output.inputArgs + inputs[i].options;
+    if (inputs[i].isTitle()) {
+        // Subpicture streams may start late in a title: read further before
+        // deciding. (A longer analyzeduration together with -ss on a pipe
+        // crashes ffmpeg 5.1.)
+        args << QStringLiteral("-probesize") << QStringLiteral("50M");
+        if (inputs[i].subtitle >= 0)
+            args << QStringLiteral("-ifo_palette") << inputs[i].path;
+        if (!inputs[i].options.contains(QStringLiteral("-f")))
+            args << QStringLiteral("-f") << QStringLiteral("mpeg");
+    }
+    return args << QStringLiteral("-i") << source;
+}
+
+QString EncoderJob::audioSpecifier(int i, const InputLayout &layout) const
+{
+    if (!layout.audioSpecifier.isEmpty())
+        return layout.audioSpecifier;
+    const int position
+        = inputs[i].isTitle() ? qMax(0, inputs[i].audioTrack) : inputs[i].audioStream;
+    return QStringLiteral("a:%1").arg(position);
+}
+
+QStringList EncoderJob::soundArguments(const QString &source, const InputLayout &layout) const
+{
+    // Quiet: the status lines that report progress come from the other ffmpeg.
+    QStringList args{QStringLiteral("-nostdin"), QStringLiteral("-nostats"),
+                     QStringLiteral("-loglevel"), QStringLiteral("error")};
+    // Sound for the whole title; the writing ffmpeg cuts both streams alike.
+    args << inputArguments(0, source) << QStringLiteral("-map")
+         << QStringLiteral("0:%1").arg(audioSpecifier(0, layout)) << QStringLiteral("-vn")
+         << QStringLiteral("-sn") << QStringLiteral("-dn");
+    // Time zero is the input's start, as for the picture; a gap becomes silence.
+    QStringList filters = output.audioFilters;
+    filters << QStringLiteral("aresample=async=1:first_pts=0");
+    args << QStringLiteral("-af") << filters.join(QLatin1Char(','));
+    for (int i = 0; i < output.args.size(); ++i) {
+        if (isSoundOption(output.args[i]) || output.args[i] == QLatin1String("-strict"))
+            args << output.args[i] << output.args.value(i + 1);
+    }
+    return args << QStringLiteral("-f") << QStringLiteral("nut") << QStringLiteral("pipe:1");
+}
+
+bool EncoderJob::isSoundOption(const QString &option)
+{
+    static const QStringList options
+        = {QStringLiteral("-b:a"), QStringLiteral("-q:a"), QStringLiteral("-ac"),
+           QStringLiteral("-ar"), QStringLiteral("-c:a")};
+    return options.contains(option);
+}
+
 QStringList EncoderJob::ffmpegArguments(const QStringList &sources,
-                                        const QList<InputLayout> &layouts) const
+                                        const QList<InputLayout> &layouts,
+                                        const QString &soundSource) const
 {
     QStringList args{QStringLiteral("-nostdin")};
     if (overwrite)
         args << QStringLiteral("-y");
-    for (int i = 0; i < inputs.size(); ++i) {
-        args << output.inputArgs << inputs[i].options;
-        if (inputs[i].isTitle()) {
-            // Subpicture streams may start late in a title: read further before
-            // deciding. (A longer analyzeduration together with -ss on a pipe
-            // crashes ffmpeg 5.1.)
-            args << QStringLiteral("-probesize") << QStringLiteral("50M");
-            if (inputs[i].subtitle >= 0)
-                args << QStringLiteral("-ifo_palette") << inputs[i].path;
-            if (!inputs[i].options.contains(QStringLiteral("-f")))
-                args << QStringLiteral("-f") << QStringLiteral("mpeg");
-        }
-        args << QStringLiteral("-i") << sources.value(i);
-    }
+    for (int i = 0; i < inputs.size(); ++i)
+        args << inputArguments(i, sources.value(i));
+    const bool soundReady = !soundSource.isEmpty();
+    if (soundReady)
+        args << QStringLiteral("-f") << QStringLiteral("nut") << QStringLiteral("-i")
+             << soundSource;
 
     const QString pre = output.preFilters.join(QLatin1Char(','));
     const QString audioFilters = output.audioFilters.join(QLatin1Char(','));
     auto audioSpec = [&](int i) {
-        const InputLayout layout = layouts.value(i);
-        if (!layout.audioSpecifier.isEmpty())
-            return layout.audioSpecifier;
-        const int position
-            = inputs[i].isTitle() ? qMax(0, inputs[i].audioTrack) : inputs[i].audioStream;
-        return QStringLiteral("a:%1").arg(position);
+        return audioSpecifier(i, layouts.value(i));
     };
     auto subtitleSpec = [&](int i) {
         const InputLayout layout = layouts.value(i);
@@ -419,7 +485,9 @@ QStringList EncoderJob::ffmpegArguments(const QStringList &sources,
                 args << QStringLiteral("-vf") << chain;
             args << QStringLiteral("-map") << QStringLiteral("0:v:0?");
         }
-        if (audio && (!in.isTitle() || in.audioTrack >= 0)) {
+        if (audio && soundReady) {
+            args << QStringLiteral("-map") << QStringLiteral("1:a:0");
+        } else if (audio && (!in.isTitle() || in.audioTrack >= 0)) {
             if (!audioFilters.isEmpty())
                 args << QStringLiteral("-af") << audioFilters;
             args << QStringLiteral("-map") << QStringLiteral("0:%1?").arg(audioSpec(0));
@@ -502,14 +570,25 @@ QStringList EncoderJob::ffmpegArguments(const QStringList &sources,
             args << QStringLiteral("-map") << QStringLiteral("[aout]");
     }
 
-    args << output.args;
+    if (soundReady) {
+        for (int i = 0; i < output.args.size(); ++i) {
+            if (isSoundOption(output.args[i]))
+                ++i;
+            else
+                args << output.args[i];
+        }
+        args << QStringLiteral("-c:a") << QStringLiteral("copy");
+    } else {
+        args << output.args;
+    }
     if (isPictureSeries()) {
         // Each picture in the format its name says; the gif muxer would
         // otherwise take "%03d" for part of one file's name.
         if (output.videoCodec.isEmpty()) {
             const QString extension = QFileInfo(outputPath).suffix().toLower();
             args << QStringLiteral("-c:v")
-                 << (extension.startsWith(QLatin1String("jp")) ? QStringLiteral("mjpeg") : extension);
+                 << (extension.startsWith(QLatin1String("jp")) ? QStringLiteral("mjpeg")
+                                                               : extension);
         }
         if (!output.args.contains(QStringLiteral("-f")))
             args << QStringLiteral("-f") << QStringLiteral("image2");

@@ -30,6 +30,7 @@ struct InputLayout
 {
     bool hasVideo = true;
     bool hasAudio = true;
+    int audioStreams = -1;     // how many, -1 when unknown
     double duration = 0;       // seconds, 0 when unknown
     QString frameRate;         // as ffmpeg writes it, "25" or "30000/1001"; empty when unknown
     QString audioSpecifier;    // stream specifier inside the input; empty: by position
@@ -51,8 +52,16 @@ struct EncoderJob
 
     // `sources[i]` is what ffmpeg opens for input i (a path, or "pipe:N" for
     // a title); `layouts[i]` what it holds.
-    QStringList ffmpegArguments(const QStringList &sources,
-                                const QList<InputLayout> &layouts) const;
+    // With `soundSource` set, the sound comes from there encoded, as NUT.
+    QStringList ffmpegArguments(const QStringList &sources, const QList<InputLayout> &layouts,
+                                const QString &soundSource = QString()) const;
+
+    // Whether an ffmpeg of its own can encode the sound (see SoundEncoder):
+    // one input with picture and sound, and no share of the processor to hold.
+    bool soundApart(const QList<InputLayout> &layouts) const;
+    // That ffmpeg's list: the sound of the input, read from `source` and
+    // encoded, as NUT on standard output.
+    QStringList soundArguments(const QString &source, const InputLayout &layout) const;
 
     bool wantsVideo() const;
     bool wantsAudio() const;
@@ -66,5 +75,9 @@ private:
     // Stock encoders that take only some picture sizes.
     void fitCodecToSize();
     QString outputOption(const char *name) const;
+    QString soundEncoder() const;
+    QStringList inputArguments(int i, const QString &source) const;
+    QString audioSpecifier(int i, const InputLayout &layout) const;
+    static bool isSoundOption(const QString &option);
     void setOutputOption(const char *name, const QString &value);
 };

@@ -49,7 +49,14 @@ const QList<VideoRow> &videoRows()
     // MPEG-2 reaches many more rates through its extension fields.
     static const QList<VideoRow> rows = {
         {"mpeg1video",
-         {{24000, 1001}, {24, 1}, {25, 1}, {30000, 1001}, {30, 1}, {50, 1}, {60000, 1001}, {60, 1}}},
+         {{24000, 1001},
+          {24, 1},
+          {25, 1},
+          {30000, 1001},
+          {30, 1},
+          {50, 1},
+          {60000, 1001},
+          {60, 1}}},
     };
     return rows;
 }
@@ -62,10 +69,8 @@ struct ContainerRow
 };
 
 const ContainerRow containers[] = {
-    {"rm", "ac3", "rv10"},
-    {"ra", "ac3", ""},
-    {"dv", "pcm_s16le", "dvvideo"},
-    {"flv", "libmp3lame", "flv"},
+    {"rm", "ac3", "rv10"},          {"ra", "ac3", ""},
+    {"dv", "pcm_s16le", "dvvideo"}, {"flv", "libmp3lame", "flv"},
     {"swf", "libmp3lame", "flv"},
 };
 

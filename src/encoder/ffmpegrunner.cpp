@@ -173,8 +173,8 @@ QString FFmpegRunner::ffmpegProgram()
     return found.isEmpty() ? QStringLiteral("ffmpeg") : found;
 }
 
-FFmpegRunner::Result FFmpegRunner::run(const QString &program, const QStringList &arguments,
-                                       const Options &options)
+pid_t FFmpegRunner::spawn(const QString &program, const QStringList &arguments,
+                          const std::vector<int> &childFds, int outputFd, int errorFd)
 {
     std::vector<QByteArray> storage;
     storage.reserve(arguments.size() + 1);
@@ -190,30 +190,29 @@ FFmpegRunner::Result FFmpegRunner::run(const QString &program, const QStringList
     int execPipe[2];
     if (::pipe2(execPipe, O_CLOEXEC) != 0) {
         reportStartFailure(argv[0], errno);
-        return {};
-    }
-    int errorPipe[2];
-    if (::pipe2(errorPipe, O_CLOEXEC) != 0) {
-        reportStartFailure(argv[0], errno);
-        return {};
+        return -1;
     }
     const pid_t parentPid = ::getpid();
-    childPid = ::fork();
-    if (childPid < 0) {
+    const pid_t pid = ::fork();
+    if (pid < 0) {
         reportStartFailure(argv[0], errno);
-        return {};
+        ::close(execPipe[0]);
+        ::close(execPipe[1]);
+        return -1;
     }
-    if (childPid == 0) {
+    if (pid == 0) {
         ::close(execPipe[0]);
         // Dies with us, so a killed front leaves no encoder behind.
         ::prctl(PR_SET_PDEATHSIG, SIGKILL);
         if (::getppid() != parentPid)
             ::_exit(127);
         ::signal(SIGPIPE, SIG_DFL);
-        ::dup2(errorPipe[1], STDERR_FILENO);
+        if (outputFd >= 0)
+            ::dup2(outputFd, STDOUT_FILENO);
+        ::dup2(errorFd, STDERR_FILENO);
         // Move the descriptors out of the way first, then into place.
         std::vector<int> high;
-        for (int fd : options.childFds)
+        for (int fd : childFds)
             high.push_back(::fcntl(fd, F_DUPFD_CLOEXEC, 64));
         for (size_t k = 0; k < high.size(); ++k)
             ::dup2(high[k], static_cast<int>(3 + k));
@@ -223,15 +222,36 @@ FFmpegRunner::Result FFmpegRunner::run(const QString &program, const QStringList
         ::_exit(127);
     }
     ::close(execPipe[1]);
-    ::close(errorPipe[1]);
     int execError = 0;
     ssize_t got;
     do {
         got = ::read(execPipe[0], &execError, sizeof execError);
     } while (got < 0 && errno == EINTR);
     ::close(execPipe[0]);
+    if (got == static_cast<ssize_t>(sizeof execError)) {
+        int status;
+        ::waitpid(pid, &status, 0);
+        reportStartFailure(argv[0], execError);
+        return -1;
+    }
+    return pid;
+}
 
-    if (got != sizeof execError && options.started)
+FFmpegRunner::Result FFmpegRunner::run(const QString &program, const QStringList &arguments,
+                                       const Options &options)
+{
+    int errorPipe[2];
+    if (::pipe2(errorPipe, O_CLOEXEC) != 0) {
+        reportStartFailure(QFile::encodeName(program).constData(), errno);
+        return {};
+    }
+    childPid = spawn(program, arguments, options.childFds, -1, errorPipe[1]);
+    ::close(errorPipe[1]);
+    if (childPid < 0) {
+        ::close(errorPipe[0]);
+        return {};
+    }
+    if (options.started)
         options.started();
 
     struct sigaction action = {};
@@ -244,10 +264,6 @@ FFmpegRunner::Result FFmpegRunner::run(const QString &program, const QStringList
     const int status = waitForChild(childPid, options.cpuPercent, errors, errorPipe[0]);
     ::close(errorPipe[0]);
     childPid = -1;
-    if (got == static_cast<ssize_t>(sizeof execError)) {
-        reportStartFailure(argv[0], execError);
-        return {};
-    }
     Result result;
     result.writeFailed = errors.writeFailed;
     if (WIFSIGNALED(status))

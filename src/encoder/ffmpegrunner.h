@@ -3,6 +3,7 @@
 #include <QStringList>
 
 #include <functional>
+#include <sys/types.h>
 #include <vector>
 
 // Runs stock ffmpeg as a child whose standard error we pass on unchanged, so
@@ -26,6 +27,13 @@ public:
         int signal = 0;           // non-zero: the child was killed by this signal
         bool writeFailed = false; // the output could not be written out, whatever the exit code
     };
+
+    // Starts the program with `childFds` as its descriptors 3, 4, ..., its
+    // standard output on `outputFd` (-1: ours) and its standard error on
+    // `errorFd`. The child dies with us. -1, with a line on our standard
+    // error, when it could not be started.
+    static pid_t spawn(const QString &program, const QStringList &arguments,
+                       const std::vector<int> &childFds, int outputFd, int errorFd);
 
     // Runs the program with the arguments and waits for it.
     static Result run(const QString &program, const QStringList &arguments, const Options &options);

@@ -26,6 +26,7 @@ InputLayout layout(const QString &path)
     const QJsonObject root = QJsonDocument::fromJson(probe.readAllStandardOutput()).object();
     result.hasVideo = false;
     result.hasAudio = false;
+    result.audioStreams = 0;
     const QJsonArray streams = root.value(QStringLiteral("streams")).toArray();
     for (const auto &value : streams) {
         const QString type = value.toObject().value(QStringLiteral("codec_type")).toString();
@@ -33,6 +34,7 @@ InputLayout layout(const QString &path)
             result.frameRate = value.toObject().value(QStringLiteral("avg_frame_rate")).toString();
         result.hasVideo |= type == QLatin1String("video");
         result.hasAudio |= type == QLatin1String("audio");
+        result.audioStreams += type == QLatin1String("audio") ? 1 : 0;
     }
     result.duration = root.value(QStringLiteral("format"))
                           .toObject()

@@ -1,6 +1,7 @@
 #include "encoderjob.h"
 #include "ffmpegrunner.h"
 #include "inputprobe.h"
+#include "soundencoder.h"
 #include "titlefeeder.h"
 
 #include <QCoreApplication>
@@ -126,15 +127,55 @@ int main(int argc, char *argv[])
         options.childFds.push_back(feeder->readEnd());
         feeders.push_back(std::move(feeder));
     }
-    options.started = [&feeders] {
+
+    // The sound in an ffmpeg of its own where that is faster; a single file
+    // is asked what it holds only then.
+    SoundEncoder sound;
+    QString soundSource;
+    QList<InputLayout> known = layouts;
+    if (job->soundApart(known) && !job->inputs[0].isTitle())
+        known[0] = InputProbe::layout(job->inputs[0].path);
+    if (job->soundApart(known)) {
+        std::vector<int> soundFds;
+        QString soundInput = job->inputs[0].path;
+        if (job->inputs[0].isTitle()) {
+            soundFds.push_back(feeders[0]->addReader());
+            soundInput = QStringLiteral("pipe:3");
+        }
+        if (soundFds.empty() || soundFds[0] >= 0) {
+            if (sound.start(FFmpegRunner::ffmpegProgram(),
+                            job->soundArguments(soundInput, known[0]), soundFds)) {
+                soundSource = QStringLiteral("pipe:%1").arg(3 + options.childFds.size());
+                options.childFds.push_back(sound.readEnd());
+            }
+        }
+    }
+
+    options.started = [&feeders, &sound] {
         for (auto &feeder : feeders)
             feeder->start();
+        sound.consumerStarted();
     };
-    const auto result = FFmpegRunner::run(FFmpegRunner::ffmpegProgram(),
-                                          job->ffmpegArguments(sources, layouts), options);
+    const auto result
+        = FFmpegRunner::run(FFmpegRunner::ffmpegProgram(),
+                            job->ffmpegArguments(sources, layouts, soundSource), options);
+    int exitCode = result.exitCode;
+    if (!soundSource.isEmpty()) {
+        const bool failed = result.signal != 0 || exitCode != 0;
+        // Cut short when the file failed; cut short and whole look alike to
+        // the writing ffmpeg, so a sound that failed fails the file.
+        if (!sound.finish(failed) || failed) {
+            const QByteArray errors = sound.errors().trimmed();
+            if (!errors.isEmpty())
+                say(QStringLiteral("sound: ") + QString::fromLocal8Bit(errors));
+            if (!failed) {
+                say(QStringLiteral("the sound could not be encoded"));
+                exitCode = 1;
+            }
+        }
+    }
     for (auto &feeder : feeders)
         feeder->finish();
-    int exitCode = result.exitCode;
     if (result.writeFailed && exitCode == 0) {
         say(QStringLiteral("the output could not be written completely: \"%1\"")
                 .arg(job->outputPath));

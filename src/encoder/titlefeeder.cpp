@@ -2,8 +2,11 @@
 
 #include "dvdtitlereader.h"
 
+#include <QByteArray>
+
 #include <cerrno>
 #include <fcntl.h>
+#include <poll.h>
 #include <unistd.h>
 
 namespace {
@@ -27,8 +30,12 @@ TitleFeeder::TitleFeeder()
 TitleFeeder::~TitleFeeder()
 {
     finish();
-    if (pipeFds[0] >= 0)
-        ::close(pipeFds[0]);
+    for (const Pipe &pipe : pipes) {
+        if (pipe.read >= 0)
+            ::close(pipe.read);
+        if (pipe.write >= 0)
+            ::close(pipe.write);
+    }
 }
 
 bool TitleFeeder::open(const QString &ifoPath, int pgcIndex, QString *error)
@@ -39,11 +46,20 @@ bool TitleFeeder::open(const QString &ifoPath, int pgcIndex, QString *error)
                      .arg(ifoPath);
         return false;
     }
-    if (::pipe2(pipeFds, O_CLOEXEC) != 0) {
+    if (addReader() < 0) {
         *error = QStringLiteral("cannot make a pipe for the title");
         return false;
     }
     return true;
+}
+
+int TitleFeeder::addReader()
+{
+    int fds[2];
+    if (::pipe2(fds, O_CLOEXEC) != 0)
+        return -1;
+    pipes.push_back({fds[0], fds[1]});
+    return fds[0];
 }
 
 QString TitleFeeder::audioSpecifier(int track) const
@@ -58,8 +74,10 @@ QString TitleFeeder::subtitleSpecifier(int track) const
 
 void TitleFeeder::start()
 {
-    ::close(pipeFds[0]);
-    pipeFds[0] = -1;
+    for (Pipe &pipe : pipes) {
+        ::close(pipe.read);
+        pipe.read = -1;
+    }
     worker = std::thread([this] { copy(); });
 }
 
@@ -71,27 +89,83 @@ void TitleFeeder::finish()
 
 void TitleFeeder::copy()
 {
-    char buffer[64 * 2048];
-    for (;;) {
-        const qint64 got = reader->read(buffer, sizeof buffer);
-        if (got <= 0)
-            break;
-        const char *at = buffer;
-        qint64 left = got;
-        while (left > 0) {
-            const ssize_t written = ::write(pipeFds[1], at, static_cast<size_t>(left));
-            if (written < 0 && errno == EINTR)
+    // Each reader takes the bytes at its own pace. One that lags keeps what
+    // it has not read yet here, up to a limit, so that the others go on:
+    // the picture's ffmpeg may wait for the sound, whose ffmpeg reads the
+    // same title.
+    constexpr qint64 lagLimit = 64 << 20;
+    struct Lag
+    {
+        QByteArray bytes;
+        qint64 offset = 0;
+        qint64 size() const { return bytes.size() - offset; }
+    };
+    std::vector<Lag> lags(pipes.size());
+    for (Pipe &pipe : pipes)
+        ::fcntl(pipe.write, F_SETFL, ::fcntl(pipe.write, F_GETFL) | O_NONBLOCK);
+    QByteArray buffer(64 * 2048, Qt::Uninitialized);
+    // Whether some reader has nothing left to read, and whether one lags too far.
+    auto state = [&](bool *hungry, bool *full) {
+        *hungry = *full = false;
+        bool open = false;
+        for (size_t k = 0; k < pipes.size(); ++k) {
+            if (pipes[k].write < 0)
                 continue;
-            if (written <= 0) {
-                // ffmpeg stopped reading: it has ended or has all it wants.
-                ::close(pipeFds[1]);
-                pipeFds[1] = -1;
-                return;
-            }
-            at += written;
-            left -= written;
+            open = true;
+            *hungry |= lags[k].size() == 0;
+            *full |= lags[k].size() >= lagLimit;
         }
+        return open;
+    };
+    bool more = true, hungry, full;
+    while (state(&hungry, &full)) {
+        if (more && hungry && !full) {
+            const qint64 got = reader->read(buffer.data(), buffer.size());
+            if (got <= 0) {
+                more = false;
+            } else {
+                for (size_t k = 0; k < pipes.size(); ++k) {
+                    if (pipes[k].write >= 0)
+                        lags[k].bytes.append(buffer.constData(), int(got));
+                }
+            }
+        }
+        // Send each reader what it takes now.
+        std::vector<pollfd> waiting;
+        for (size_t k = 0; k < pipes.size(); ++k) {
+            Pipe &pipe = pipes[k];
+            Lag &lag = lags[k];
+            while (pipe.write >= 0 && lag.size() > 0) {
+                const ssize_t written
+                    = ::write(pipe.write, lag.bytes.constData() + lag.offset, size_t(lag.size()));
+                if (written > 0) {
+                    lag.offset += written;
+                } else if (written < 0 && errno == EAGAIN) {
+                    waiting.push_back({pipe.write, POLLOUT, 0});
+                    break;
+                } else if (!(written < 0 && errno == EINTR)) {
+                    // This ffmpeg stopped reading: it has ended or has all it wants.
+                    ::close(pipe.write);
+                    pipe.write = -1;
+                    lag = Lag();
+                }
+            }
+            if (lag.size() == 0)
+                lag = Lag();
+            else if (lag.offset > (8 << 20)) {
+                lag.bytes.remove(0, int(lag.offset));
+                lag.offset = 0;
+            }
+        }
+        if (!state(&hungry, &full) || (!more && waiting.empty()))
+            break;
+        // Wait for a reader only when reading on is no use.
+        if (!waiting.empty() && (!more || !hungry || full))
+            ::poll(waiting.data(), waiting.size(), -1);
     }
-    ::close(pipeFds[1]);
-    pipeFds[1] = -1;
+    for (Pipe &pipe : pipes) {
+        if (pipe.write >= 0)
+            ::close(pipe.write);
+        pipe.write = -1;
+    }
 }

@@ -4,11 +4,13 @@
 
 #include <memory>
 #include <thread>
+#include <vector>
 
 class DvdTitleReader;
 
-// Copies one DVD title, as an MPEG program stream, into a pipe that ffmpeg
-// reads from. The copy runs on a thread of its own while ffmpeg runs.
+// Copies one DVD title, as an MPEG program stream, into the pipes that
+// ffmpeg reads from, one for each ffmpeg that reads it. The copy runs on a
+// thread of its own while ffmpeg runs.
 class TitleFeeder
 {
 public:
@@ -25,8 +27,10 @@ public:
     QString subtitleSpecifier(int track) const;
 
     // The end ffmpeg reads from; valid after open().
-    int readEnd() const { return pipeFds[0]; }
-    // Starts copying; closes our copy of the read end first.
+    int readEnd() const { return pipes.front().read; }
+    // One more reader of the same bytes; -1 when no pipe could be made.
+    int addReader();
+    // Starts copying; closes our copies of the read ends first.
     void start();
     // Stops copying and waits for the thread.
     void finish();
@@ -34,7 +38,12 @@ public:
 private:
     void copy();
 
+    struct Pipe
+    {
+        int read = -1;
+        int write = -1;
+    };
     std::unique_ptr<DvdTitleReader> reader;
-    int pipeFds[2] = {-1, -1};
+    std::vector<Pipe> pipes;
     std::thread worker;
 };

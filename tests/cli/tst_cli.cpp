@@ -435,12 +435,15 @@ void TestCli::convert()
 // starts, and the program ends with a report.
 void TestCli::interruptStopsEveryEncoder()
 {
-    // An encoder that never ends, and says who it is.
+    // An encoder that never ends, and says who it is; the one that encodes
+    // a task's sound apart says so in a file of its own.
     const QString pids = home.filePath(QStringLiteral("encoder.pids"));
+    const QString soundPids = home.filePath(QStringLiteral("sound.pids"));
     const QString fake = home.filePath(QStringLiteral("slow-ffmpeg"));
     QFile script(fake);
     QVERIFY(script.open(QIODevice::WriteOnly));
-    script.write("#!/bin/sh\necho $$ >> '" + pids.toUtf8() + "'\nexec sleep 120\n");
+    script.write("#!/bin/sh\ncase \"$*\" in *pipe:1) echo $$ >> '" + soundPids.toUtf8()
+                 + "';; *) echo $$ >> '" + pids.toUtf8() + "';; esac\nexec sleep 120\n");
     script.close();
     QVERIFY(script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
 
@@ -476,9 +479,12 @@ void TestCli::interruptStopsEveryEncoder()
              QStringLiteral("Failed/stopped Failed/stopped Idle/not started"));
 
     // No encoder outlives the program (a zombie has ended too).
-    QFile file(pids);
+    QFile file(pids), soundFile(soundPids);
     QVERIFY(file.open(QIODevice::ReadOnly));
-    for (const QByteArray &line : file.readAll().split('\n')) {
+    QByteArray all = file.readAll();
+    if (soundFile.open(QIODevice::ReadOnly))
+        all += soundFile.readAll();
+    for (const QByteArray &line : all.split('\n')) {
         if (line.isEmpty())
             continue;
         auto gone = [&line] {

@@ -37,11 +37,10 @@ public:
         {
             const char *part;
             const char *extension;
-        } rules[] = {{"wmv", "wmv"},   {"xvid", "avi"},   {"divx", "avi"},  {"avi", "avi"},
-                     {"_ts", "ts"},    {"mpeg2", "mpg"},  {"_ogg", "mkv"},  {"dpg4", "mp4"},
-                     {"dpg", "mpg"},   {"wtv", "mpg"},
-                     {"swf", "swf"},   {"flv", "flv"},    {"prores", "mov"}, {"imovie", "mov"},
-                     {"mov", "mov"},   {"xbox_", "mov"}};
+        } rules[] = {{"wmv", "wmv"},    {"xvid", "avi"},   {"divx", "avi"}, {"avi", "avi"},
+                     {"_ts", "ts"},     {"mpeg2", "mpg"},  {"_ogg", "mkv"}, {"dpg4", "mp4"},
+                     {"dpg", "mpg"},    {"wtv", "mpg"},    {"swf", "swf"},  {"flv", "flv"},
+                     {"prores", "mov"}, {"imovie", "mov"}, {"mov", "mov"},  {"xbox_", "mov"}};
         for (const auto &rule : rules) {
             if (name.contains(QLatin1String(rule.part)))
                 return QLatin1String(rule.extension);
@@ -103,12 +102,12 @@ void TestCandidateValues::initTestCase()
 QList<TestCandidateValues::Run> TestCandidateValues::runsOf(const ProfileLookup *catalogue,
                                                             const QString &profileKey)
 {
-    static const QSet<QString> audioKeys = {QStringLiteral("acodec"), QStringLiteral("ab"),
-                                            QStringLiteral("ar"), QStringLiteral("ac"),
-                                            QStringLiteral("vol")};
+    static const QSet<QString> audioKeys
+        = {QStringLiteral("acodec"), QStringLiteral("ab"), QStringLiteral("ar"),
+           QStringLiteral("ac"), QStringLiteral("vol")};
     static const QSet<QString> videoKeys
-        = {QStringLiteral("vcodec"), QStringLiteral("s"),     QStringLiteral("b"),
-           QStringLiteral("r"),      QStringLiteral("aspect"), QStringLiteral("level"),
+        = {QStringLiteral("vcodec"),   QStringLiteral("s"),      QStringLiteral("b"),
+           QStringLiteral("r"),        QStringLiteral("aspect"), QStringLiteral("level"),
            QStringLiteral("vprofile"), QStringLiteral("pi")};
     QList<Run> runs;
     TaskList list(catalogue);
@@ -137,16 +136,17 @@ QList<TestCandidateValues::Run> TestCandidateValues::runsOf(const ProfileLookup 
                 // Tags: passed as they are, whatever the choice.
                 if (!candidate.isEmpty()
                     && !builderArgs.contains(QStringLiteral("%1=%2").arg(key, candidate)))
-                    runs << Run{QStringLiteral("%1 %2=%3: not passed").arg(profileKey, key,
-                                                                           candidate),
-                                {}, {}};
+                    runs << Run{
+                        QStringLiteral("%1 %2=%3: not passed").arg(profileKey, key, candidate),
+                        {},
+                        {}};
                 continue;
             }
             QString error;
             const auto job = EncoderJob::parse(builderArgs, &error);
             if (!job) {
-                runs << Run{QStringLiteral("%1 %2=%3: %4").arg(profileKey, key, candidate, error),
-                            {}, {}};
+                runs << Run{
+                    QStringLiteral("%1 %2=%3: %4").arg(profileKey, key, candidate, error), {}, {}};
                 continue;
             }
             QStringList args = job->ffmpegArguments({source}, {layout});

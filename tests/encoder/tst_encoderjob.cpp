@@ -7,6 +7,8 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QProcess>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -53,6 +55,9 @@ private slots:
     void codecsFittedToTheOutput();
     void badLists_data();
     void badLists();
+    void soundApart_data();
+    void soundApart();
+    void soundApartLists();
     // Real conversions through kestrove-encoder
     void titleWithSecondAudioAndBurntSubtitle();
     void trimmedAndCroppedFile();
@@ -63,6 +68,8 @@ private slots:
     void existingFileIsKeptWithoutOverwrite();
     void fullDiskRemovesTheUnfinishedFile();
     void processorShareIsHeld();
+    void soundApartKeepsTheSync();
+    void failedSoundFailsTheFile();
 
 private:
     int encode(const QStringList &arguments, QByteArray *log = nullptr);
@@ -196,34 +203,53 @@ void TestEncoderJob::codecsFittedToTheOutput_data()
                                               << "-vf scale=854:480,scale=848:480"
                                               << ""
                                               << "854x480 becomes 848x480";
-    QTest::newRow("RealVideo beyond 1280x720")
-        << "-i /a.mkv -vf scale=1920:1080 -vcodec rv10 /o.rm"
-        << "-vf scale=1920:1080,scale=1280:720" << "" << "1920x1080 becomes 1280x720";
+    QTest::newRow("RealVideo beyond 1280x720") << "-i /a.mkv -vf scale=1920:1080 -vcodec rv10 /o.rm"
+                                               << "-vf scale=1920:1080,scale=1280:720"
+                                               << ""
+                                               << "1920x1080 becomes 1280x720";
     QTest::newRow("MPEG-1 at a rate it lacks")
         << "-i /a.mkv -vf scale=352:240 -r 15 -vcodec mpeg1video /o.mpg"
-        << "-r 24000/1001" << "-r 15" << "mpeg1video has no 15 frames a second";
+        << "-r 24000/1001"
+        << "-r 15"
+        << "mpeg1video has no 15 frames a second";
     QTest::newRow("MPEG-2 at a rate it has") << "-i /a.mkv -r 29.97 -vcodec mpeg2video /o.mpg"
-                                             << "-r 29.97" << "" << "";
+                                             << "-r 29.97"
+                                             << ""
+                                             << "";
     QTest::newRow("PAL DV") << "-i /a.mkv -vf scale=720:576 -r 29.97 -ar 32000 -ac 6 /o.dv"
                             << "-r 25 -ar 48000 -ac 2"
                             << "32000"
                             << "DV with 576 lines runs at 25";
     QTest::newRow("NTSC DV keeps its rate") << "-i /a.mkv -vf scale=720:480 -r 29.97 /o.dv"
-                                            << "-r 29.97" << "" << "";
+                                            << "-r 29.97"
+                                            << ""
+                                            << "";
     QTest::newRow("MP2 at a sampling rate it lacks")
         << "-i /a.mkv -ab 128k -ar 8000 -acodec mp2 /o.mp2"
-        << "-ar 16000" << "8000" << "mp2 has no 8000 Hz sampling: 16000 Hz";
+        << "-ar 16000"
+        << "8000"
+        << "mp2 has no 8000 Hz sampling: 16000 Hz";
     QTest::newRow("MP2 bit rate over the half-rate table")
         << "-i /a.mkv -ab 192k -ar 22050 -acodec mp2 /o.mp2"
-        << "-b:a 160k" << "192k" << "mp2 has no 192 kbit/s at 22050 Hz";
+        << "-b:a 160k"
+        << "192k"
+        << "mp2 has no 192 kbit/s at 22050 Hz";
     QTest::newRow("MP3 in 5.1") << "-i /a.mkv -ab 192k -ac 6 -acodec mp3 /o.mkv"
-                                << "-ac 2" << "-ac 6" << "libmp3lame takes at most 2 channels";
+                                << "-ac 2"
+                                << "-ac 6"
+                                << "libmp3lame takes at most 2 channels";
     QTest::newRow("AC-3 keeps 5.1") << "-i /a.mkv -ab 192k -ac 6 -acodec ac3 /o.mkv"
-                                    << "-ac 6" << "" << "";
+                                    << "-ac 6"
+                                    << ""
+                                    << "";
     QTest::newRow("RM's own audio at a rate AC-3 lacks") << "-i /a.mkv -ar 22050 -vn /o.ra"
-                                                        << "-ar 32000" << "22050" << "ac3 has no";
+                                                         << "-ar 32000"
+                                                         << "22050"
+                                                         << "ac3 has no";
     QTest::newRow("Vorbis by quality") << "-i /a.mkv -ab 192k -ar 22050 -acodec vorbis /o.ogg"
-                                       << "-ar 22050 -c:a libvorbis -q:a 6" << "-b:a" << "";
+                                       << "-ar 22050 -c:a libvorbis -q:a 6"
+                                       << "-b:a"
+                                       << "";
     QTest::newRow("picture series") << "-i /a.mkv -vf scale=64:48 -r 1/5 /p/shot%03d.gif"
                                     << "-c:v gif -f image2 /p/shot%03d.gif"
                                     << "0:a"
@@ -249,6 +275,86 @@ void TestEncoderJob::codecsFittedToTheOutput()
     else
         QVERIFY2(job->notes.join(QLatin1Char('\n')).contains(note),
                  qPrintable(job->notes.join(QLatin1Char('\n'))));
+}
+
+void TestEncoderJob::soundApart_data()
+{
+    QTest::addColumn<QString>("list");
+    QTest::addColumn<bool>("hasAudio");
+    QTest::addColumn<bool>("apart");
+    const QString tail
+        = QStringLiteral("-vf scale=320:240 -vcodec libx264 -ab 128k -acodec libfaac /o.mp4");
+    QTest::newRow("title with sound")
+        << QStringLiteral("-pgc 0 -audio_track 0 -subtitle -1 -i /d/VTS_01_0.IFO ") + tail << true
+        << true;
+    QTest::newRow("title without a track")
+        << QStringLiteral("-pgc 0 -audio_track -1 -subtitle -1 -i /d/VTS_01_0.IFO ") + tail << true
+        << false;
+    QTest::newRow("file with sound") << QStringLiteral("-i /a.mkv ") + tail << true << true;
+    QTest::newRow("file without sound") << QStringLiteral("-i /a.mkv ") + tail << false << false;
+    QTest::newRow("share of the processor")
+        << QStringLiteral("-cpu_percent 50 -i /a.mkv ") + tail << true << false;
+    QTest::newRow("two inputs") << QStringLiteral("-i /a.mkv -si -i /b.mkv ") + tail << true
+                                << false;
+    QTest::newRow("no picture") << QStringLiteral("-i /a.mkv -vn -ab 128k -acodec mp3 /o.mp3")
+                                << true << false;
+    QTest::newRow("no sound") << QStringLiteral("-i /a.mkv -an -vcodec mpeg4 /o.mp4") << true
+                              << false;
+    QTest::newRow("PCM is quick anyway")
+        << QStringLiteral("-i /a.mkv -vcodec dvvideo -acodec pcm_s16le /o.dv") << true << false;
+    QTest::newRow("WMA loses its block size in NUT")
+        << QStringLiteral("-i /a.mkv -vcodec wmv2 -acodec wma7x /o.wmv") << true << false;
+}
+
+void TestEncoderJob::soundApart()
+{
+    QFETCH(QString, list);
+    QFETCH(bool, hasAudio);
+    QString error;
+    const auto job = EncoderJob::parse(words(list), &error);
+    QVERIFY2(job, qPrintable(error));
+    QList<InputLayout> layouts;
+    for (int i = 0; i < job->inputs.size(); ++i) {
+        InputLayout layout;
+        layout.hasAudio = hasAudio;
+        layouts << layout;
+    }
+    QTEST(job->soundApart(layouts), "apart");
+}
+
+void TestEncoderJob::soundApartLists()
+{
+    const auto job = EncoderJob::parse(
+        words(QStringLiteral("-y -ss 10 -t 5 -pgc 0 -audio_track 1 -subtitle -1 -i /d/VTS_01_0.IFO "
+                             "-vf scale=480:320 -b:v 1000000 -vcodec libx264 -threads 2 -ab 128k "
+                             "-ac 2 -ar 44100 -acodec libfaac -vol 512 /o/out.mp4")),
+        nullptr);
+    QVERIFY(job);
+    InputLayout layout;
+    layout.audioSpecifier = QStringLiteral("i:0x81");
+    const QString sound
+        = job->soundArguments(QStringLiteral("pipe:3"), layout).join(QLatin1Char(' '));
+    // All of the title's sound from time zero, encoded, as NUT; no picture, no cut.
+    for (const char *part :
+         {"-f mpeg -i pipe:3 -map 0:i:0x81 -vn -sn -dn", "aresample=async=1:first_pts=0",
+          "volume=2", "-b:a 128k", "-ac 2", "-ar 44100", "-c:a aac", "-f nut pipe:1"})
+        QVERIFY2(sound.contains(QLatin1String(part)),
+                 qPrintable(sound + QLatin1String(" / ") + QLatin1String(part)));
+    for (const char *part : {"-ss", "-t ", "scale", "-c:v", "out.mp4"})
+        QVERIFY2(!sound.contains(QLatin1String(part)),
+                 qPrintable(sound + QLatin1String(" / ") + QLatin1String(part)));
+
+    const QString file
+        = job->ffmpegArguments({QStringLiteral("pipe:3")}, {layout}, QStringLiteral("pipe:4"))
+              .join(QLatin1Char(' '));
+    // The picture as before, the sound copied from the other ffmpeg, both cut alike.
+    for (const char *part : {"-i pipe:3 -f nut -i pipe:4", "-map 0:v:0? -map 1:a:0", "-ss 10",
+                             "-t 5", "-c:v libx264", "-c:a copy /o/out.mp4"})
+        QVERIFY2(file.contains(QLatin1String(part)),
+                 qPrintable(file + QLatin1String(" / ") + QLatin1String(part)));
+    for (const char *part : {"-b:a", "-ar", "-af", "0:i:0x81"})
+        QVERIFY2(!file.contains(QLatin1String(part)),
+                 qPrintable(file + QLatin1String(" / ") + QLatin1String(part)));
 }
 
 void TestEncoderJob::badLists_data()
@@ -436,6 +542,69 @@ void TestEncoderJob::fullDiskRemovesTheUnfinishedFile()
     QVERIFY2(code != 0, log.constData());
     QVERIFY2(log.contains("could not be written completely"), log.constData());
     QVERIFY2(!log.contains("LEFT"), log.constData());
+}
+
+void TestEncoderJob::soundApartKeepsTheSync()
+{
+    // Sound that begins a second after the picture, and a tone from 2.5 s on.
+    const QString source = dir.filePath(QStringLiteral("late-sound.mkv"));
+    QCOMPARE(runTool(QStringLiteral("ffmpeg"),
+                     words(QStringLiteral("-v error -y -f lavfi -i testsrc2=s=320x240:r=25:d=4 "
+                                          "-itsoffset 1 -f lavfi -i "
+                                          "aevalsrc=sin(2*PI*440*t)*(1+sgn(t-1.5))/2:d=3 "
+                                          "-c:v mpeg4 -c:a mp2 %1")
+                               .arg(source))),
+             0);
+    const QString out = dir.filePath(QStringLiteral("late-sound.mp4"));
+    QByteArray log;
+    QCOMPARE(encode(words(QStringLiteral("-y -i %1 -vf scale=320:240 -vcodec libx264 -ab 128k "
+                                         "-ac 2 -ar 44100 -acodec libfaac %2")
+                              .arg(source, out)),
+                    &log),
+             0);
+    // Read from the file's start, the tone sets in where it did in the source.
+    QByteArray silence;
+    QCOMPARE(
+        runTool(QStringLiteral("ffmpeg"),
+                words(QStringLiteral("-i %1 -map 0:a -af silencedetect=n=-40dB:d=0.3 -f null -")
+                          .arg(out)),
+                &silence),
+        0);
+    const QRegularExpression end(QStringLiteral("silence_end: ([0-9.]+)"));
+    const auto match = end.match(QString::fromUtf8(silence));
+    QVERIFY2(match.hasMatch(), silence.constData());
+    QVERIFY2(qAbs(match.captured(1).toDouble() - 2.5) < 0.1, silence.constData());
+    QVERIFY(
+        qAbs(probeDuration(out, QStringLiteral("a:0")) - probeDuration(out, QStringLiteral("v:0")))
+        < 0.15);
+}
+
+void TestEncoderJob::failedSoundFailsTheFile()
+{
+    // An ffmpeg that can't encode sound, but writes pictures.
+    const QString wrapper = dir.filePath(QStringLiteral("no-sound-ffmpeg"));
+    QFile script(wrapper);
+    QVERIFY(script.open(QIODevice::WriteOnly));
+    script.write("#!/bin/sh\n"
+                 "case \"$*\" in *'-f nut pipe:1'*) echo 'sound encoder gone' >&2; exit 1;; esac\n"
+                 "exec ffmpeg \"$@\"\n");
+    script.close();
+    script.setPermissions(script.permissions() | QFileDevice::ExeOwner);
+    const QString out = dir.filePath(QStringLiteral("no-sound.mp4"));
+    QProcess encoder;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("KESTROVE_FFMPEG"), wrapper);
+    encoder.setProcessEnvironment(environment);
+    encoder.setProcessChannelMode(QProcess::MergedChannels);
+    encoder.start(QCoreApplication::applicationDirPath() + QStringLiteral("/kestrove-encoder"),
+                  words(QStringLiteral("-y -i %1 -vf scale=320:240 -vcodec libx264 -ab 128k "
+                                       "-acodec libfaac %2")
+                            .arg(fixture(fixtures, "clip.mp4"), out)));
+    QVERIFY(encoder.waitForFinished(60000));
+    const QByteArray log = encoder.readAll();
+    QVERIFY2(encoder.exitCode() != 0, log.constData());
+    QVERIFY2(log.contains("sound encoder gone"), log.constData());
+    QVERIFY2(!QFile::exists(out), log.constData());
 }
 
 void TestEncoderJob::processorShareIsHeld()

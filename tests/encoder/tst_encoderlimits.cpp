@@ -139,9 +139,8 @@ void TestEncoderLimits::mp2BitRates()
             context->bit_rate = kbits * 1000;
             const int opened = avcodec_open2(context, codec, nullptr);
             avcodec_free_context(&context);
-            QVERIFY2(opened == 0, qPrintable(QStringLiteral("%1 kbit/s at %2 Hz")
-                                                 .arg(kbits)
-                                                 .arg(sampleRate)));
+            QVERIFY2(opened == 0,
+                     qPrintable(QStringLiteral("%1 kbit/s at %2 Hz").arg(kbits).arg(sampleRate)));
         }
     }
     QVERIFY(EncoderLimits::audioBitRates(QStringLiteral("aac"), 8000).isEmpty());
