@@ -17,25 +17,42 @@ timed() { local t0 t1; t0=$(now); "$@" > /dev/null 2>&1; t1=$(now); echo "$t1 - 
 # Processor seconds (user + system) of a command and its children: steadier than wall time on a busy machine.
 cputime() { /usr/bin/time -f '%U %S' "$@" 2>&1 >/dev/null | tail -1 | awk '{print $1 + $2}'; }
 
-echo "== Encoder front overhead: 20 s of 640x480 to MPEG-4 + AAC, $runs runs each"
 ffmpeg -v error -f lavfi -i testsrc2=s=640x480:r=25:d=20 -f lavfi -i sine=f=440:d=20 \
     -c:v mpeg4 -q:v 3 -c:a mp2 -shortest source.mkv
-front=(-y -ss 0 -i source.mkv -vf scale=640:480 -b:v 1200000 -r 25 -vcodec mpeg4 -threads 2 -aspect 1.33333
-       -ab 128k -ac 2 -ar 44100 -acodec libfaac out-front.mp4)
-stock=(-nostdin -y -i source.mkv -vf scale=640:480 -map 0:v:0? -map 0:a:0? -b:v 1200000 -r 25 -c:v mpeg4
-       -threads 2 -aspect 1.33333 -b:a 128k -ac 2 -ar 44100 -c:a aac out-stock.mp4)
-for i in $(seq "$runs"); do
-    timed ffmpeg "${stock[@]}" >> stock.txt
-    timed "$encoder" "${front[@]}" >> front.txt
-    cputime ffmpeg "${stock[@]}" >> stock-cpu.txt
-    cputime "$encoder" "${front[@]}" >> front-cpu.txt
-done
-s=$(median < stock.txt); f=$(median < front.txt)
-printf 'wall: stock ffmpeg median %.3f s, kestrove-encoder median %.3f s, overhead %+.2f%%\n' \
-    "$s" "$f" "$(echo "($f - $s) / $s * 100" | bc -l)"
-s=$(median < stock-cpu.txt); f=$(median < front-cpu.txt)
-printf 'processor: stock ffmpeg median %.3f s, kestrove-encoder median %.3f s, overhead %+.2f%%\n' \
-    "$s" "$f" "$(echo "($f - $s) / $s * 100" | bc -l)"
+# compare NAME FRONT-ARGS... -- STOCK-ARGS...: medians of wall and processor time.
+compare() {
+    local name=$1; shift
+    local front=() stock=()
+    while [ "$1" != -- ]; do front+=("$1"); shift; done; shift
+    stock=("$@")
+    rm -f stock.txt front.txt stock-cpu.txt front-cpu.txt
+    for i in $(seq "$runs"); do
+        timed ffmpeg "${stock[@]}" >> stock.txt
+        timed "$encoder" "${front[@]}" >> front.txt
+        cputime ffmpeg "${stock[@]}" >> stock-cpu.txt
+        cputime "$encoder" "${front[@]}" >> front-cpu.txt
+    done
+    local s f
+    s=$(median < stock.txt); f=$(median < front.txt)
+    printf '%s, wall: stock ffmpeg median %.3f s, kestrove-encoder median %.3f s, overhead %+.2f%%\n' \
+        "$name" "$s" "$f" "$(echo "($f - $s) / $s * 100" | bc -l)"
+    s=$(median < stock-cpu.txt); f=$(median < front-cpu.txt)
+    printf '%s, processor: stock ffmpeg median %.3f s, kestrove-encoder median %.3f s, overhead %+.2f%%\n' \
+        "$name" "$s" "$f" "$(echo "($f - $s) / $s * 100" | bc -l)"
+}
+echo "== Encoder front against stock ffmpeg: 20 s of 640x480 to MPEG-4 (+ AAC), $runs runs each"
+# Picture alone: the front runs one ffmpeg with the same list, so this is its own cost.
+compare "picture only" \
+    -y -ss 0 -i source.mkv -vf scale=640:480 -b:v 1200000 -r 25 -vcodec mpeg4 -threads 2 -aspect 1.33333 \
+    -an out-front.mp4 -- \
+    -nostdin -y -i source.mkv -vf scale=640:480 -map 0:v:0? -b:v 1200000 -r 25 -c:v mpeg4 -threads 2 \
+    -aspect 1.33333 -an out-stock.mp4
+# With sound the front encodes it in a second ffmpeg beside the picture's.
+compare "picture and sound" \
+    -y -ss 0 -i source.mkv -vf scale=640:480 -b:v 1200000 -r 25 -vcodec mpeg4 -threads 2 -aspect 1.33333 \
+    -ab 128k -ac 2 -ar 44100 -acodec libfaac out-front.mp4 -- \
+    -nostdin -y -i source.mkv -vf scale=640:480 -map 0:v:0? -map 0:a:0? -b:v 1200000 -r 25 -c:v mpeg4 \
+    -threads 2 -aspect 1.33333 -b:a 128k -ac 2 -ar 44100 -c:a aac out-stock.mp4
 
 echo "== One DVD title (60 s, PAL) to 480x320 H.264 1000 kbit/s + AAC 128 kbit/s"
 ffmpeg -v error -f lavfi -i testsrc2=s=720x576:r=25:d=60 -f lavfi -i sine=f=440:r=48000:d=60 \
@@ -50,8 +67,11 @@ ours=(-y -ss 0 -pgc 0 -audio_track 0 -subtitle -1 -i "$ifo" -vf scale=480:320 -b
       -acodec libfaac ours.mp4)
 hb=(-i dvd -t 1 -o hb.mp4 -e x264 --encoder-preset superfast --encoder-profile baseline -b 1000 -w 480 -l 320
     --custom-anamorphic --pixel-aspect 1:1 -r 25 --cfr -E av_aac -B 128 -R 44.1 -6 stereo)
-ours_t=$(timed "$encoder" "${ours[@]}")
-hb_t=$(timed HandBrakeCLI "${hb[@]}")
+for i in $(seq "$runs"); do
+    timed "$encoder" "${ours[@]}" >> ours.txt
+    timed HandBrakeCLI "${hb[@]}" >> hb.txt
+done
+ours_t=$(median < ours.txt); hb_t=$(median < hb.txt)
 ssim() {
     ffmpeg -v error -i "$1" -i title.mpg -lavfi "[1:v]scale=480:320,setsar=1[ref];[0:v]setsar=1[out];[out][ref]ssim" \
         -f null - 2>&1 | tail -1
@@ -60,4 +80,4 @@ ssim() {
 }
 printf 'kestrove-encoder: %.2f s, %s bytes, SSIM %s\n' "$ours_t" "$(stat -c %s ours.mp4)" "$(ssim ours.mp4 | tail -1)"
 printf 'HandBrakeCLI:     %.2f s, %s bytes, SSIM %s\n' "$hb_t" "$(stat -c %s hb.mp4)" "$(ssim hb.mp4 | tail -1)"
-printf 'wall time ratio (ours / HandBrake): %.2f\n' "$(echo "$ours_t / $hb_t" | bc -l)"
+printf 'medians of %s runs; wall time ratio (ours / HandBrake): %.2f\n' "$runs" "$(echo "$ours_t / $hb_t" | bc -l)"
