@@ -18,11 +18,15 @@
 namespace {
 
 pid_t childPid = -1;
+volatile sig_atomic_t companionPid = -1;
 
 void forwardSignal(int signalNumber)
 {
     if (childPid > 0)
         ::kill(childPid, signalNumber);
+    // The sound's ffmpeg too: the picture's may be waiting for its sound.
+    if (companionPid > 0)
+        ::kill(pid_t(companionPid), signalNumber);
 }
 
 void reportStartFailure(const char *program, int error)
@@ -163,6 +167,11 @@ int waitForChild(pid_t pid, int cpuPercent, ErrorWatch &errors, int errorFd)
 }
 
 } // namespace
+
+void FFmpegRunner::setCompanion(pid_t pid)
+{
+    companionPid = pid;
+}
 
 QString FFmpegRunner::ffmpegProgram()
 {

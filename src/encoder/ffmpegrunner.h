@@ -35,6 +35,9 @@ public:
     static pid_t spawn(const QString &program, const QStringList &arguments,
                        const std::vector<int> &childFds, int outputFd, int errorFd);
 
+    // Another child that our signals reach with run()'s; -1 for none.
+    static void setCompanion(pid_t pid);
+
     // Runs the program with the arguments and waits for it.
     static Result run(const QString &program, const QStringList &arguments, const Options &options);
 };

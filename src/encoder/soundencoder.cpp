@@ -138,6 +138,7 @@ bool SoundEncoder::start(const QString &program, const QStringList &arguments,
         closeFd(consumerWrite);
         return false;
     }
+    FFmpegRunner::setCompanion(pid);
     worker = std::thread([this] { relay(); });
     return true;
 }
@@ -158,6 +159,7 @@ bool SoundEncoder::finish(bool stop)
     int status = 0;
     while (::waitpid(pid, &status, 0) < 0 && errno == EINTR) {
     }
+    FFmpegRunner::setCompanion(-1);
     pid = -1;
     return consumerClosed || (WIFEXITED(status) && WEXITSTATUS(status) == 0);
 }

@@ -12,6 +12,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <csignal>
 #include <sys/resource.h>
 #include <unistd.h>
 
@@ -70,6 +71,7 @@ private slots:
     void processorShareIsHeld();
     void soundApartKeepsTheSync();
     void failedSoundFailsTheFile();
+    void terminationEndsBothEncoders();
 
 private:
     int encode(const QStringList &arguments, QByteArray *log = nullptr);
@@ -605,6 +607,45 @@ void TestEncoderJob::failedSoundFailsTheFile()
     QVERIFY2(encoder.exitCode() != 0, log.constData());
     QVERIFY2(log.contains("sound encoder gone"), log.constData());
     QVERIFY2(!QFile::exists(out), log.constData());
+}
+
+void TestEncoderJob::terminationEndsBothEncoders()
+{
+    const QString source = dir.filePath(QStringLiteral("long.mkv"));
+    QCOMPARE(runTool(QStringLiteral("ffmpeg"),
+                     words(QStringLiteral("-v error -y -f lavfi -i testsrc2=s=320x240:r=25:d=30 "
+                                          "-f lavfi -i sine=d=30 -c:v mpeg4 -c:a mp2 %1")
+                               .arg(source))),
+             0);
+    const QString out = dir.filePath(QStringLiteral("terminated.mp4"));
+    QProcess encoder;
+    encoder.setProcessChannelMode(QProcess::MergedChannels);
+    encoder.start(QCoreApplication::applicationDirPath() + QStringLiteral("/kestrove-encoder"),
+                  words(QStringLiteral("-y -i %1 -vf scale=1280:960 -vcodec libx264 -preset slow "
+                                       "-ab 128k -acodec libfaac %2")
+                            .arg(source, out)));
+    QVERIFY(encoder.waitForStarted());
+    const pid_t front = pid_t(encoder.processId());
+    auto children = [front] {
+        QFile file(QStringLiteral("/proc/%1/task/%1/children").arg(front));
+        return file.open(QIODevice::ReadOnly)
+                   ? QString::fromLatin1(file.readAll()).split(QLatin1Char(' '), Qt::SkipEmptyParts)
+                   : QStringList();
+    };
+    // Picture and sound each in an ffmpeg of its own.
+    QTRY_COMPARE_WITH_TIMEOUT(children().size(), 2, 20000);
+    const QStringList encoders = children();
+    QTest::qWait(500);
+    ::kill(front, SIGTERM);
+    QVERIFY(encoder.waitForFinished(15000));
+    QVERIFY(encoder.exitStatus() != QProcess::NormalExit || encoder.exitCode() != 0);
+    auto gone = [](const QString &pid) {
+        QFile stat(QStringLiteral("/proc/%1/stat").arg(pid));
+        return !stat.open(QIODevice::ReadOnly) || stat.readAll().contains(") Z ");
+    };
+    for (const QString &pid : encoders)
+        QTRY_VERIFY2_WITH_TIMEOUT(gone(pid), qPrintable(pid), 5000);
+    QVERIFY(!QFile::exists(out));
 }
 
 void TestEncoderJob::processorShareIsHeld()
