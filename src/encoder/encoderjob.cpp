@@ -406,6 +406,11 @@ QString EncoderJob::audioSpecifier(int i, const InputLayout &layout) const
     return QStringLiteral("a:%1").arg(position);
 }
 
+QString EncoderJob::soundTimeline()
+{
+    return QStringLiteral("aresample=async=1:first_pts=0");
+}
+
 QStringList EncoderJob::soundArguments(const QString &source, const InputLayout &layout) const
 {
     // Quiet: the status lines that report progress come from the other ffmpeg.
@@ -417,7 +422,7 @@ QStringList EncoderJob::soundArguments(const QString &source, const InputLayout 
          << QStringLiteral("-sn") << QStringLiteral("-dn");
     // Time zero is the input's start, as for the picture; a gap becomes silence.
     QStringList filters = output.audioFilters;
-    filters << QStringLiteral("aresample=async=1:first_pts=0");
+    filters << soundTimeline();
     args << QStringLiteral("-af") << filters.join(QLatin1Char(','));
     for (int i = 0; i < output.args.size(); ++i) {
         if (isSoundOption(output.args[i]) || output.args[i] == QLatin1String("-strict"))
@@ -488,8 +493,13 @@ QStringList EncoderJob::ffmpegArguments(const QStringList &sources,
         if (audio && soundReady) {
             args << QStringLiteral("-map") << QStringLiteral("1:a:0");
         } else if (audio && (!in.isTitle() || in.audioTrack >= 0)) {
-            if (!audioFilters.isEmpty())
-                args << QStringLiteral("-af") << audioFilters;
+            // A title's sound has gaps between its cells: fill them, or the
+            // timestamps run backwards in the output.
+            const QString filters = in.isTitle()
+                                        ? joinFilters({audioFilters, soundTimeline()})
+                                        : audioFilters;
+            if (!filters.isEmpty())
+                args << QStringLiteral("-af") << filters;
             args << QStringLiteral("-map") << QStringLiteral("0:%1?").arg(audioSpec(0));
         }
     } else {

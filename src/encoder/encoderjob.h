@@ -79,5 +79,7 @@ private:
     QStringList inputArguments(int i, const QString &source) const;
     QString audioSpecifier(int i, const InputLayout &layout) const;
     static bool isSoundOption(const QString &option);
+    // Sound laid on the input's time line from zero, gaps filled with silence.
+    static QString soundTimeline();
     void setOutputOption(const char *name, const QString &value);
 };

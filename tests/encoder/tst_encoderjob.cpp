@@ -120,7 +120,8 @@ void TestEncoderJob::titleListBecomesPipedInput()
     QCOMPARE(job->ffmpegArguments({QStringLiteral("pipe:3")}, {layout}),
              words(QStringLiteral(
                  "-nostdin -y -probesize 50M -f mpeg -i pipe:3 -vf scale=640:360,pad=640:480:0:60 "
-                 "-map 0:v:0? -map 0:i:0x80? -b:v 1200000 -r 29.97 -c:v mpeg4 -threads 4 "
+                 "-map 0:v:0? -af aresample=async=1:first_pts=0 -map 0:i:0x80? -b:v 1200000 "
+                 "-r 29.97 -c:v mpeg4 -threads 4 "
                  "-aspect 1.33333 -b:a 192k -ac 2 -ar 44100 -c:a aac /v/Title_1.mp4")));
 }
 
@@ -252,6 +253,9 @@ void TestEncoderJob::codecsFittedToTheOutput_data()
                                        << "-ar 22050 -c:a libvorbis -q:a 6"
                                        << "-b:a"
                                        << "";
+    QTest::newRow("a title's sound on its time line")
+        << "-pgc 0 -audio_track 0 -subtitle -1 -i /d/VTS_01_0.IFO -vcodec wmv2 -acodec wma7x /o.wmv"
+        << "-af aresample=async=1:first_pts=0 -map 0:a:0?" << "" << "";
     QTest::newRow("picture series") << "-i /a.mkv -vf scale=64:48 -r 1/5 /p/shot%03d.gif"
                                     << "-c:v gif -f image2 /p/shot%03d.gif"
                                     << "0:a"
