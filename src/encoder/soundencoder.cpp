@@ -1,5 +1,6 @@
 #include "soundencoder.h"
 
+#include "bytequeue.h"
 #include "ffmpegrunner.h"
 
 #include <cerrno>
@@ -23,87 +24,6 @@ void setNonBlocking(int fd)
 {
     ::fcntl(fd, F_SETFL, ::fcntl(fd, F_GETFL) | O_NONBLOCK);
 }
-
-// Bytes in order of arrival: in memory up to a limit, then in an unnamed
-// temporary file until the file has been read out again.
-class Queue
-{
-public:
-    ~Queue()
-    {
-        if (spill)
-            std::fclose(spill);
-    }
-
-    bool empty() const { return offset == memory.size() && readAt == writeAt; }
-
-    void append(const char *data, qint64 size)
-    {
-        if (writeAt == readAt && memory.size() - offset < memoryLimit) {
-            memory.append(data, int(size));
-            return;
-        }
-        if (!spill)
-            spill = std::tmpfile();
-        if (!spill) { // no room for a file: keep it in memory after all
-            memory.append(data, int(size));
-            return;
-        }
-        while (size > 0) {
-            const ssize_t n = ::pwrite(fileno(spill), data, size_t(size), writeAt);
-            if (n < 0 && errno == EINTR)
-                continue;
-            if (n <= 0) {
-                memory.append(data, int(size));
-                return;
-            }
-            writeAt += n;
-            data += n;
-            size -= n;
-        }
-    }
-
-    // The next bytes to send; empty when there are none.
-    QByteArray next()
-    {
-        if (offset == memory.size() && readAt < writeAt) {
-            memory.resize(int(qMin<qint64>(writeAt - readAt, 1 << 20)));
-            const ssize_t n = ::pread(fileno(spill), memory.data(), size_t(memory.size()), readAt);
-            memory.resize(int(qMax<ssize_t>(n, 0)));
-            offset = 0;
-            readAt += memory.size();
-            if (readAt == writeAt) {
-                readAt = writeAt = 0;
-                [[maybe_unused]] int r = ::ftruncate(fileno(spill), 0);
-            }
-        }
-        return QByteArray::fromRawData(memory.constData() + offset, int(memory.size() - offset));
-    }
-
-    void consume(qint64 size)
-    {
-        offset += int(size);
-        if (offset == memory.size()) {
-            memory.clear();
-            offset = 0;
-        }
-    }
-
-    void clear()
-    {
-        memory.clear();
-        offset = 0;
-        readAt = writeAt = 0;
-    }
-
-private:
-    static constexpr int memoryLimit = 8 << 20;
-    QByteArray memory;
-    int offset = 0;
-    std::FILE *spill = nullptr;
-    qint64 readAt = 0;
-    qint64 writeAt = 0;
-};
 
 } // namespace
 
@@ -169,7 +89,7 @@ void SoundEncoder::relay()
     setNonBlocking(soundOut);
     setNonBlocking(soundErrors);
     setNonBlocking(consumerWrite);
-    Queue queue;
+    ByteQueue queue(8 << 20);
     char buffer[64 * 1024];
     while (soundOut >= 0 || soundErrors >= 0 || (consumerWrite >= 0 && !queue.empty())) {
         pollfd fds[3];

@@ -1,5 +1,6 @@
 #include "titlefeeder.h"
 
+#include "bytequeue.h"
 #include "dvdtitlereader.h"
 
 #include <QByteArray>
@@ -94,13 +95,7 @@ void TitleFeeder::copy()
     // the picture's ffmpeg may wait for the sound, whose ffmpeg reads the
     // same title.
     constexpr qint64 lagLimit = 64 << 20;
-    struct Lag
-    {
-        QByteArray bytes;
-        qint64 offset = 0;
-        qint64 size() const { return bytes.size() - offset; }
-    };
-    std::vector<Lag> lags(pipes.size());
+    std::vector<ByteQueue> lags(pipes.size());
     for (Pipe &pipe : pipes)
         ::fcntl(pipe.write, F_SETFL, ::fcntl(pipe.write, F_GETFL) | O_NONBLOCK);
     QByteArray buffer(64 * 2048, Qt::Uninitialized);
@@ -126,7 +121,7 @@ void TitleFeeder::copy()
             } else {
                 for (size_t k = 0; k < pipes.size(); ++k) {
                     if (pipes[k].write >= 0)
-                        lags[k].bytes.append(buffer.constData(), int(got));
+                        lags[k].append(buffer.constData(), got);
                 }
             }
         }
@@ -134,12 +129,12 @@ void TitleFeeder::copy()
         std::vector<pollfd> waiting;
         for (size_t k = 0; k < pipes.size(); ++k) {
             Pipe &pipe = pipes[k];
-            Lag &lag = lags[k];
-            while (pipe.write >= 0 && lag.size() > 0) {
-                const ssize_t written
-                    = ::write(pipe.write, lag.bytes.constData() + lag.offset, size_t(lag.size()));
+            ByteQueue &lag = lags[k];
+            while (pipe.write >= 0 && !lag.empty()) {
+                const QByteArray next = lag.next();
+                const ssize_t written = ::write(pipe.write, next.constData(), size_t(next.size()));
                 if (written > 0) {
-                    lag.offset += written;
+                    lag.consume(written);
                 } else if (written < 0 && errno == EAGAIN) {
                     waiting.push_back({pipe.write, POLLOUT, 0});
                     break;
@@ -147,14 +142,8 @@ void TitleFeeder::copy()
                     // This ffmpeg stopped reading: it has ended or has all it wants.
                     ::close(pipe.write);
                     pipe.write = -1;
-                    lag = Lag();
+                    lag.clear();
                 }
-            }
-            if (lag.size() == 0)
-                lag = Lag();
-            else if (lag.offset > (8 << 20)) {
-                lag.bytes.remove(0, int(lag.offset));
-                lag.offset = 0;
             }
         }
         if (!state(&hungry, &full) || (!more && waiting.empty()))
