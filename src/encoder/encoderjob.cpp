@@ -213,9 +213,7 @@ void EncoderJob::fitCodecToSize()
         return;
     const QStringList size = outputSizeOf(inputs.last().videoChain).split(QLatin1Char('x'));
     const int width = size.value(0).toInt(), height = size.value(1).toInt();
-    const QString codec = output.videoCodec.isEmpty()
-                              ? EncoderLimits::defaultVideoEncoder(outputPath, outputOption("f"))
-                              : output.videoCodec;
+    const QString codec = pictureEncoder();
     auto replaceCodec = [this](const QString &to) {
         const int at = output.args.indexOf(QStringLiteral("-c:v"));
         if (at >= 0)
@@ -225,10 +223,7 @@ void EncoderJob::fitCodecToSize()
     if (codec == QLatin1String("h263")) {
         static const QList<QSize> sizes
             = {{128, 96}, {176, 144}, {352, 288}, {704, 576}, {1408, 1152}};
-        const QString format = outputOption("f");
-        const bool mp4 = (format.isEmpty() ? QFileInfo(outputPath).suffix().toLower() : format)
-                         == QLatin1String("mp4");
-        if (mp4) {
+        if (container() == QLatin1String("mp4")) {
             // The MP4 muxer has no tag for H.263; 3GP and QuickTime have.
             output.notes << QStringLiteral("MP4 files carry no H.263: encoded as MPEG-4 part 2");
             replaceCodec(QStringLiteral("mpeg4"));
@@ -260,14 +255,10 @@ void EncoderJob::fitCodecToSize()
 void EncoderJob::fitToEncoders()
 {
     fitCodecToSize();
-    const QString format = outputOption("f");
-    const bool dv = (format.isEmpty() ? QFileInfo(outputPath).suffix().toLower() : format)
-                    == QLatin1String("dv");
+    const bool dv = container() == QLatin1String("dv");
 
     // Frame rate: MPEG-1/2 streams know a handful; DV one for each line count.
-    const QString video = output.videoCodec.isEmpty()
-                              ? EncoderLimits::defaultVideoEncoder(outputPath, format)
-                              : output.videoCodec;
+    const QString video = pictureEncoder();
     const QString rate = outputOption("r");
     const QStringList fraction = rate.split(QLatin1Char('/'));
     const double wanted = fraction.size() == 2 && fraction[1].toDouble() > 0
@@ -304,10 +295,8 @@ void EncoderJob::fitToEncoders()
 
     if (!wantsAudio())
         return;
-    const QString audio = output.audioCodec.isEmpty()
-                              ? EncoderLimits::defaultAudioEncoder(outputPath, format)
-                              : output.audioCodec;
-    const int sampleRate = outputOption("ar").toInt();
+    const QString audio = soundEncoder();
+    int sampleRate = outputOption("ar").toInt();
     QList<int> rates = EncoderLimits::sampleRates(audio);
     if (dv)
         rates = {48000}; // the DV muxer writes no other
@@ -318,6 +307,7 @@ void EncoderJob::fitToEncoders()
                             .arg(sampleRate)
                             .arg(fitted);
         setOutputOption("ar", QString::number(fitted));
+        sampleRate = fitted;
     }
     const int channels = outputOption("ac").toInt();
     const int most = dv ? 2 : EncoderLimits::maxChannels(audio);
@@ -331,15 +321,14 @@ void EncoderJob::fitToEncoders()
     const QString bitRate = outputOption("b:a");
     const int kbits
         = bitRate.endsWith(QLatin1Char('k')) ? bitRate.chopped(1).toInt() : bitRate.toInt() / 1000;
-    const int finalRate = outputOption("ar").toInt();
     const QList<int> bitRates
-        = EncoderLimits::audioBitRates(audio, finalRate > 0 ? finalRate : 44100);
+        = EncoderLimits::audioBitRates(audio, sampleRate > 0 ? sampleRate : 44100);
     if (kbits > 0 && !bitRates.isEmpty() && !bitRates.contains(kbits)) {
         const int fitted = EncoderLimits::nearest(bitRates, kbits);
         output.notes << QStringLiteral("%1 has no %2 kbit/s at %3 Hz: %4 kbit/s instead")
                             .arg(audio)
                             .arg(kbits)
-                            .arg(finalRate)
+                            .arg(sampleRate)
                             .arg(fitted);
         setOutputOption("b:a", QString::number(fitted) + QLatin1Char('k'));
     }
@@ -356,6 +345,18 @@ void EncoderJob::fitToEncoders()
         output.args.removeAt(at);
         output.args << QStringLiteral("-q:a") << QString::number(quality);
     }
+}
+
+QString EncoderJob::container() const
+{
+    return EncoderLimits::containerName(outputPath, outputOption("f"));
+}
+
+QString EncoderJob::pictureEncoder() const
+{
+    return output.videoCodec.isEmpty()
+               ? EncoderLimits::defaultVideoEncoder(outputPath, outputOption("f"))
+               : output.videoCodec;
 }
 
 QString EncoderJob::soundEncoder() const
@@ -495,9 +496,8 @@ QStringList EncoderJob::ffmpegArguments(const QStringList &sources,
         } else if (audio && (!in.isTitle() || in.audioTrack >= 0)) {
             // A title's sound has gaps between its cells: fill them, or the
             // timestamps run backwards in the output.
-            const QString filters = in.isTitle()
-                                        ? joinFilters({audioFilters, soundTimeline()})
-                                        : audioFilters;
+            const QString filters
+                = in.isTitle() ? joinFilters({audioFilters, soundTimeline()}) : audioFilters;
             if (!filters.isEmpty())
                 args << QStringLiteral("-af") << filters;
             args << QStringLiteral("-map") << QStringLiteral("0:%1?").arg(audioSpec(0));

@@ -75,6 +75,9 @@ private:
     // Stock encoders that take only some picture sizes.
     void fitCodecToSize();
     QString outputOption(const char *name) const;
+    // The container and the encoders that will write the output.
+    QString container() const;
+    QString pictureEncoder() const;
     QString soundEncoder() const;
     QStringList inputArguments(int i, const QString &source) const;
     QString audioSpecifier(int i, const InputLayout &layout) const;

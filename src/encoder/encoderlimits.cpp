@@ -76,7 +76,7 @@ const ContainerRow containers[] = {
 
 const ContainerRow *containerOf(const QString &outputPath, const QString &format)
 {
-    const QString name = format.isEmpty() ? QFileInfo(outputPath).suffix().toLower() : format;
+    const QString name = containerName(outputPath, format);
     for (const ContainerRow &row : containers) {
         if (name == QLatin1String(row.name))
             return &row;
@@ -85,6 +85,11 @@ const ContainerRow *containerOf(const QString &outputPath, const QString &format
 }
 
 } // namespace
+
+QString containerName(const QString &outputPath, const QString &format)
+{
+    return format.isEmpty() ? QFileInfo(outputPath).suffix().toLower() : format;
+}
 
 QList<int> sampleRates(const QString &encoder)
 {

@@ -25,6 +25,10 @@ QList<int> audioBitRates(const QString &encoder, int sampleRate);
 // numerator and denominator; empty when it takes any.
 QList<QPair<int, int>> frameRates(const QString &encoder);
 
+// The container the output is written in: its `-f` format, else its
+// extension.
+QString containerName(const QString &outputPath, const QString &format);
+
 // The encoders the container picks when none is named, by the output's
 // `-f` format or else its extension. Empty when no fitting is known.
 QString defaultAudioEncoder(const QString &outputPath, const QString &format);
