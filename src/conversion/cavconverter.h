@@ -5,6 +5,8 @@
 #include <QObject>
 #include <QStringList>
 
+class QTimer;
+
 // Runs one encoder process for one task: reports output time in whole
 // seconds, keeps an optional log, pauses, stops and reports the end.
 class CAVConverter : public QObject
@@ -21,7 +23,10 @@ public:
     void setCommand(const QStringList &arguments, int taskId);
     void start();
     void setPaused(bool paused);
+    // Asks the encoder to end, so that it removes what it wrote; a child
+    // still there after the grace period is killed with its whole group.
     void stop();
+    static constexpr int stopGraceMs = 3000;
 
     int id() const { return taskId; }
     int state() const { return runState; }
@@ -37,6 +42,12 @@ public:
     // output, or -1 when the chunk has none.
     static double parseTime(const QByteArray &chunk);
 
+    // Why the last run failed, as the encoder said it: its own error lines,
+    // else the last lines of ffmpeg's that are not status lines. Empty after
+    // a success.
+    QString failureReason() const { return reason; }
+    static QString reasonFromOutput(const QByteArray &tail);
+
 signals:
     void convertFinished(int nTaskId, bool bSuccess);
     void progressUpdated(int nTaskId, double progress);
@@ -48,6 +59,7 @@ public slots:
 private:
     void onProcessError(QProcess::ProcessError error);
     void appendLog(const QByteArray &bytes) const;
+    void keepTail(const QByteArray &chunk);
 
     QStringList arguments;
     int taskId = -1;
@@ -56,4 +68,8 @@ private:
     double lastSeconds = 0.0;
     int runState = NoChild;
     QString programPath;
+    QByteArray tail;        // the last of the output, for the reason of a failure
+    QByteArray pendingLine; // a line not yet ended, for sanitizer reports
+    QString reason;
+    QTimer *killTimer;
 };

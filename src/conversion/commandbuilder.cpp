@@ -98,7 +98,7 @@ QString outputPath(Task &task, const QString &commonRoot)
     PathParts parts;
     parts.setFolder(folder);
     parts.setFileName(task.output.fileName);
-    if (!task.value(QStringLiteral("pcodec")).isEmpty()) {
+    if (task.isPictureSeries()) {
         // A numbered picture series: base001, base(1)001, ...
         const QString base = parts.baseName();
         parts.setBaseName(base + QStringLiteral("001"));

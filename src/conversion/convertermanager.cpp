@@ -195,10 +195,31 @@ void ConverterManager::launch(Task &task)
     }
     running.insert(task.id, converter);
 
+    task.failure.clear();
     const QStringList arguments = CommandBuilder::build(task, tasks->commonRootPath());
     converter->setCommand(arguments, task.id);
-    converter->start();
     changeState(task, Task::Running);
+    const QString reservation = reservationError(task);
+    if (!reservation.isEmpty()) {
+        task.failure = reservation;
+        // Through the queue, as any other end, after the launch has returned.
+        QMetaObject::invokeMethod(
+            this, [this, id = task.id] { on_convertFinished(id, false); }, Qt::QueuedConnection);
+        return;
+    }
+    converter->start();
+}
+
+QString ConverterManager::reservationError(const Task &task)
+{
+    // A series is named by its pattern; its pictures are not reserved.
+    if (task.isPictureSeries() || QFileInfo::exists(task.output.filePath))
+        return QString();
+    QFile file(task.output.filePath);
+    if (file.open(QIODevice::WriteOnly | QIODevice::NewOnly))
+        return QString();
+    return QStringLiteral("cannot create the output file \"%1\": %2")
+        .arg(task.output.filePath, file.errorString());
 }
 
 void ConverterManager::release(int taskId)
@@ -230,14 +251,22 @@ void ConverterManager::on_convertFinished(int nTaskId, bool bSuccess)
     if (Task *task = tasks->byId(nTaskId)) {
         task->removeWatermarkFiles();
         task->setChecked(false);
-        bool good = bSuccess;
-        if (good) {
-            // A picture series is judged by its first picture.
-            const QString first = QString(task->output.filePath)
-                                      .replace(QStringLiteral("%03d"), QStringLiteral("001"));
-            const QFileInfo output(first);
-            good = output.exists() && output.size() > 0;
-        }
+        const CAVConverter *converter = running.value(nTaskId);
+        if (!bSuccess && task->failure.isEmpty() && converter)
+            task->failure = converter->failureReason();
+        // A picture series is judged by its first picture; any other name
+        // is taken as it stands, "%03d" and all.
+        QString output = task->output.filePath;
+        if (task->isPictureSeries())
+            output.replace(QStringLiteral("%03d"), QStringLiteral("001"));
+        const QFileInfo file(output);
+        const bool good = bSuccess && file.isFile() && file.size() > 0;
+        if (bSuccess && !good)
+            task->failure = QStringLiteral("the encoder left no output in \"%1\"").arg(output);
+        // The name was reserved with an empty file; a run that wrote nothing
+        // leaves nothing behind.
+        if (!good && !task->isPictureSeries() && file.isFile() && file.size() == 0)
+            QFile::remove(output);
         changeState(*task, good ? Task::Succeed : Task::Failed);
     }
     release(nTaskId);

@@ -14,7 +14,7 @@ QxProcess::QxProcess(QObject *parent)
     });
     connect(this, &QProcess::stateChanged, this, [this](QProcess::ProcessState newState) {
         if (newState == QProcess::NotRunning)
-            suspended = false;
+            suspended = terminating = false;
     });
 }
 
@@ -24,7 +24,9 @@ QxProcess::~QxProcess()
     // receivers that are already half destroyed, this object among them.
     blockSignals(true);
     if (state() != NotRunning) {
-        killGroup();
+        // Asked to end, the encoder removes what it wrote.
+        if (!terminateGroup() || !waitForFinished(3000))
+            killGroup();
         waitForFinished(5000);
     }
 }
@@ -46,6 +48,21 @@ bool QxProcess::setSuspended(bool suspend)
     if (ok)
         suspended = suspend;
     return ok;
+}
+
+bool QxProcess::terminateGroup()
+{
+    if (terminating)
+        return true;
+    // To the leader alone: it passes the request on to its own children once,
+    // and ffmpeg takes a few requests for a hard exit without its trailer.
+    const qint64 pid = processId();
+    if (pid <= 0 || ::kill(static_cast<pid_t>(pid), SIGTERM) != 0)
+        return false;
+    terminating = true;
+    signalGroup(SIGCONT);
+    suspended = false;
+    return true;
 }
 
 void QxProcess::killGroup()

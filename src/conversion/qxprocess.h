@@ -20,9 +20,12 @@ public:
 
     // Kills the child's whole process group at once, stopped or not.
     void killGroup();
+    // Asks the whole group to end, and continues it if it stood.
+    bool terminateGroup();
 
 private:
     bool signalGroup(int signalNumber);
 
     bool suspended = false;
+    bool terminating = false;
 };

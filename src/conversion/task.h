@@ -37,6 +37,7 @@ public:
     QString name; // "Merge %1" for a merged task, else empty
     EState state = Idle;
     double progress = 0.0; // seconds of output the encoder reported
+    QString failure;       // why the last run failed; empty otherwise
     int id = 0;
     int nextChildId = 1000;
 
@@ -44,6 +45,8 @@ public:
     std::unique_ptr<Task> clone() const;
 
     QString value(const QString &key) const { return output.settings.value(key); }
+    // A numbered series of pictures ("name%03d.png") instead of one file.
+    bool isPictureSeries() const { return !value(QStringLiteral("pcodec")).isEmpty(); }
 
     int itemCount() const { return int(items.size()); }
     ChildTask *item(int index) const;

@@ -1,6 +1,7 @@
 #include "cavconverter.h"
 #include "ffmpegtools.h"
 #include "processtools.h"
+#include "sanitizerreports.h"
 #include "version.h"
 
 #include <QCoreApplication>
@@ -43,8 +44,11 @@ class TestCAVConverter : public QObject
     Q_OBJECT
 
 private slots:
+    void init() { failOnChildSanitizerReports(); }
     void parseTime_data();
     void parseTime();
+    void reasonFromOutput_data();
+    void reasonFromOutput();
     void reportsWholeSecondsUpToOutputLength();
     void pauseStopsEveryProcessAndResumes();
     void stopKillsRunningAndSuspendedEncoders_data();
@@ -84,6 +88,30 @@ void TestCAVConverter::parseTime()
     QFETCH(QByteArray, chunk);
     QFETCH(double, seconds);
     QCOMPARE(CAVConverter::parseTime(chunk), seconds);
+}
+
+void TestCAVConverter::reasonFromOutput_data()
+{
+    QTest::addColumn<QByteArray>("output");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("the front's own errors win")
+        << QByteArray("kestrove-encoder: sampling rate 8000 Hz taken for 7000 Hz\n"
+                      "[mp4 @ 0x1] Could not write header\n"
+                      "kestrove-encoder: error: the output lasts 2.0 s, but the source should "
+                      "give 4.8 s\nkestrove-encoder: removed the unfinished output \"a.mp4\"\n")
+        << "the output lasts 2.0 s, but the source should give 4.8 s";
+    QTest::newRow("else ffmpeg's last lines, without status lines")
+        << QByteArray("kestrove-encoder: a note\nline one\nline two\nframe=1 time=00:00:01.00 "
+                      "\rframe=2 time=00:00:02.00 \nline three\nline four\n")
+        << "line two; line three; line four";
+    QTest::newRow("nothing said") << QByteArray("frame=1 size=1kB time=00:00:01.00 \r") << "";
+}
+
+void TestCAVConverter::reasonFromOutput()
+{
+    QFETCH(QByteArray, output);
+    QFETCH(QString, reason);
+    QCOMPARE(CAVConverter::reasonFromOutput(output), reason);
 }
 
 void TestCAVConverter::reportsWholeSecondsUpToOutputLength()
@@ -186,9 +214,13 @@ void TestCAVConverter::stopKillsRunningAndSuspendedEncoders()
     QCOMPARE(finished.at(0).at(0).toInt(), 3);
     QCOMPARE(finished.at(0).at(1).toBool(), false);
     QCOMPARE(converter.state(), int(CAVConverter::NoChild));
-    // ffmpeg itself is gone too, not left running on its own.
+    // ffmpeg itself is gone too, not left running on its own, and with it
+    // the file it had begun, which no player could read.
     for (qint64 pid : tree)
         QTRY_VERIFY_WITH_TIMEOUT(processState(pid) == '?' || processState(pid) == 'Z', 5000);
+    QVERIFY(!QFile::exists(dir.filePath(QStringLiteral("stopped.avi"))));
+    QVERIFY2(converter.failureReason().contains(QStringLiteral("stopped")),
+             qPrintable(converter.failureReason()));
 }
 
 void TestCAVConverter::stopRightAfterStart()
@@ -235,11 +267,16 @@ void TestCAVConverter::encoderThatCannotStartFails()
     QTest::qWait(200);
     QCOMPARE(finished.count(), 1);
 
+    QVERIFY2(converter.failureReason().contains(QStringLiteral("could not be started")),
+             qPrintable(converter.failureReason()));
+
     // The converter is usable again afterwards.
     converter.setProgram(CAVConverter::defaultProgram());
+    converter.setCommand(liveEncode(dir.filePath(QStringLiteral("again.avi")), 1), 11);
     converter.start();
     QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 2, 10000);
     QCOMPARE(finished.at(1).at(1).toBool(), true);
+    QVERIFY(converter.failureReason().isEmpty());
 }
 
 void TestCAVConverter::missingFfmpegIsSaidInTheLog()

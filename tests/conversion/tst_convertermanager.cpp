@@ -1,6 +1,7 @@
 #include "convertermanager.h"
 #include "dvddisc.h"
 #include "mediafixtures.h"
+#include "sanitizerreports.h"
 #include "processtools.h"
 #include "profilelookup.h"
 #include "settings.h"
@@ -24,17 +25,20 @@ namespace {
 
 const QString profile = QStringLiteral("1,68");
 
-class AviCatalogue : public ProfileLookup
+class OneFormatCatalogue : public ProfileLookup
 {
 public:
+    explicit OneFormatCatalogue(const char *extension)
+        : extension(QString::fromLatin1(extension))
+    {}
     QString profileFileName(const QString &, const QString &) const override
     {
-        return QStringLiteral("avi.xml");
+        return extension + QStringLiteral(".xml");
     }
-    QString profileExtName(const QString &, const QString &) const override
-    {
-        return QStringLiteral("avi");
-    }
+    QString profileExtName(const QString &, const QString &) const override { return extension; }
+
+private:
+    QString extension;
 };
 
 // The profile values the command line reads, as a small, cheap output.
@@ -120,7 +124,7 @@ private:
     QString fixtures;
     std::unique_ptr<DvdDisc> mainDisc; // red 4.8 s, blue 2.4 s, red 4.8 s
     std::unique_ptr<DvdDisc> ntscDisc; // one title of 3 s
-    AviCatalogue catalogue;
+    OneFormatCatalogue catalogue{"avi"};
     QTemporaryDir work;
     QString outputDir;
     QString pacedFfmpeg;
@@ -141,11 +145,14 @@ private:
     }
 
 private slots:
+    void init() { failOnChildSanitizerReports(); }
     void initTestCase();
     void batchRunsInListOrderWithinTheLimit();
     void pauseStandsOneEncoderAndStopEndsAll();
     void limitChangesDuringBatch();
     void remainingTimeFallsAndHoldsAtHalfWay();
+    void onlyWholeOutputsRemain_data();
+    void onlyWholeOutputsRemain();
 };
 
 void TestConverterManager::initTestCase()
@@ -469,6 +476,55 @@ void TestConverterManager::remainingTimeFallsAndHoldsAtHalfWay()
              qPrintable(QStringLiteral("task: estimate %1 ms, truth %2 ms")
                             .arg(taskHalf.taskRemaining)
                             .arg(taskTruth)));
+}
+
+void TestConverterManager::onlyWholeOutputsRemain_data()
+{
+    QTest::addColumn<QString>("name");  // the source's name: a copy of clip.mp4
+    QTest::addColumn<QString>("event"); // "stop" after the first progress, "vanish" before the start
+    QTest::addColumn<QString>("reason"); // what the failure says; empty: it succeeds
+    QTest::newRow("stopped while writing an MP4") << "clip.mp4" << "stop" << "stopped";
+    QTest::newRow("source gone before the start") << "gone.mp4" << "vanish" << "No such file";
+    QTest::newRow("a name with a number pattern") << "clip%03d.mp4" << "" << "";
+}
+
+void TestConverterManager::onlyWholeOutputsRemain()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, event);
+    QFETCH(QString, reason);
+    QTemporaryDir sources;
+    const QString source = sources.filePath(name);
+    QVERIFY(QFile::copy(fixture(fixtures, "clip.mp4"), source));
+    qputenv("KESTROVE_FFMPEG", QFile::encodeName(pacedFfmpeg));
+    OneFormatCatalogue mp4("mp4");
+    TaskList list(&mp4);
+    const int id = list.addFile(profile, source);
+    QVERIFY(id >= 0);
+    setCheapOutput(*list.byId(id), true);
+    QDir(outputDir).removeRecursively();
+    ConverterManager manager(&list);
+    QSignalSpy progress(&manager, &ConverterManager::progressChanged);
+    if (event == QLatin1String("vanish"))
+        QVERIFY(QFile::remove(source));
+    manager.startTask(id);
+    if (event == QLatin1String("stop")) {
+        QTRY_VERIFY_WITH_TIMEOUT(!progress.isEmpty(), 20000);
+        manager.stopTask(id);
+    }
+    const Task &task = *list.byId(id);
+    QTRY_VERIFY_WITH_TIMEOUT(task.state == Task::Succeed || task.state == Task::Failed, 20000);
+    qunsetenv("KESTROVE_FFMPEG");
+    const QStringList left = QDir(outputDir).entryList(QDir::Files).filter(QStringLiteral(".mp4"));
+    if (reason.isEmpty()) {
+        QCOMPARE(task.state, Task::Succeed);
+        QCOMPARE(left, QStringList{QFileInfo(task.output.filePath).fileName()});
+        QVERIFY(task.output.filePath.endsWith(QStringLiteral("clip%03d.mp4")));
+    } else {
+        QCOMPARE(task.state, Task::Failed);
+        QVERIFY2(task.failure.contains(reason), qPrintable(task.failure));
+        QVERIFY2(left.isEmpty(), qPrintable(left.join(QLatin1Char(' '))));
+    }
 }
 
 int main(int argc, char *argv[])
