@@ -174,6 +174,34 @@ std::optional<EncoderJob> EncoderJob::parse(const QStringList &arguments, QStrin
     return job;
 }
 
+double EncoderJob::expectedLength(const QList<InputLayout> &layouts) const
+{
+    for (const char *cut : {"-t", "-frames:v", "-vframes", "-to"}) {
+        if (output.args.contains(QLatin1String(cut)))
+            return 0;
+    }
+    if (isPictureSeries())
+        return 0;
+    auto optionValue = [](const QStringList &options, const char *name) {
+        const int at = options.indexOf(QLatin1String(name));
+        return at >= 0 ? options.value(at + 1) : QString();
+    };
+    double total = 0;
+    for (int i = 0; i < inputs.size(); ++i) {
+        const EncoderInput &input = inputs[i];
+        const double duration = layouts.value(i).duration;
+        if (duration <= 0)
+            return 0;
+        const QString start = input.isTitle() ? input.titleStart : optionValue(input.options, "-ss");
+        const QString cut = input.isTitle() ? input.titleLength : optionValue(input.options, "-t");
+        double length = duration - start.toDouble();
+        if (!cut.isEmpty())
+            length = qMin(length, cut.toDouble());
+        total += qMax(0.0, length);
+    }
+    return total;
+}
+
 bool EncoderJob::wantsVideo() const
 {
     return !output.args.contains(QStringLiteral("-vn"));

@@ -63,6 +63,11 @@ struct EncoderJob
     // encoded, as NUT on standard output.
     QStringList soundArguments(const QString &source, const InputLayout &layout) const;
 
+    // Seconds the output should last when the inputs are whole: what the
+    // inputs last from their start points, cut to their lengths. 0 where
+    // that is not known, or the output is not one timed file.
+    double expectedLength(const QList<InputLayout> &layouts) const;
+
     bool wantsVideo() const;
     bool wantsAudio() const;
     // A numbered picture series ("name%03d.png") carries no sound.

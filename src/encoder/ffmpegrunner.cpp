@@ -17,16 +17,25 @@
 
 namespace {
 
-pid_t childPid = -1;
+volatile sig_atomic_t childPid = -1;
 volatile sig_atomic_t companionPid = -1;
+volatile sig_atomic_t stopSignal = 0;
 
 void forwardSignal(int signalNumber)
 {
+    stopSignal = signalNumber;
     if (childPid > 0)
-        ::kill(childPid, signalNumber);
+        ::kill(pid_t(childPid), signalNumber);
     // The sound's ffmpeg too: the picture's may be waiting for its sound.
     if (companionPid > 0)
         ::kill(pid_t(companionPid), signalNumber);
+}
+
+// A request that came before the child was there reaches it now.
+void forwardMissed(pid_t pid)
+{
+    if (stopSignal != 0 && pid > 0)
+        ::kill(pid, int(stopSignal));
 }
 
 void reportStartFailure(const char *program, int error)
@@ -171,6 +180,21 @@ int waitForChild(pid_t pid, int cpuPercent, ErrorWatch &errors, int errorFd)
 void FFmpegRunner::setCompanion(pid_t pid)
 {
     companionPid = pid;
+    forwardMissed(pid);
+}
+
+void FFmpegRunner::catchStopSignals()
+{
+    struct sigaction action = {};
+    action.sa_handler = forwardSignal;
+    sigemptyset(&action.sa_mask);
+    for (int sig : {SIGINT, SIGTERM, SIGHUP})
+        ::sigaction(sig, &action, nullptr);
+}
+
+int FFmpegRunner::stopRequest()
+{
+    return int(stopSignal);
 }
 
 QString FFmpegRunner::ffmpegProgram()
@@ -194,6 +218,10 @@ pid_t FFmpegRunner::spawn(const QString &program, const QStringList &arguments,
     for (QByteArray &item : storage)
         argv.push_back(item.data());
     argv.push_back(nullptr);
+    // Everything the child needs is made here: after a fork in a process
+    // with threads, only async-signal-safe calls are allowed.
+    std::vector<int> high(childFds.size(), -1);
+    const int stopSignals[] = {SIGINT, SIGTERM, SIGHUP, SIGPIPE};
 
     // A pipe that closes on exec tells the parent whether exec worked.
     int execPipe[2];
@@ -215,14 +243,15 @@ pid_t FFmpegRunner::spawn(const QString &program, const QStringList &arguments,
         ::prctl(PR_SET_PDEATHSIG, SIGKILL);
         if (::getppid() != parentPid)
             ::_exit(127);
-        ::signal(SIGPIPE, SIG_DFL);
+        // Our handlers forward to children this one does not have.
+        for (int sig : stopSignals)
+            ::signal(sig, SIG_DFL);
         if (outputFd >= 0)
             ::dup2(outputFd, STDOUT_FILENO);
         ::dup2(errorFd, STDERR_FILENO);
         // Move the descriptors out of the way first, then into place.
-        std::vector<int> high;
-        for (int fd : childFds)
-            high.push_back(::fcntl(fd, F_DUPFD_CLOEXEC, 64));
+        for (size_t k = 0; k < high.size(); ++k)
+            high[k] = ::fcntl(childFds[k], F_DUPFD_CLOEXEC, 64);
         for (size_t k = 0; k < high.size(); ++k)
             ::dup2(high[k], static_cast<int>(3 + k));
         ::execvp(argv[0], argv.data());
@@ -260,17 +289,12 @@ FFmpegRunner::Result FFmpegRunner::run(const QString &program, const QStringList
         ::close(errorPipe[0]);
         return {};
     }
+    forwardMissed(childPid);
     if (options.started)
         options.started();
 
-    struct sigaction action = {};
-    action.sa_handler = forwardSignal;
-    sigemptyset(&action.sa_mask);
-    for (int sig : {SIGINT, SIGTERM, SIGHUP})
-        ::sigaction(sig, &action, nullptr);
-
     ErrorWatch errors(errorPipe[0]);
-    const int status = waitForChild(childPid, options.cpuPercent, errors, errorPipe[0]);
+    const int status = waitForChild(pid_t(childPid), options.cpuPercent, errors, errorPipe[0]);
     ::close(errorPipe[0]);
     childPid = -1;
     Result result;

@@ -38,6 +38,12 @@ public:
     // Another child that our signals reach with run()'s; -1 for none.
     static void setCompanion(pid_t pid);
 
+    // From now on SIGINT, SIGTERM and SIGHUP are passed on to the children,
+    // also to those started after the signal came; call before any child.
+    static void catchStopSignals();
+    // The signal that asked us to stop, 0 while none did.
+    static int stopRequest();
+
     // Runs the program with the arguments and waits for it.
     static Result run(const QString &program, const QStringList &arguments, const Options &options);
 };

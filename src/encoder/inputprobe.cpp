@@ -11,18 +11,25 @@
 
 namespace InputProbe {
 
-InputLayout layout(const QString &path)
+InputLayout layout(const QString &path, QString *error)
 {
     InputLayout result;
-    QString ffprobe = QStandardPaths::findExecutable(QStringLiteral("ffprobe"));
-    if (ffprobe.isEmpty())
+    const QString ffprobe = QStandardPaths::findExecutable(QStringLiteral("ffprobe"));
+    auto fail = [&](const QString &why) {
+        if (error)
+            *error = QStringLiteral("ffprobe could not tell what \"%1\" holds: %2").arg(path, why);
         return result;
+    };
+    if (ffprobe.isEmpty())
+        return fail(QStringLiteral("no ffprobe on the PATH"));
     QProcess probe;
     probe.start(ffprobe, {QStringLiteral("-v"), QStringLiteral("error"),
                           QStringLiteral("-print_format"), QStringLiteral("json"),
                           QStringLiteral("-show_streams"), QStringLiteral("-show_format"), path});
-    if (!probe.waitForFinished(30000) || probe.exitCode() != 0)
-        return result;
+    if (!probe.waitForFinished(30000))
+        return fail(probe.errorString());
+    if (probe.exitStatus() != QProcess::NormalExit || probe.exitCode() != 0)
+        return fail(QString::fromLocal8Bit(probe.readAllStandardError().trimmed()));
     const QJsonObject root = QJsonDocument::fromJson(probe.readAllStandardOutput()).object();
     result.hasVideo = false;
     result.hasAudio = false;

@@ -5,7 +5,8 @@
 // What a media file holds, asked of ffprobe.
 namespace InputProbe {
 
-InputLayout layout(const QString &path);
+// With `error` set when ffprobe could not be run or could not read the file.
+InputLayout layout(const QString &path, QString *error = nullptr);
 
 // Seconds of a DVD title as a scan reports them, 0 when unknown, and the
 // disc's frame rate.
