@@ -1,16 +1,23 @@
 #include "utils.h"
 
+#include "pathparts.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QMutex>
 #include <QRegularExpression>
+#include <QTemporaryDir>
 #include <QThread>
 #include <QTime>
 #include <QWaitCondition>
 
 #include <algorithm>
+#include <cerrno>
+#include <cstring>
 #include <iterator>
+#include <sys/stat.h>
+#include <unistd.h>
 
 QString hexText(const QString &text)
 {
@@ -109,6 +116,46 @@ QString durationText(double seconds)
 int processorCount()
 {
     return QThread::idealThreadCount();
+}
+
+QString unreadableReason(const QString &path)
+{
+    const QByteArray native = QFile::encodeName(path);
+    struct stat info;
+    if (::stat(native.constData(), &info) != 0)
+        return QString::fromLocal8Bit(std::strerror(errno)).toLower();
+    if (S_ISDIR(info.st_mode))
+        return QStringLiteral("a folder, not a media file");
+    if (!S_ISREG(info.st_mode))
+        return QStringLiteral("not a regular file (a pipe, socket or device)");
+    if (::access(native.constData(), R_OK) != 0)
+        return QString::fromLocal8Bit(std::strerror(errno)).toLower();
+    return QString();
+}
+
+QString reachablePath(const QByteArray &nativePath)
+{
+    const QString decoded = QFile::decodeName(nativePath);
+    if (QFile::encodeName(decoded) == nativePath)
+        return decoded;
+    static QTemporaryDir links(QDir::tempPath() + QStringLiteral("/kestrove-names-XXXXXX"));
+    if (!links.isValid())
+        return decoded;
+    const int slash = nativePath.lastIndexOf('/');
+    QString name = QFile::decodeName(nativePath.mid(slash + 1));
+    name.replace(QChar::ReplacementCharacter, QLatin1Char('_'));
+    PathParts parts(links.filePath(name));
+    parts.makeUnique();
+    const QString link = parts.fullPath();
+    QByteArray target = nativePath;
+    if (!target.startsWith('/')) {
+        char cwd[4096];
+        if (::getcwd(cwd, sizeof cwd))
+            target = QByteArray(cwd) + '/' + target;
+    }
+    if (::symlink(target.constData(), QFile::encodeName(link).constData()) != 0)
+        return decoded;
+    return link;
 }
 
 } // namespace Utils

@@ -38,4 +38,14 @@ QString durationText(double seconds);
 // Logical processors of this machine.
 int processorCount();
 
+// Why a media file can't be read as one, in a few words ("permission
+// denied", "not a regular file"); empty for a readable regular file. Never
+// opens a FIFO or a device.
+QString unreadableReason(const QString &path);
+
+// A path that Qt can carry for a file whose name, in the bytes the system
+// gave, is not valid UTF-8: a link with a readable name in a folder of our
+// own, made on first use. The bytes themselves when they are valid.
+QString reachablePath(const QByteArray &nativePath);
+
 } // namespace Utils

@@ -381,7 +381,9 @@ int ConvertCommand::report(bool json)
         allGood = allGood && task && task->state == Task::Succeed;
         QString error = entry.error;
         if (task && task->state == Task::Failed)
-            error = interrupted ? QStringLiteral("stopped") : QStringLiteral("the encoder failed");
+            error = interrupted            ? QStringLiteral("stopped")
+                    : task->failure.isEmpty() ? QStringLiteral("the encoder failed")
+                                              : task->failure;
         else if (task && task->state != Task::Succeed)
             error = QStringLiteral("not started");
         QJsonObject object{{QStringLiteral("source"), entry.source},

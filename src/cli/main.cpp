@@ -2,6 +2,7 @@
 #include "convertcommand.h"
 #include "profilescommand.h"
 #include "scancommand.h"
+#include "utils.h"
 #include "version.h"
 
 #include <QGuiApplication>
@@ -37,7 +38,11 @@ int main(int argc, char *argv[])
     // brings them back.
     QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
 
-    QStringList args = QCoreApplication::arguments().mid(1);
+    // From the bytes themselves: a file name that is not valid UTF-8 would
+    // not survive the arguments' conversion.
+    QStringList args;
+    for (int i = 1; i < argc; ++i)
+        args << Utils::reachablePath(QByteArray(argv[i]));
     const QString command = args.isEmpty() ? QString() : args.takeFirst();
     if (command == QLatin1String("scan"))
         return ScanCommand::run(args);

@@ -3,6 +3,7 @@
 #include "discimport.h"
 #include "dvddisc.h"
 #include "tasklist.h"
+#include "utils.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -44,8 +45,12 @@ QList<ImportedSource> importSources(TaskList &list, const QString &profileKey,
         } else if (source.disc) {
             importDisc(list, profileKey, source, ++discId);
         } else {
-            const int id = list.addFile(profileKey, source.path);
-            if (id < 0)
+            // A pipe or a device is never opened: it could block for ever.
+            const QString unreadable = Utils::unreadableReason(source.path);
+            const int id = unreadable.isEmpty() ? list.addFile(profileKey, source.path) : -1;
+            if (!unreadable.isEmpty())
+                source.error = QStringLiteral("can not be read: %1").arg(unreadable);
+            else if (id < 0)
                 source.error = QStringLiteral(
                     "can not be loaded (not a valid media file, or its format is not supported)");
             else

@@ -1,5 +1,7 @@
 #include "mediainfo.h"
 
+#include "utils.h"
+
 #include "dvddisc.h"
 #include "mediainput.h"
 
@@ -172,7 +174,8 @@ int MediaInfo::probe(const QString &path, const QString &format, int pgc)
 int MediaInfo::Load(const QString &path)
 {
     forcedFormat.clear();
-    if (probe(path, QString(), -1) < 0)
+    // A pipe or a device would block the probe, or never end.
+    if (!Utils::unreadableReason(path).isEmpty() || probe(path, QString(), -1) < 0)
         return -1;
     // Streams without a decoder may open with a forced demuxer; the names of
     // the first pass stay, since they say more than the retry's.

@@ -1,14 +1,20 @@
 #include "mediafixtures.h"
+#include "sanitizerreports.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QSet>
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <QElapsedTimer>
+
 #include <csignal>
+#include <sys/stat.h>
+#include <unistd.h>
 
 // The real kestrove-cli on the fixture discs and files, with HOME in a
 // temporary folder so that the user's settings stay untouched.
@@ -17,6 +23,7 @@ class TestCli : public QObject
     Q_OBJECT
 
 private slots:
+    void init() { failOnChildSanitizerReports(); }
     void initTestCase();
     void scanDiscsAndFiles_data();
     void scanDiscsAndFiles();
@@ -27,6 +34,10 @@ private slots:
     void convert_data();
     void convert();
     void interruptStopsEveryEncoder();
+    void failuresSayWhy_data();
+    void failuresSayWhy();
+    void unreadableFileSaysPermissionDenied();
+    void nameNotValidUtf8Converts();
     void help_data();
     void help();
     void wrongArguments_data();
@@ -81,6 +92,11 @@ TestCli::Result TestCli::cli(const QStringList &args, int timeoutMs)
     result.status = process.exitCode();
     result.out = process.readAllStandardOutput();
     result.err = QString::fromUtf8(process.readAllStandardError());
+    // The encoders' reports reach the program's standard error.
+    for (const QString &line : result.err.split(QLatin1Char('\n'))) {
+        if (line.contains(QLatin1String("Sanitizer")) || line.contains(QLatin1String("runtime error:")))
+            qWarning("%s", qPrintable(line));
+    }
     return result;
 }
 
@@ -94,6 +110,29 @@ void TestCli::initTestCase()
     QVERIFY(junk.open(QIODevice::WriteOnly));
     junk.write(QByteArray(4096, 'x'));
     junk.close();
+
+    // A file whose header promises ten seconds, cut off after four; a disc
+    // whose VOB lost its second half; a FIFO no one ever writes to.
+    const auto run = [](const QString &program, const QStringList &args) {
+        QProcess process;
+        process.start(program, args);
+        return process.waitForFinished(60000) ? process.exitCode() : -1;
+    };
+    const QString cut = home.filePath(QStringLiteral("cut.mkv"));
+    QCOMPARE(run(QStringLiteral("ffmpeg"),
+                     {QStringLiteral("-v"), QStringLiteral("error"), QStringLiteral("-f"),
+                      QStringLiteral("lavfi"), QStringLiteral("-i"),
+                      QStringLiteral("testsrc2=s=160x120:r=25:d=10"), QStringLiteral("-c:v"),
+                      QStringLiteral("mpeg4"), cut}),
+             0);
+    QVERIFY(QFile::resize(cut, QFileInfo(cut).size() * 4 / 10));
+    QCOMPARE(run(QStringLiteral("cp"), {QStringLiteral("-r"), fixture(fixtures, "dvd-ntsc"),
+                                            home.filePath(QStringLiteral("dvd-cut"))}),
+             0);
+    const QString vob = home.filePath(QStringLiteral("dvd-cut/VIDEO_TS/VTS_01_1.VOB"));
+    QVERIFY(QFile::resize(vob, QFileInfo(vob).size() / 2 / 2048 * 2048));
+    QCOMPARE(::mkfifo(QFile::encodeName(home.filePath(QStringLiteral("fifo.mp4"))).constData(), 0600),
+             0);
 
     // The user's stored output folder, which no run may change.
     const QString config = home.filePath(QStringLiteral(".config/Tessarine"));
@@ -494,9 +533,103 @@ void TestCli::interruptStopsEveryEncoder()
         QTRY_VERIFY_WITH_TIMEOUT(gone(), 10000);
     }
     QCOMPARE(started(), 2);
-    // Nothing was written: at most the empty names the queue reserved.
-    for (const QFileInfo &file : QDir(out.path()).entryInfoList(QDir::Files))
-        QVERIFY2(file.size() == 0, qPrintable(file.fileName()));
+    // Nothing is left, not even the empty names the queue reserved.
+    QCOMPARE(QDir(out.path()).entryList(QDir::Files), QStringList());
+}
+
+void TestCli::failuresSayWhy_data()
+{
+    QTest::addColumn<QString>("input");
+    QTest::addColumn<QString>("error");
+    QTest::newRow("a file cut short")
+        << "cut.mkv" << "lasts [0-9.]+ s, but the source should give 10.0 s";
+    QTest::newRow("a disc whose VOB was cut short")
+        << "dvd-cut" << "lasts [0-9.]+ s, but the source should give 3.0 s";
+    QTest::newRow("a FIFO") << "fifo.mp4" << "can not be read: not a regular file";
+}
+
+// A task that fails says why, in the encoder's words, and leaves nothing.
+void TestCli::failuresSayWhy()
+{
+    QFETCH(QString, input);
+    QFETCH(QString, error);
+    QTemporaryDir out;
+    QElapsedTimer clock;
+    clock.start();
+    const Result result = cli({QStringLiteral("convert"), this->input(input),
+                               QStringLiteral("--profile"), QStringLiteral("1,68"),
+                               QStringLiteral("--output-dir"), out.path(), QStringLiteral("--json")});
+    QVERIFY2(result.status == 1, qPrintable(result.err));
+    const QJsonArray tasks = result.json().value(QStringLiteral("tasks")).toArray();
+    QCOMPARE(tasks.size(), 1);
+    const QJsonObject task = tasks.at(0).toObject();
+    QCOMPARE(task.value(QStringLiteral("state")).toString(), QStringLiteral("Failed"));
+    const QString said = task.value(QStringLiteral("error")).toString();
+    QVERIFY2(QRegularExpression(error).match(said).hasMatch(), qPrintable(said));
+    QCOMPARE(QDir(out.path()).entryList(QDir::Files), QStringList());
+    // A FIFO is never opened, so the refusal can't wait for a writer.
+    if (input == QLatin1String("fifo.mp4"))
+        QVERIFY2(clock.elapsed() < 5000, qPrintable(QString::number(clock.elapsed())));
+}
+
+void TestCli::unreadableFileSaysPermissionDenied()
+{
+    // Root reads anything: the scan then runs as nobody.
+    QTemporaryDir dir;
+    QVERIFY(QFile::setPermissions(dir.path(), QFile::ReadOwner | QFile::WriteOwner
+                                                  | QFile::ExeOwner | QFile::ExeOther));
+    const QString file = dir.filePath(QStringLiteral("locked.mp4"));
+    QVERIFY(QFile::copy(fixture(fixtures, "clip.mp4"), file));
+    QVERIFY(QFile::setPermissions(file, QFile::WriteOwner));
+    QStringList command{QStringLiteral(KESTROVE_CLI), QStringLiteral("scan"),
+                        QStringLiteral("--json"), file};
+    if (::geteuid() == 0)
+        command = QStringList{QStringLiteral("setpriv"), QStringLiteral("--reuid=65534"),
+                              QStringLiteral("--regid=65534"), QStringLiteral("--clear-groups")}
+                  + command;
+    QProcess process;
+    process.setProcessEnvironment(environment());
+    process.start(command.takeFirst(), command);
+    QVERIFY(process.waitForFinished(30000));
+    QCOMPARE(process.exitCode(), 1);
+    const QJsonArray sources = QJsonDocument::fromJson(process.readAllStandardOutput())
+                                   .object()
+                                   .value(QStringLiteral("sources"))
+                                   .toArray();
+    QCOMPARE(sources.size(), 1);
+    const QString error = sources.at(0).toObject().value(QStringLiteral("error")).toString();
+    QVERIFY2(error.contains(QStringLiteral("permission denied")), qPrintable(error));
+}
+
+void TestCli::nameNotValidUtf8Converts()
+{
+    // "café" written in Latin-1: the é is a byte that UTF-8 can't start with.
+    QTemporaryDir dir, out;
+    const QByteArray name = QFile::encodeName(dir.path()) + "/caf\xe9.mp4";
+    QVERIFY(QFile::copy(fixture(fixtures, "clip.mp4"), dir.filePath(QStringLiteral("plain.mp4"))));
+    QCOMPARE(::rename(QFile::encodeName(dir.filePath(QStringLiteral("plain.mp4"))).constData(),
+                      name.constData()),
+             0);
+    QProcess process;
+    process.setProcessEnvironment(environment());
+    process.start(QStringLiteral("sh"),
+                  {QStringLiteral("-c"),
+                   QStringLiteral("exec \"$0\" convert \"$1/$(printf 'caf\\351.mp4')\" --profile "
+                                  "1,68 --output-dir \"$2\" --json"),
+                   QStringLiteral(KESTROVE_CLI), dir.path(), out.path()});
+    QVERIFY(process.waitForFinished(120000));
+    const QByteArray err = process.readAllStandardError();
+    QVERIFY2(process.exitCode() == 0, err.constData());
+    const QJsonObject task = QJsonDocument::fromJson(process.readAllStandardOutput())
+                                 .object()
+                                 .value(QStringLiteral("tasks"))
+                                 .toArray()
+                                 .at(0)
+                                 .toObject();
+    QCOMPARE(task.value(QStringLiteral("state")).toString(), QStringLiteral("Succeed"));
+    QVERIFY(QFileInfo(task.value(QStringLiteral("output")).toString()).size() > 0);
+    // QTemporaryDir can't name it either.
+    QCOMPARE(::unlink(name.constData()), 0);
 }
 
 void TestCli::help_data()
