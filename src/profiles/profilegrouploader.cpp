@@ -330,14 +330,14 @@ QString ProfileGroupLoader::addUserProfile(const QDomNode &node)
     return profileKey(QStringLiteral("0"), id);
 }
 
-void ProfileGroupLoader::renameUserProfile(const QString &groupId, const QString &id,
+bool ProfileGroupLoader::renameUserProfile(const QString &groupId, const QString &id,
                                            const QString &name)
 {
     QDomElement entry = profile(groupId, id).toElement();
     if (entry.isNull())
-        return;
+        return false;
     setField(entry, QStringLiteral("Name"), name);
-    save();
+    return save();
 }
 
 QString ProfileGroupLoader::removeUserProfile(const QString &groupId, const QString &id)
@@ -350,9 +350,9 @@ QString ProfileGroupLoader::removeUserProfile(const QString &groupId, const QStr
     const QString file = childValue(entry, QStringLiteral("FileName"));
     const QString inheritFrom = childValue(entry, QStringLiteral("InheritFrom"));
     entry.parentNode().removeChild(entry);
-    save();
+    // The stored catalogue still names the document: keep it for the next start.
     const QString name = QFileInfo(file).fileName();
-    if (!name.isEmpty())
+    if (save() && !name.isEmpty())
         QFile::remove(userProfilesDir() + QLatin1Char('/') + name);
     return inheritFrom;
 }
@@ -371,7 +371,8 @@ bool ProfileGroupLoader::save() const
     removeComments(copy);
     root.removeAttribute(QStringLiteral("default"));
 
-    return writeDocument(copy, userPath());
+    saveError.clear();
+    return writeDocument(copy, userPath(), &saveError);
 }
 
 QString ProfileGroupLoader::saveUserProfile(const QString &fromKey,
@@ -392,8 +393,10 @@ QString ProfileGroupLoader::saveUserProfile(const QString &fromKey,
         = cleanProfileName(name, QCoreApplication::translate("ProfileGroupLoader", "Untitled"));
     PathParts target(userProfilesDir() + QLatin1Char('/') + base + QStringLiteral(".xml"));
     target.makeUnique();
-    if (!document.saveValues(values, target.fullPath()))
+    if (!document.saveValues(values, target.fullPath())) {
+        saveError = QStringLiteral("Can't write \"%1\"").arg(target.fullPath());
         return QString();
+    }
 
     QDomElement entry = source.cloneNode(true).toElement();
     setField(entry, QStringLiteral("Name"), name);
@@ -402,7 +405,12 @@ QString ProfileGroupLoader::saveUserProfile(const QString &fromKey,
     if (entry.firstChildElement(QStringLiteral("InheritFrom")).isNull())
         setField(entry, QStringLiteral("InheritFrom"), fromKey);
     const QString key = addUserProfile(entry);
-    save();
+    if (!save()) {
+        const QDomNode added = profileByKey(key);
+        added.parentNode().removeChild(added);
+        QFile::remove(target.fullPath());
+        return QString();
+    }
     return key;
 }
 

@@ -53,25 +53,31 @@ public:
     // Puts a profile entry into "User Defined" with the next free user id
     // and returns its key. The caller saves.
     QString addUserProfile(const QDomNode &node);
-    // Sets the entry's Name and saves.
-    void renameUserProfile(const QString &groupId, const QString &id, const QString &name);
+    // Sets the entry's Name and saves; false when it could not be saved.
+    bool renameUserProfile(const QString &groupId, const QString &id, const QString &name);
     // Takes out a user profile with its document and returns the key it was
     // made from; empty (and nothing removed) for an unknown or built-in one.
+    // Its document stays when the catalogue could not be saved without it.
     QString removeUserProfile(const QString &groupId, const QString &id);
     // Writes "User Defined" alone to the user's Group.xml. False when the
     // file can't be written; the catalogue in memory keeps the change.
     bool save() const;
+    // Why the last save failed.
+    QString errorString() const { return saveError; }
 
     // Saves values over the document of the profile fromKey as a new user
     // profile called name, and enters it. The file gets the cleaned name,
     // numbered when taken; the entry keeps name as typed. Returns the new
-    // key, or empty when fromKey is unknown or the document can't be written.
+    // key, or empty when fromKey is unknown or the document or the catalogue
+    // can't be written (then nothing of it is left).
     QString saveUserProfile(const QString &fromKey, const QMap<QString, QString> &values,
                             const QString &name);
 
 private:
     void mergeUserGroup(const QString &path);
     QDomElement userGroup();
+
+    mutable QString saveError;
 };
 
 // The name without the characters that file names can't hold; fallback when

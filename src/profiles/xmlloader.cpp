@@ -46,7 +46,7 @@ bool XmlLoader::load(const QString &path)
     return true;
 }
 
-bool writeDocument(QDomDocument &doc, const QString &path)
+bool writeDocument(QDomDocument &doc, const QString &path, QString *error)
 {
     // The declaration the documents are written with, in place of whatever
     // quoting the parser kept.
@@ -60,16 +60,18 @@ bool writeDocument(QDomDocument &doc, const QString &path)
     // Written aside and renamed, so a failed write leaves no half file and
     // keeps the last good one.
     QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
+    auto fail = [&] {
         qDebug().noquote() << "Can't write" << path << ':' << file.errorString();
+        if (error)
+            *error = QStringLiteral("Can't write \"%1\": %2").arg(path, file.errorString());
         return false;
-    }
+    };
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        return fail();
     QTextStream stream(&file);
     doc.save(stream, 4);
     stream.flush();
-    if (stream.status() != QTextStream::Ok || !file.commit()) {
-        qDebug().noquote() << "Can't write" << path << ':' << file.errorString();
-        return false;
-    }
+    if (stream.status() != QTextStream::Ok || !file.commit())
+        return fail();
     return true;
 }

@@ -12,7 +12,7 @@ QString attributeValue(const QDomNode &node, const QString &name);
 bool isReadOnly(const QDomNode &node);
 // Writes doc with the UTF-8 declaration and an indent of 4. False, with a
 // line in the log, when path can't be written; an existing file then stays.
-bool writeDocument(QDomDocument &doc, const QString &path);
+bool writeDocument(QDomDocument &doc, const QString &path, QString *error = nullptr);
 
 // Holds one XML document read from a file or a resource.
 class XmlLoader

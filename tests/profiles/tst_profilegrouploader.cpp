@@ -67,12 +67,12 @@ private slots:
     void noUserFile();
     void userProfilesLiveOnInANewProcess();
     void idsAfterRemoving();
+    void catalogueThatCannotBeSavedKeepsNothingHalfDone();
     void sameNameTwiceAndForbiddenCharacters();
     void copyOfUserProfileInheritsItsSource();
     void builtInProfilesAreNotRemoved();
     void unusableUserFile_data();
     void unusableUserFile();
-    void unwritableUserFileKeepsMemory();
     void cleanProfileName_data();
     void cleanProfileName();
 
@@ -294,6 +294,24 @@ void TestProfileGroupLoader::idsAfterRemoving()
     QCOMPARE(userEntries(ProfileGroupLoader()), userEntries(catalogue));
 }
 
+void TestProfileGroupLoader::catalogueThatCannotBeSavedKeepsNothingHalfDone()
+{
+    ProfileGroupLoader catalogue;
+    const QString from = QStringLiteral("1,68");
+    QCOMPARE(catalogue.saveUserProfile(from, {}, QStringLiteral("a")), QStringLiteral("0,1001"));
+    // A folder where the catalogue's file goes: no one, root included, writes there.
+    QVERIFY(QFile::remove(ProfileGroupLoader::userPath()));
+    QVERIFY(QDir().mkpath(ProfileGroupLoader::userPath()));
+    QCOMPARE(catalogue.saveUserProfile(from, {}, QStringLiteral("b")), QString());
+    QVERIFY(!catalogue.errorString().isEmpty());
+    QVERIFY(!catalogue.renameUserProfile(QStringLiteral("0"), QStringLiteral("1001"),
+                                         QStringLiteral("c")));
+    // What could not be recorded is not kept either; what was recorded stays.
+    QCOMPARE(catalogue.removeUserProfile(QStringLiteral("0"), QStringLiteral("1001")), from);
+    QCOMPARE(userFiles(), QStringList{QStringLiteral("a.xml")});
+    QVERIFY(QDir(ProfileGroupLoader::userPath()).removeRecursively());
+}
+
 void TestProfileGroupLoader::sameNameTwiceAndForbiddenCharacters()
 {
     ProfileGroupLoader catalogue;
@@ -380,18 +398,6 @@ void TestProfileGroupLoader::unusableUserFile()
     const int before = catalogue.profiles(catalogue.group(QStringLiteral("0"))).size();
     QCOMPARE(catalogue.saveUserProfile(QStringLiteral("1,68"), {}, QStringLiteral("New")),
              before ? QStringLiteral("0,1002") : QStringLiteral("0,1001"));
-}
-
-void TestProfileGroupLoader::unwritableUserFileKeepsMemory()
-{
-    // A folder where the file should be can't be replaced by a file.
-    QVERIFY(QDir().mkpath(ProfileGroupLoader::userPath() + QStringLiteral("/inside")));
-    ProfileGroupLoader catalogue;
-    QCOMPARE(catalogue.saveUserProfile(QStringLiteral("1,68"), {}, QStringLiteral("Kept")),
-             QStringLiteral("0,1001"));
-    QVERIFY(!catalogue.save());
-    QCOMPARE(userEntries(catalogue), QStringList{QStringLiteral("0,1001=Kept")});
-    QVERIFY(QFileInfo(ProfileGroupLoader::userPath() + QStringLiteral("/inside")).isDir());
 }
 
 void TestProfileGroupLoader::cleanProfileName_data()
