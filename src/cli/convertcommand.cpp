@@ -156,7 +156,11 @@ int ConvertCommand::parseRequest(const QStringList &args, Request &request)
             return cli.usageError(
                 QStringLiteral("profile %1 has no parameter '%2' (it has: %3)")
                     .arg(request.profileKey, key, profile.keys().join(QStringLiteral(", "))));
-        request.values.insert(key, assignment.mid(equals + 1));
+        const QString value = assignment.mid(equals + 1);
+        QString why;
+        if (key == QLatin1String("s") && !Task::parseSize(value, &why).isValid())
+            return cli.usageError(QStringLiteral("--set s: %1").arg(why));
+        request.values.insert(key, value);
     }
 
     if (cli.isSet(QStringLiteral("titles"))) {

@@ -4,6 +4,7 @@
 #include "utils.h"
 
 #include <QFile>
+#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -125,22 +126,44 @@ void Task::setOutputBaseName(const QString &base, const QString &extension)
 
 QSize Task::outputSize() const
 {
-    QString size = value(QStringLiteral("s"));
-    if (size.isEmpty())
+    const QString text = value(QStringLiteral("s"));
+    if (text.isEmpty())
         return {0, 0};
-    const int bracket = size.indexOf(QLatin1Char('('));
-    if (bracket >= 0)
-        size.truncate(bracket);
-    if (size == QLatin1String("Auto")) {
+    const QSize size = parseSize(text);
+    if (size.isEmpty() && size.isValid()) {
         const ChildTask *first = item(0);
         if (!first)
             return {0, 0};
         return {int(first->DisplayAspect() * first->height), first->height};
     }
-    const QStringList parts = size.split(QLatin1Char('*'));
-    if (parts.size() != 2)
-        return {0, 0};
-    return {parts[0].trimmed().toInt(), parts[1].trimmed().toInt()};
+    return size.isValid() ? size : QSize(0, 0);
+}
+
+QSize Task::parseSize(QString text, QString *error)
+{
+    // Far beyond any screen, and small enough for every product of two sides.
+    constexpr int largest = 16384;
+    const int bracket = text.indexOf(QLatin1Char('('));
+    if (bracket >= 0)
+        text.truncate(bracket);
+    text = text.trimmed();
+    if (text == QLatin1String("Auto"))
+        return QSize(0, 0);
+    static const QRegularExpression pattern(QStringLiteral("^(-?\\d+)\\s*[*xX×]\\s*(-?\\d+)$"));
+    const QRegularExpressionMatch match = pattern.match(text);
+    bool wideOk = false, highOk = false;
+    const int width = match.captured(1).toInt(&wideOk);
+    const int height = match.captured(2).toInt(&highOk);
+    if (!match.hasMatch() || !wideOk || !highOk || width <= 0 || height <= 0 || width > largest
+        || height > largest) {
+        if (error)
+            *error = QStringLiteral("\"%1\" is no picture size: give width and height from 1 to "
+                                    "%2, as 640x480 or 640*480, or Auto")
+                         .arg(text)
+                         .arg(largest);
+        return QSize();
+    }
+    return QSize(width, height);
 }
 
 QImage Task::thumbnail(int childId)

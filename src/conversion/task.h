@@ -67,6 +67,11 @@ public:
 
     // The profile's picture size, (0, 0) for a profile without video.
     QSize outputSize() const;
+    // A size value as profiles and users write it: "320*240", "320x240",
+    // with a label in brackets behind it or not. "Auto" (the source's size)
+    // gives an empty QSize; a value that is no usable size gives an invalid
+    // one and says why in `error`.
+    static QSize parseSize(QString text, QString *error = nullptr);
 
     QImage thumbnail(int childId);
     void setThumbnail(int childId, const QImage &image) { thumbnails[childId] = image; }

@@ -388,7 +388,8 @@ void TestCli::convert_data()
         << QStringList{QStringLiteral("movie.mkv")}
         << mp4
                + QStringList{QStringLiteral("--audio"), QStringLiteral("2"),
-                             QStringLiteral("--set"), QStringLiteral("b=800")}
+                             QStringLiteral("--set"), QStringLiteral("b=800"),
+                             QStringLiteral("--set"), QStringLiteral("s=320x240")}
         << 0 << "movie:Succeed:3.0" << 0;
     QTest::newRow("an audio track the input lacks")
         << QStringList{QStringLiteral("clip.mp4"), QStringLiteral("movie.mkv")}
@@ -704,6 +705,10 @@ void TestCli::wrongArguments_data()
         << QStringList{QStringLiteral("convert"), input, profile, mp4, QStringLiteral("--audio"),
                        QStringLiteral("0")}
         << "convert: --audio wants a track number from 1, not '0'";
+    QTest::newRow("a size that is none")
+        << QStringList{QStringLiteral("convert"), input, profile, mp4, QStringLiteral("--set"),
+                       QStringLiteral("s=0x240")}
+        << "convert: --set s: \"0x240\" is no picture size";
 }
 
 void TestCli::wrongArguments()

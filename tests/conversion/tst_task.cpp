@@ -145,6 +145,13 @@ private slots:
         QTest::newRow("with a label") << "320*240(QVGA)" << QSize(320, 240);
         QTest::newRow("auto, 16:9 source") << "Auto" << QSize(1024, 576);
         QTest::newRow("auto with a label") << "Auto(Original)" << QSize(1024, 576);
+        QTest::newRow("x between the sides") << " 320x240 " << QSize(320, 240);
+        // No usable size: no picture size at all rather than a wrong one.
+        QTest::newRow("zero") << "0*240" << QSize(0, 0);
+        QTest::newRow("negative") << "-320x240" << QSize(0, 0);
+        QTest::newRow("beyond an integer") << "99999999999x2" << QSize(0, 0);
+        QTest::newRow("larger than any screen") << "20000x20000" << QSize(0, 0);
+        QTest::newRow("not a size") << "big" << QSize(0, 0);
     }
 
     void outputSize()
