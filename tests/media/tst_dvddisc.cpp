@@ -96,38 +96,28 @@ void writeFile(const QString &path, const QByteArray &data)
 // Changes one field of a title set IFO, named as in damagedTables_data().
 void damageField(QByteArray &ifo, const QString &field, quint32 value)
 {
-    const auto get = [&](int at, int size) {
-        quint32 v = 0;
-        for (int i = 0; i < size; ++i)
-            v = v << 8 | quint8(ifo[at + i]);
-        return v;
-    };
-    const auto set = [&](int at, int size, quint32 v) {
-        for (int i = size - 1; i >= 0; --i, v >>= 8)
-            ifo[at + i] = char(v & 0xff);
-    };
-    const int pgcit = int(get(0xcc, 4)) * 2048;
-    const int chapters = int(get(0xc8, 4)) * 2048;
-    const int firstPgc = pgcit + int(get(pgcit + 12, 4));
+    const int pgcit = int(ifoField(ifo, 0xcc, 4)) * 2048;
+    const int chapters = int(ifoField(ifo, 0xc8, 4)) * 2048;
+    const int firstPgc = pgcit + int(ifoField(ifo, pgcit + 12, 4));
     if (field == QLatin1String("PGC count"))
-        set(pgcit, 2, value);
+        setIfoField(ifo, pgcit, 2, value);
     else if (field == QLatin1String("every PGC start"))
-        for (quint32 i = 0; i < get(pgcit, 2); ++i)
-            set(pgcit + 12 + 8 * int(i), 4, value);
+        for (quint32 i = 0; i < ifoField(ifo, pgcit, 2); ++i)
+            setIfoField(ifo, pgcit + 12 + 8 * int(i), 4, value);
     else if (field == QLatin1String("first PGC start"))
-        set(pgcit + 12, 4, value);
+        setIfoField(ifo, pgcit + 12, 4, value);
     else if (field == QLatin1String("cell count"))
-        set(firstPgc + 3, 1, value);
+        setIfoField(ifo, firstPgc + 3, 1, value);
     else if (field == QLatin1String("program count"))
-        set(firstPgc + 2, 1, value);
+        setIfoField(ifo, firstPgc + 2, 1, value);
     else if (field == QLatin1String("chapter table sector"))
-        set(0xc8, 4, value);
+        setIfoField(ifo, 0xc8, 4, value);
     else if (field == QLatin1String("PGC table sector"))
-        set(0xcc, 4, value);
+        setIfoField(ifo, 0xcc, 4, value);
     else if (field == QLatin1String("cell address table sector"))
-        set(0xe0, 4, value);
+        setIfoField(ifo, 0xe0, 4, value);
     else if (field == QLatin1String("first title's chapters"))
-        set(chapters + 8, 4, value);
+        setIfoField(ifo, chapters + 8, 4, value);
     else if (field == QLatin1String("length"))
         ifo.truncate(int(value));
     else
