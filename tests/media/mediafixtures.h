@@ -7,6 +7,8 @@
 #include <QProcess>
 #include <QString>
 
+#include <functional>
+
 // The fixture folder, made (or found up to date) by the fixture script; an
 // empty text when the script failed, e.g. for want of ffmpeg or dvdauthor.
 inline QString mediaFixtures()
@@ -38,6 +40,17 @@ inline QString copyDisc(const QString &videoTs, const QString &dir)
             return {};
     }
     return copy;
+}
+
+// Rewrites a file of such a copy through `change`.
+inline bool changeFile(const QString &path, const std::function<void(QByteArray &)> &change)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadWrite))
+        return false;
+    QByteArray bytes = file.readAll();
+    change(bytes);
+    return file.seek(0) && file.resize(0) && file.write(bytes) == bytes.size();
 }
 
 // A field of an IFO, big-endian as on the disc.

@@ -291,12 +291,10 @@ void TestDvdTitleReader::cellsBeyondTheVobs()
     QVERIFY(!copy.isEmpty());
     QVERIFY(QFile::resize(copy + QStringLiteral("/VTS_01_1.VOB"), vobSize));
     if (stretch > 0) {
-        QFile ifo(copy + QStringLiteral("/VTS_01_0.IFO"));
-        QVERIFY(ifo.open(QIODevice::ReadWrite));
-        QByteArray bytes = ifo.readAll();
-        const int lastSector = cellTableOfPgc(bytes, pgc) + 20;
-        setIfoField(bytes, lastSector, 4, ifoField(bytes, lastSector, 4) + quint32(stretch));
-        QVERIFY(ifo.seek(0) && ifo.write(bytes) == bytes.size());
+        QVERIFY(changeFile(copy + QStringLiteral("/VTS_01_0.IFO"), [&](QByteArray &ifo) {
+            const int lastSector = cellTableOfPgc(ifo, pgc) + 20;
+            setIfoField(ifo, lastSector, 4, ifoField(ifo, lastSector, 4) + quint32(stretch));
+        }));
         QVERIFY(QFile::remove(copy + QStringLiteral("/VTS_01_0.BUP")));
     }
 
