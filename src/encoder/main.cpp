@@ -174,8 +174,17 @@ int main(int argc, char *argv[])
             }
         }
     }
-    for (auto &feeder : feeders)
+    for (auto &feeder : feeders) {
         feeder->finish();
+        if (feeder->skippedBlocks() > 0)
+            say(QStringLiteral("skipped %1 unreadable blocks of title %2")
+                    .arg(feeder->skippedBlocks())
+                    .arg(feeder->pgc()));
+        if (!feeder->error().isEmpty()) {
+            say(feeder->error());
+            exitCode = 1;
+        }
+    }
     if (result.writeFailed && exitCode == 0) {
         say(QStringLiteral("the output could not be written completely: \"%1\"")
                 .arg(job->outputPath));
