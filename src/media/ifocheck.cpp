@@ -79,15 +79,15 @@ bool pgcHolds(const Ifo &ifo, Range pgc)
     const quint32 cells = ifo.u8(at + offsetof(pgc_t, nr_of_cells));
     if (programs > cells)
         return false;
-    // Where a part starts: 0 when there is none, -1 when it does not fit.
-    const auto part = [&](size_t field, qint64 length, bool needed) -> qint64 {
+    // Where one of its tables starts: 0 when there is none, -1 when it does not fit.
+    const auto inner = [&](size_t field, qint64 length, bool needed) -> qint64 {
         const quint32 offset = ifo.u16(at + field);
         if (offset == 0)
             return needed ? -1 : 0;
         return offset >= PGC_SIZE && at + offset + length <= pgc.end ? at + offset : -1;
     };
 
-    const qint64 commands = part(offsetof(pgc_t, command_tbl_offset), PGC_COMMAND_TBL_SIZE, false);
+    const qint64 commands = inner(offsetof(pgc_t, command_tbl_offset), PGC_COMMAND_TBL_SIZE, false);
     if (commands < 0)
         return false;
     if (commands > 0) {
@@ -100,7 +100,7 @@ bool pgcHolds(const Ifo &ifo, Range pgc)
             return false;
     }
 
-    const qint64 map = part(offsetof(pgc_t, program_map_offset), programs, programs > 0);
+    const qint64 map = inner(offsetof(pgc_t, program_map_offset), programs, programs > 0);
     if (map < 0)
         return false;
     quint32 previous = 0;
@@ -112,9 +112,9 @@ bool pgcHolds(const Ifo &ifo, Range pgc)
     }
 
     const qint64 playback
-        = part(offsetof(pgc_t, cell_playback_offset), cells * sizeof(cell_playback_t), cells > 0);
+        = inner(offsetof(pgc_t, cell_playback_offset), cells * sizeof(cell_playback_t), cells > 0);
     const qint64 positions
-        = part(offsetof(pgc_t, cell_position_offset), cells * sizeof(cell_position_t), cells > 0);
+        = inner(offsetof(pgc_t, cell_position_offset), cells * sizeof(cell_position_t), cells > 0);
     if (playback < 0 || positions < 0)
         return false;
     for (quint32 c = 0; c < cells; ++c) {
