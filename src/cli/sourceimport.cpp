@@ -21,8 +21,10 @@ void importDisc(TaskList &list, const QString &profileKey, ImportedSource &sourc
     int titleNumber = 1;
     QStringList invalid;
     for (const QString &file : files) {
-        if (!ImportDiscFile(list, profileKey, file, discId, titleNumber, &source.taskIds))
-            invalid << QDir::toNativeSeparators(file);
+        QString why;
+        if (!ImportDiscFile(list, profileKey, file, discId, titleNumber, &source.taskIds, &why))
+            invalid << QDir::toNativeSeparators(file)
+                           + (why.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(why));
     }
     if (!invalid.isEmpty())
         source.error

@@ -5,9 +5,9 @@
 #include "tasklist.h"
 
 bool ImportDiscFile(TaskList &list, const QString &profileKey, const QString &ifoPath, int discId,
-                    int &titleNumber, QList<int> *taskIds)
+                    int &titleNumber, QList<int> *taskIds, QString *error)
 {
-    const std::unique_ptr<DvdDisc> disc = LoadDvdDisc(ifoPath, Setting::useAspi() != 0);
+    const std::unique_ptr<DvdDisc> disc = LoadDvdDisc(ifoPath, Setting::useAspi() != 0, error);
     if (!disc)
         return false;
     for (const auto &title : disc->titles) {

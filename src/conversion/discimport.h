@@ -10,6 +10,7 @@ class TaskList;
 // titleNumber runs across all files of one load and counts accepted titles
 // only, so the names go "Title_1", "Title_2"... without a gap. discId is the
 // same non-zero value for every file of one load. The new task ids are
-// appended to taskIds. False when the IFO file can't be read.
+// appended to taskIds. False when the IFO file can't be read, with `error`
+// saying why.
 bool ImportDiscFile(TaskList &list, const QString &profileKey, const QString &ifoPath, int discId,
-                    int &titleNumber, QList<int> *taskIds = nullptr);
+                    int &titleNumber, QList<int> *taskIds = nullptr, QString *error = nullptr);

@@ -276,8 +276,17 @@ int main(int argc, char *argv[])
             }
         }
     }
-    for (auto &feeder : feeders)
+    for (auto &feeder : feeders) {
         feeder->finish();
+        if (feeder->skippedBlocks() > 0)
+            say(QStringLiteral("skipped %1 unreadable blocks of title %2")
+                    .arg(feeder->skippedBlocks())
+                    .arg(feeder->pgc()));
+        if (!feeder->error().isEmpty()) {
+            fail(feeder->error());
+            exitCode = qMax(exitCode, 1);
+        }
+    }
     if (result.writeFailed) {
         fail(QStringLiteral("the output could not be written completely (is the disk full?): "
                             "\"%1\"")
@@ -288,7 +297,9 @@ int main(int argc, char *argv[])
         fail(QStringLiteral("stopped on request"));
         exitCode = qMax(exitCode, 1);
     }
-    if (result.signal == 0 && exitCode == 0) {
+    // What ffmpeg called finished is judged by its length too, also where a
+    // title failed, so that both lengths are told.
+    if (result.signal == 0 && result.exitCode == 0 && FFmpegRunner::stopRequest() == 0) {
         const QString shortfall = shortOutput(*job, known);
         if (!shortfall.isEmpty()) {
             fail(shortfall);

@@ -41,10 +41,11 @@ TitleFeeder::~TitleFeeder()
 
 bool TitleFeeder::open(const QString &ifoPath, int pgcIndex, QString *error)
 {
+    titlePgc = pgcIndex;
     if (!reader->open(ifoPath, pgcIndex)) {
-        *error = QStringLiteral("cannot read title %1 of the DVD behind \"%2\"")
+        *error = QStringLiteral("cannot read title %1 of the DVD behind \"%2\": %3")
                      .arg(pgcIndex)
-                     .arg(ifoPath);
+                     .arg(ifoPath, reader->errorString());
         return false;
     }
     if (addReader() < 0) {
@@ -88,6 +89,11 @@ void TitleFeeder::finish()
         worker.join();
 }
 
+qint64 TitleFeeder::skippedBlocks() const
+{
+    return reader->skippedBlocks();
+}
+
 void TitleFeeder::copy()
 {
     // Each reader takes the bytes at its own pace. One that lags keeps what
@@ -116,6 +122,10 @@ void TitleFeeder::copy()
     while (state(&hungry, &full)) {
         if (more && hungry && !full) {
             const qint64 got = reader->read(buffer.data(), buffer.size());
+            if (got < 0)
+                failure = QStringLiteral("title %1 could not be read whole: %2")
+                              .arg(titlePgc)
+                              .arg(reader->errorString());
             if (got <= 0) {
                 more = false;
             } else {
@@ -152,9 +162,15 @@ void TitleFeeder::copy()
         if (!waiting.empty() && (!more || !hungry || full))
             ::poll(waiting.data(), waiting.size(), -1);
     }
+    // Only an ffmpeg that read on to where the title failed missed the rest;
+    // one that stopped reading before had all it wanted.
+    bool reachedFailure = false;
     for (Pipe &pipe : pipes) {
+        reachedFailure |= pipe.write >= 0;
         if (pipe.write >= 0)
             ::close(pipe.write);
         pipe.write = -1;
     }
+    if (!reachedFailure)
+        failure.clear();
 }

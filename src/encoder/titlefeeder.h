@@ -35,6 +35,13 @@ public:
     // Stops copying and waits for the thread.
     void finish();
 
+    // After finish(): the title (PGC) fed, the blocks left out as unreadable,
+    // and why the title was not read whole (empty when it was, or when
+    // ffmpeg stopped reading first).
+    int pgc() const { return titlePgc; }
+    qint64 skippedBlocks() const;
+    QString error() const { return failure; }
+
 private:
     void copy();
 
@@ -46,4 +53,6 @@ private:
     std::unique_ptr<DvdTitleReader> reader;
     std::vector<Pipe> pipes;
     std::thread worker;
+    int titlePgc = -1;
+    QString failure;
 };

@@ -119,12 +119,16 @@ std::unique_ptr<DvdDisc> BuildDvdDisc(const QString &path, const IfoRecord &reco
     return disc;
 }
 
-std::unique_ptr<DvdDisc> LoadDvdDisc(const QString &path, bool useAspi)
+std::unique_ptr<DvdDisc> LoadDvdDisc(const QString &path, bool useAspi, QString *error)
 {
     Q_UNUSED(useAspi)
     IfoRecord record;
-    if (ifoParse(QFile::encodeName(path).toStdString(), &record) < 0)
+    std::string why;
+    if (ifoParse(QFile::encodeName(path).toStdString(), &record, &why) < 0) {
+        if (error)
+            *error = QString::fromStdString(why);
         return nullptr;
+    }
     MediaAttributes attributes;
     ParseMediaArrib(&record.area, &attributes);
     std::unique_ptr<DvdDisc> disc = BuildDvdDisc(path, record, attributes);

@@ -47,9 +47,10 @@ public:
     qint8 audioChannels = 0;
 };
 
-// Scans one IFO file. Null when it can't be parsed; a disc without usable
-// titles comes back with an empty title list. `useAspi` changes nothing.
-std::unique_ptr<DvdDisc> LoadDvdDisc(const QString &path, bool useAspi);
+// Scans one IFO file. Null when it can't be parsed, with `error` saying why;
+// a disc without usable titles comes back with an empty title list.
+// `useAspi` changes nothing.
+std::unique_ptr<DvdDisc> LoadDvdDisc(const QString &path, bool useAspi, QString *error = nullptr);
 
 // The scan of an already parsed record: duplicate neighbours and titles of
 // 1.0 s or less dropped, chapters and labels made.

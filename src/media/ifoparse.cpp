@@ -1,9 +1,13 @@
 #include "ifoparse.h"
 
+#include "ifocheck.h"
+
 #include <QDebug>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
+#include <QTemporaryDir>
 
 #include <dvdread/dvd_reader.h>
 #include <dvdread/ifo_read.h>
@@ -203,11 +207,87 @@ int titleSetOfPath(const std::string &path)
     return match.hasMatch() ? match.captured(1).toInt() : 0;
 }
 
-int parseTitleSet(dvd_reader_t *dvd, int titleSet, IfoRecord *record)
+// The whole of one IFO or BUP file; empty when there is none.
+QByteArray readInfoFile(dvd_reader_t *dvd, int titleSet, dvd_read_domain_t domain)
 {
-    const IfoHandlePtr ifo(ifoOpen(dvd, titleSet));
-    if (!usableTitleSet(ifo.get()))
+    // Far above any real IFO; keeps a damaged image from asking for gigabytes.
+    constexpr ssize_t maxBlocks = 32768;
+    dvd_file_t *file = DVDOpenFile(dvd, titleSet, domain);
+    if (!file)
+        return {};
+    QByteArray bytes;
+    const ssize_t blocks = DVDFileSize(file);
+    if (blocks > 0 && blocks <= maxBlocks) {
+        bytes.resize(int(blocks * DVD_VIDEO_LB_LEN));
+        if (DVDReadBytes(file, bytes.data(), size_t(bytes.size())) != bytes.size())
+            bytes.clear();
+    }
+    DVDCloseFile(file);
+    return bytes;
+}
+
+QString titleSetName(int titleSet)
+{
+    return titleSet == 0 ? QStringLiteral("VIDEO_TS")
+                         : QStringLiteral("VTS_%1_0").arg(titleSet, 2, 10, QLatin1Char('0'));
+}
+
+// libdvdread reads the IFO before it looks at the backup, and a damaged IFO
+// can crash it. So it only ever gets copies that passed ifoDamage(), in a
+// folder of their own: the IFO where it holds together, else the backup.
+class SoundCopies
+{
+public:
+    // False with `why` set when neither copy of the title set holds together.
+    bool add(dvd_reader_t *disc, int titleSet, std::string *why)
+    {
+        if (!folder.isValid()) {
+            *why = "no room for a temporary copy of the IFO";
+            return false;
+        }
+        const bool manager = titleSet == 0;
+        const QByteArray ifo = readInfoFile(disc, titleSet, DVD_READ_INFO_FILE);
+        const std::string damage = ifo.isEmpty() ? "missing or empty" : ifoDamage(ifo, manager);
+        QByteArray sound = ifo;
+        if (!damage.empty()) {
+            const QByteArray backup = readInfoFile(disc, titleSet, DVD_READ_INFO_BACKUP_FILE);
+            if (backup.isEmpty() || !ifoDamage(backup, manager).empty()) {
+                *why = damage + (backup.isEmpty() ? ", and no backup" : ", and no sound backup");
+                return false;
+            }
+            qDebug("%s.IFO: %s; reading its backup", qPrintable(titleSetName(titleSet)),
+                   damage.c_str());
+            sound = backup;
+        }
+        QFile file(folder.filePath(titleSetName(titleSet) + QStringLiteral(".IFO")));
+        if (!file.open(QIODevice::WriteOnly) || file.write(sound) != sound.size()) {
+            *why = "no room for a temporary copy of the IFO";
+            return false;
+        }
+        return true;
+    }
+
+    DvdReaderPtr open() const
+    {
+        return DvdReaderPtr(
+            DVDOpen2(nullptr, &dvdLogger, QFile::encodeName(folder.path()).constData()));
+    }
+
+private:
+    QTemporaryDir folder{QDir::tempPath() + QStringLiteral("/kestrove-ifo-XXXXXX")};
+};
+
+int parseTitleSet(dvd_reader_t *disc, int titleSet, IfoRecord *record, std::string *why)
+{
+    SoundCopies copies;
+    if (!copies.add(disc, titleSet, why))
         return -1;
+    const DvdReaderPtr dvd = copies.open();
+    const IfoHandlePtr ifo(dvd ? ifoOpen(dvd.get(), titleSet) : nullptr);
+    if (!usableTitleSet(ifo.get())) {
+        *why = "not readable as a title set";
+        return -1;
+    }
     record->area = copyArea(*ifo);
     const pgcit_t &pgcit = *ifo->vts_pgcit;
     for (int i = 0; i < pgcit.nr_of_pgci_srp; ++i) {
@@ -218,11 +298,17 @@ int parseTitleSet(dvd_reader_t *dvd, int titleSet, IfoRecord *record)
 }
 
 // The entry PGC of each title in the disc's title table.
-int parseDisc(dvd_reader_t *dvd, IfoRecord *record)
+int parseDisc(dvd_reader_t *disc, IfoRecord *record, std::string *why)
 {
-    const IfoHandlePtr vmg(ifoOpen(dvd, 0));
-    if (!vmg || !vmg->tt_srpt)
+    SoundCopies copies;
+    if (!copies.add(disc, 0, why))
         return -1;
+    const DvdReaderPtr dvd = copies.open();
+    const IfoHandlePtr vmg(dvd ? ifoOpen(dvd.get(), 0) : nullptr);
+    if (!vmg || !vmg->tt_srpt) {
+        *why = "not readable as a disc's IFO";
+        return -1;
+    }
     std::map<int, IfoHandlePtr> titleSets;
     bool haveArea = false;
     const tt_srpt_t &titles = *vmg->tt_srpt;
@@ -230,8 +316,15 @@ int parseDisc(dvd_reader_t *dvd, IfoRecord *record)
         const int vts = titles.title[t].title_set_nr;
         const int ttn = titles.title[t].vts_ttn;
         auto found = titleSets.find(vts);
-        if (found == titleSets.end())
-            found = titleSets.emplace(vts, IfoHandlePtr(ifoOpen(dvd, vts))).first;
+        if (found == titleSets.end()) {
+            std::string damage;
+            IfoHandlePtr ifo;
+            if (copies.add(disc, vts, &damage))
+                ifo.reset(ifoOpen(dvd.get(), vts));
+            else
+                qDebug("VTS %d: %s", vts, damage.c_str());
+            found = titleSets.emplace(vts, std::move(ifo)).first;
+        }
         const ifo_handle_t *ifo = found->second.get();
         // A broken title set costs its own titles, not the disc.
         if (!usableTitleSet(ifo) || !ifo->vts_ptt_srpt || ttn < 1
@@ -279,17 +372,23 @@ DvdReaderPtr openDvdReader(const std::string &path)
     return DvdReaderPtr(DVDOpen2(nullptr, &dvdLogger, root.c_str()));
 }
 
-int ifoParse(const std::string &path, IfoRecord *record)
+int ifoParse(const std::string &path, IfoRecord *record, std::string *why)
 {
+    std::string ignored;
+    if (!why)
+        why = &ignored;
+    why->clear();
     if (!record)
         return -1;
     *record = IfoRecord();
     const DvdReaderPtr dvd = openDvdReader(path);
-    if (!dvd)
+    if (!dvd) {
+        *why = "no DVD there";
         return -1;
+    }
     const int titleSet = titleSetOfPath(path);
-    const int result
-        = titleSet > 0 ? parseTitleSet(dvd.get(), titleSet, record) : parseDisc(dvd.get(), record);
+    const int result = titleSet > 0 ? parseTitleSet(dvd.get(), titleSet, record, why)
+                                    : parseDisc(dvd.get(), record, why);
     if (result < 0) {
         *record = IfoRecord();
         return -1;

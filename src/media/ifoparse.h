@@ -78,8 +78,10 @@ struct MediaAttributes
 // Parses the PGCs that `path` addresses: a "VTS_nn_0.IFO" (or .BUP) gives the
 // PGCs of that title set; "VIDEO_TS.IFO", a VIDEO_TS folder, a disc's root
 // folder or a disc device gives the first PGC of every title of the disc.
-// Negative on failure, with nothing to free; else the number of PGCs.
-int ifoParse(const std::string &path, IfoRecord *record);
+// Negative on failure, with nothing to free and `why` saying what is wrong
+// (e.g. "damaged program chain table, and no sound backup"); else the number
+// of PGCs. A damaged IFO is passed over for its backup.
+int ifoParse(const std::string &path, IfoRecord *record, std::string *why = nullptr);
 int ParseMediaArrib(const IfoArea *area, MediaAttributes *attributes);
 void ifoFree(IfoRecord *record);
 

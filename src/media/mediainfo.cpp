@@ -109,6 +109,9 @@ int MediaInfo::probe(const QString &path, const QString &format, int pgc)
     width = 0;
     height = 0;
 
+    // A pipe or a device would block the probe, or never end.
+    if (pgc < 0 && !Utils::unreadableReason(path).isEmpty())
+        return -1;
     TitleSelection selection;
     selection.pgc = pgc;
     int result = 0;
@@ -174,8 +177,7 @@ int MediaInfo::probe(const QString &path, const QString &format, int pgc)
 int MediaInfo::Load(const QString &path)
 {
     forcedFormat.clear();
-    // A pipe or a device would block the probe, or never end.
-    if (!Utils::unreadableReason(path).isEmpty() || probe(path, QString(), -1) < 0)
+    if (probe(path, QString(), -1) < 0)
         return -1;
     // Streams without a decoder may open with a forced demuxer; the names of
     // the first pass stay, since they say more than the retry's.

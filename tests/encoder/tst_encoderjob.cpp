@@ -66,6 +66,8 @@ private slots:
     void mergeDurationIsTheSum();
     void failuresSayWhyAndLeaveNoFakeResult_data();
     void failuresSayWhyAndLeaveNoFakeResult();
+    void damagedDisc_data();
+    void damagedDisc();
     void existingFileIsKeptWithoutOverwrite();
     void fullDiskRemovesTheUnfinishedFile_data();
     void fullDiskRemovesTheUnfinishedFile();
@@ -256,7 +258,9 @@ void TestEncoderJob::codecsFittedToTheOutput_data()
                                        << "";
     QTest::newRow("a title's sound on its time line")
         << "-pgc 0 -audio_track 0 -subtitle -1 -i /d/VTS_01_0.IFO -vcodec wmv2 -acodec wma7x /o.wmv"
-        << "-af aresample=async=1:first_pts=0 -map 0:a:0?" << "" << "";
+        << "-af aresample=async=1:first_pts=0 -map 0:a:0?"
+        << ""
+        << "";
     QTest::newRow("picture series") << "-i /a.mkv -vf scale=64:48 -r 1/5 /p/shot%03d.gif"
                                     << "-c:v gif -f image2 /p/shot%03d.gif"
                                     << "0:a"
@@ -507,6 +511,69 @@ void TestEncoderJob::failuresSayWhyAndLeaveNoFakeResult()
     QVERIFY(code != 0);
     QVERIFY2(log.contains(said.toUtf8()), log.constData());
     QVERIFY(QFileInfo(out).size() == 0);
+}
+
+void TestEncoderJob::damagedDisc_data()
+{
+    QTest::addColumn<QStringList>("damaged"); // of the title set's files
+    QTest::addColumn<int>("exitCode");
+    QTest::addColumn<QStringList>("said");
+
+    // The IFOs say there are 200 PGCs, which once crashed libdvdread.
+    QTest::newRow("IFO damaged, backup sound")
+        << QStringList{QStringLiteral("IFO")} << 0
+        << QStringList{QStringLiteral("VTS_01_0.IFO: damaged program chain table; reading its "
+                                      "backup")};
+    QTest::newRow("IFO and backup damaged")
+        << QStringList{QStringLiteral("IFO"), QStringLiteral("BUP")} << 1
+        << QStringList{QStringLiteral("cannot read title 0 of the DVD behind"),
+                       QStringLiteral(": damaged program chain table, and no sound backup")};
+    // Title 0 is sectors 0-96.
+    QTest::newRow("VOB cut short")
+        << QStringList{QStringLiteral("VOB")} << 1
+        << QStringList{QStringLiteral("skipped 7 unreadable blocks of title 0"),
+                       QStringLiteral("title 0 could not be read whole: unreadable from sector "
+                                      "90 to the end of the title"),
+                       QStringLiteral("removed the unfinished output")};
+}
+
+void TestEncoderJob::damagedDisc()
+{
+    QFETCH(QStringList, damaged);
+    QFETCH(int, exitCode);
+    QFETCH(QStringList, said);
+
+    QTemporaryDir disc;
+    const QString videoTs = copyDisc(QFileInfo(ifo).path(), disc.path());
+    QVERIFY(!videoTs.isEmpty());
+    for (const QString &suffix : damaged) {
+        const QString file = videoTs
+                             + QStringLiteral("/VTS_01_%1.%2")
+                                   .arg(suffix == QLatin1String("VOB") ? 1 : 0)
+                                   .arg(suffix);
+        if (suffix == QLatin1String("VOB")) {
+            QVERIFY(QFile::resize(file, 90 * 2048));
+            continue;
+        }
+        QVERIFY(changeFile(file, [](QByteArray &bytes) {
+            setIfoField(bytes, int(ifoField(bytes, 0xcc, 4)) * 2048, 2, 200);
+        }));
+    }
+    const QString out = dir.filePath(QStringLiteral("damaged.mp4"));
+    QFile::remove(out);
+    QByteArray log;
+    const int code = encode(words(QStringLiteral("-y -pgc 0 -audio_track 0 -subtitle -1 -i "
+                                                 "%1/VTS_01_0.IFO -vf scale=180:144 -vcodec "
+                                                 "mpeg4 %2")
+                                      .arg(videoTs, out)),
+                            &log);
+    QVERIFY2(!log.contains("AddressSanitizer"), log.constData());
+    QCOMPARE(code, exitCode);
+    for (const QString &line : said)
+        QVERIFY2(log.contains(line.toUtf8()), log.constData());
+    QCOMPARE(QFile::exists(out), exitCode == 0);
+    if (exitCode == 0)
+        QVERIFY(qAbs(probeDuration(out) - 4.8) < 0.5);
 }
 
 void TestEncoderJob::existingFileIsKeptWithoutOverwrite()

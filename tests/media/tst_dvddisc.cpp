@@ -93,6 +93,37 @@ void writeFile(const QString &path, const QByteArray &data)
     QCOMPARE(file.write(data), data.size());
 }
 
+// Changes one field of a title set IFO, named as in damagedTables_data().
+void damageField(QByteArray &ifo, const QString &field, quint32 value)
+{
+    const int pgcit = int(ifoField(ifo, 0xcc, 4)) * 2048;
+    const int chapters = int(ifoField(ifo, 0xc8, 4)) * 2048;
+    const int firstPgc = pgcit + int(ifoField(ifo, pgcit + 12, 4));
+    if (field == QLatin1String("PGC count"))
+        setIfoField(ifo, pgcit, 2, value);
+    else if (field == QLatin1String("every PGC start"))
+        for (quint32 i = 0; i < ifoField(ifo, pgcit, 2); ++i)
+            setIfoField(ifo, pgcit + 12 + 8 * int(i), 4, value);
+    else if (field == QLatin1String("first PGC start"))
+        setIfoField(ifo, pgcit + 12, 4, value);
+    else if (field == QLatin1String("cell count"))
+        setIfoField(ifo, firstPgc + 3, 1, value);
+    else if (field == QLatin1String("program count"))
+        setIfoField(ifo, firstPgc + 2, 1, value);
+    else if (field == QLatin1String("chapter table sector"))
+        setIfoField(ifo, 0xc8, 4, value);
+    else if (field == QLatin1String("PGC table sector"))
+        setIfoField(ifo, 0xcc, 4, value);
+    else if (field == QLatin1String("cell address table sector"))
+        setIfoField(ifo, 0xe0, 4, value);
+    else if (field == QLatin1String("first title's chapters"))
+        setIfoField(ifo, chapters + 8, 4, value);
+    else if (field == QLatin1String("length"))
+        ifo.truncate(int(value));
+    else
+        QFAIL(qPrintable(field));
+}
+
 QByteArray randomBytes(int size)
 {
     QByteArray data(size, Qt::Uninitialized);
@@ -117,7 +148,8 @@ private slots:
     void labelTables();
     void badInput_data();
     void badInput();
-    void damagedIfoFallsBackToBackup();
+    void damagedTables_data();
+    void damagedTables();
     void unreadableIfo();
     void ifoFilesOfFolder_data();
     void ifoFilesOfFolder();
@@ -297,20 +329,85 @@ void TestDvdDisc::badInput()
     QVERIFY(parsed.pgcs.empty());
 }
 
-// libdvdread reads the backup when the IFO itself is damaged.
-void TestDvdDisc::damagedIfoFallsBackToBackup()
+void TestDvdDisc::damagedTables_data()
 {
-    QTemporaryDir dir;
-    const QString source = fixture(fixtures, "dvd-main/VIDEO_TS/");
-    for (const char *name : {"VTS_01_0.BUP", "VTS_01_1.VOB"})
-        QVERIFY(QFile::copy(source + QLatin1String(name), dir.filePath(QLatin1String(name))));
-    writeFile(dir.filePath(QStringLiteral("VTS_01_0.IFO")), QByteArray(100, 'x'));
+    QTest::addColumn<QString>("field");
+    QTest::addColumn<quint32>("value");
+    QTest::addColumn<QString>("backup"); // "good", "same damage" or "none"
+    QTest::addColumn<QString>("damage");
 
+    // The fixture's PGCIT is sector 2 and its first PGC starts at byte 64.
+    const QString pgcs = QStringLiteral("damaged program chain table");
+    const QString chapters = QStringLiteral("damaged chapter table");
+    QTest::newRow("PGC count raised") << "PGC count" << 200u << "good" << pgcs;
+    QTest::newRow("PGC count raised, bad backup") << "PGC count" << 200u << "same damage" << pgcs;
+    QTest::newRow("PGC count lowered") << "PGC count" << 6u << "none" << chapters;
+    QTest::newRow("PGCs share a start past the end")
+        << "every PGC start" << 0xffff0000u << "same damage" << pgcs;
+    QTest::newRow("PGC start inside the pointers") << "first PGC start" << 16u << "good" << pgcs;
+    QTest::newRow("cell count raised") << "cell count" << 5u << "good" << pgcs;
+    QTest::newRow("cell count lowered") << "cell count" << 3u << "same damage" << pgcs;
+    QTest::newRow("more programs than cells") << "program count" << 9u << "none" << pgcs;
+    QTest::newRow("chapter table on the PGCs")
+        << "chapter table sector" << 2u << "good" << chapters;
+    QTest::newRow("PGC table past the end") << "PGC table sector" << 1000u << "none" << pgcs;
+    QTest::newRow("PGC table missing") << "PGC table sector" << 0u << "good"
+                                       << "no program chain table";
+    QTest::newRow("cell address table missing")
+        << "cell address table sector" << 0u << "same damage"
+        << "no cell address table";
+    QTest::newRow("chapters before their table")
+        << "first title's chapters" << 0u << "same damage" << chapters;
+    QTest::newRow("chapters past their table")
+        << "first title's chapters" << 0x7fffff00u << "good" << chapters;
+    QTest::newRow("IFO of 100 bytes") << "length" << 100u << "good"
+                                      << "missing or empty";
+    QTest::newRow("IFO cut inside its tables") << "length" << 4096u << "none"
+                                               << "damaged program chain table";
+}
+
+// Whatever the damage, libdvdread only reads a copy that holds together.
+void TestDvdDisc::damagedTables()
+{
+    QFETCH(QString, field);
+    QFETCH(quint32, value);
+    QFETCH(QString, backup);
+    QFETCH(QString, damage);
+
+    const QString source = fixture(fixtures, "dvd-main/VIDEO_TS/VTS_01_0.");
     QTest::ignoreMessage(QtDebugMsg, "drop 2 duplicate pgc.");
-    const std::unique_ptr<DvdDisc> disc
-        = LoadDvdDisc(dir.filePath(QStringLiteral("VTS_01_0.IFO")), false);
-    QVERIFY(disc);
-    QCOMPARE(disc->titles.size(), size_t(3));
+    const std::unique_ptr<DvdDisc> sound = LoadDvdDisc(source + QStringLiteral("IFO"), false);
+    QVERIFY(sound);
+    QFile original(source + QStringLiteral("IFO"));
+    QVERIFY(original.open(QIODevice::ReadOnly));
+    QByteArray ifo = original.readAll();
+    damageField(ifo, field, value);
+
+    QTemporaryDir dir;
+    const QString path = dir.filePath(QStringLiteral("VTS_01_0.IFO"));
+    writeFile(path, ifo);
+    if (backup == QLatin1String("good"))
+        QVERIFY(QFile::copy(source + QStringLiteral("BUP"),
+                            dir.filePath(QStringLiteral("VTS_01_0.BUP"))));
+    else if (backup == QLatin1String("same damage"))
+        writeFile(dir.filePath(QStringLiteral("VTS_01_0.BUP")), ifo);
+
+    QString error;
+    if (backup == QLatin1String("good")) {
+        QTest::ignoreMessage(
+            QtDebugMsg,
+            qPrintable(QStringLiteral("VTS_01_0.IFO: %1; reading its backup").arg(damage)));
+        QTest::ignoreMessage(QtDebugMsg, "drop 2 duplicate pgc.");
+        const std::unique_ptr<DvdDisc> disc = LoadDvdDisc(path, false, &error);
+        QVERIFY2(disc, qPrintable(error));
+        QCOMPARE(describe(*disc, 25, true), describe(*sound, 25, true));
+    } else {
+        QVERIFY(!LoadDvdDisc(path, false, &error));
+        QCOMPARE(error,
+                 damage
+                     + (backup == QLatin1String("none") ? QStringLiteral(", and no backup")
+                                                        : QStringLiteral(", and no sound backup")));
+    }
 }
 
 // Root reads any file whatever its mode, so there the scan must simply work.

@@ -4,7 +4,13 @@
 #include "mediainput.h"
 
 #include <QFile>
+#include <QTemporaryDir>
 #include <QTest>
+
+#include <dlfcn.h>
+#include <dvdread/dvd_reader.h>
+
+#include <set>
 
 extern "C" {
 #include <libavformat/avformat.h>
@@ -12,8 +18,35 @@ extern "C" {
 
 namespace {
 
-// The title's bytes cut out of the VOB file by hand, from the parsed cells.
-QByteArray expectedBytes(const QString &videoTs, int pgc)
+// Read errors put on sectors of the title VOBs.
+struct
+{
+    std::set<int> bad;   // fail every time
+    std::set<int> flaky; // fail the first time only
+    int reads = 0;
+} faults;
+
+} // namespace
+
+// The reader's calls come here before they reach libdvdread.
+extern "C" ssize_t DVDReadBlocks(dvd_file_t *file, int sector, size_t count, unsigned char *data)
+{
+    using Read = ssize_t (*)(dvd_file_t *, int, size_t, unsigned char *);
+    static const auto real = reinterpret_cast<Read>(dlsym(RTLD_NEXT, "DVDReadBlocks"));
+    ++faults.reads;
+    for (int s = sector; s < sector + int(count); ++s) {
+        if (faults.bad.count(s) || faults.flaky.erase(s))
+            return -1;
+    }
+    return real(file, sector, count, data);
+}
+
+namespace {
+
+// The title's blocks cut out of the VOB by hand, less those past its end and
+// those on sectors that `lost` names; `skipped` counts those left out.
+QByteArray readableBytes(const QString &videoTs, int pgc,
+                         const std::function<bool(quint32)> &lost = {}, qint64 *skipped = nullptr)
 {
     IfoRecord record;
     if (ifoParse(QFile::encodeName(videoTs + QStringLiteral("/VTS_01_0.IFO")).toStdString(),
@@ -24,21 +57,33 @@ QByteArray expectedBytes(const QString &videoTs, int pgc)
     if (!vob.open(QIODevice::ReadOnly))
         return {};
     QByteArray bytes;
+    qint64 left = 0;
     for (const IfoCell &cell : record.pgcs[size_t(pgc)].cells) {
-        vob.seek(qint64(cell.start_lba) * 2048);
-        bytes += vob.read(qint64(cell.end_lba - cell.start_lba + 1) * 2048);
+        for (quint32 sector = cell.start_lba; sector <= cell.end_lba; ++sector) {
+            if ((lost && lost(sector)) || (qint64(sector) + 1) * 2048 > vob.size()) {
+                ++left;
+                continue;
+            }
+            vob.seek(qint64(sector) * 2048);
+            bytes += vob.read(2048);
+        }
     }
+    if (skipped)
+        *skipped = left;
     return bytes;
 }
 
-QByteArray readAll(DvdTitleReader &reader, int chunk)
+// All the reader gives; `end` is the last read's result, 0 or -1.
+QByteArray readAll(DvdTitleReader &reader, int chunk, qint64 *end = nullptr)
 {
     QByteArray all;
     QByteArray buffer(chunk, Qt::Uninitialized);
     qint64 n = 0;
     while ((n = reader.read(buffer.data(), chunk)) > 0)
         all += buffer.left(int(n));
-    return n == 0 ? all : QByteArray();
+    if (end)
+        *end = n;
+    return n == 0 || end ? all : QByteArray();
 }
 
 } // namespace
@@ -55,6 +100,10 @@ private slots:
     void streamIds();
     void refusesBadTitles_data();
     void refusesBadTitles();
+    void skipsUnreadableBlocks_data();
+    void skipsUnreadableBlocks();
+    void cellsBeyondTheVobs_data();
+    void cellsBeyondTheVobs();
     void selectsTracksUnderTheDemuxer_data();
     void selectsTracksUnderTheDemuxer();
 
@@ -87,7 +136,7 @@ void TestDvdTitleReader::readsTheCells()
     QFETCH(int, pgc);
     QFETCH(int, chunk);
 
-    const QByteArray expected = expectedBytes(videoTs, pgc);
+    const QByteArray expected = readableBytes(videoTs, pgc);
     QVERIFY(!expected.isEmpty());
     DvdTitleReader reader;
     QVERIFY(reader.open(videoTs + QStringLiteral("/VTS_01_0.IFO"), pgc));
@@ -100,7 +149,7 @@ void TestDvdTitleReader::readsTheCells()
 
 void TestDvdTitleReader::seeks()
 {
-    const QByteArray expected = expectedBytes(videoTs, 0);
+    const QByteArray expected = readableBytes(videoTs, 0);
     DvdTitleReader reader;
     QVERIFY(reader.open(videoTs + QStringLiteral("/VTS_01_0.IFO"), 0));
     char buffer[10000];
@@ -152,6 +201,124 @@ void TestDvdTitleReader::refusesBadTitles()
     char byte = 0;
     QCOMPARE(reader.read(&byte, 1), qint64(-1));
     QCOMPARE(reader.size(), qint64(0));
+}
+
+void TestDvdTitleReader::skipsUnreadableBlocks_data()
+{
+    QTest::addColumn<int>("first"); // the unreadable sectors
+    QTest::addColumn<int>("last");
+    QTest::addColumn<bool>("flaky");
+    QTest::addColumn<QString>("failure");
+
+    // PGC 0 is sectors 0-96 in four cells: 0-20, 21-57, 58-79, 80-96.
+    QTest::newRow("one block") << 30 << 30 << false << QString();
+    QTest::newRow("a block that reads the second time") << 30 << 30 << true << QString();
+    QTest::newRow("the first block") << 0 << 0 << false << QString();
+    QTest::newRow("a run across two cells") << 15 << 30 << false << QString();
+    QTest::newRow("more than one whole read") << 2 << 75 << false << QString();
+    QTest::newRow("the end of the title")
+        << 90 << 96 << false << "unreadable from sector 90 to the end of the title";
+}
+
+void TestDvdTitleReader::skipsUnreadableBlocks()
+{
+    QFETCH(int, first);
+    QFETCH(int, last);
+    QFETCH(bool, flaky);
+    QFETCH(QString, failure);
+
+    qint64 skipped = 0;
+    const QByteArray expected = readableBytes(
+        videoTs, 0, [&](quint32 s) { return !flaky && int(s) >= first && int(s) <= last; },
+        &skipped);
+    DvdTitleReader reader;
+    QVERIFY(reader.open(videoTs + QStringLiteral("/VTS_01_0.IFO"), 0));
+    faults.reads = 0;
+    readAll(reader, 5001);
+    const int cleanReads = faults.reads;
+    QVERIFY(reader.seek(0));
+    faults.reads = 0;
+    for (int s = first; s <= last; ++s)
+        (flaky ? faults.flaky : faults.bad).insert(s);
+    qint64 end = 0;
+    const QByteArray got = readAll(reader, 5001, &end);
+    faults.bad.clear();
+    faults.flaky.clear();
+
+    QCOMPARE(reader.skippedBlocks(), skipped);
+    QCOMPARE(reader.errorString(), failure);
+    QCOMPARE(end, failure.isEmpty() ? 0 : -1);
+    // A passing error costs one read more, not a read for each block.
+    if (flaky)
+        QCOMPARE(faults.reads, cleanReads + 1);
+    QCOMPARE(got.size(), expected.size());
+    QVERIFY(got == expected);
+    // A failed title stays failed until a seek.
+    char byte;
+    QCOMPARE(reader.read(&byte, 1), failure.isEmpty() ? 0 : -1);
+}
+
+void TestDvdTitleReader::cellsBeyondTheVobs_data()
+{
+    QTest::addColumn<int>("pgc");
+    QTest::addColumn<qint64>("vobSize"); // the VOB cut to this many bytes
+    QTest::addColumn<int>("stretch");    // blocks added to the PGC's first cell
+    QTest::addColumn<QString>("failure");
+
+    // The VOB holds 180 blocks; PGC 0 is sectors 0-96 and PGC 5 158-179.
+    QTest::newRow("VOB cut inside the title")
+        << 0 << 90 * 2048LL << 0 << "unreadable from sector 90 to the end of the title";
+    QTest::newRow("VOB cut inside a block")
+        << 5 << 170 * 2048LL - 100 << 0 << "unreadable from sector 169 to the end of the title";
+    QTest::newRow("VOB cut before the title")
+        << 5 << 150 * 2048LL << 0 << "the title lies beyond the end of its VOB files";
+    QTest::newRow("cell past the VOB, then cells in it") << 0 << 180 * 2048LL << 1200 << QString();
+    QTest::newRow("more than 4 MiB past the VOB")
+        << 0 << 180 * 2048LL << 3000 << "2841 blocks in a row unreadable from sector 180";
+}
+
+// A shortened VOB or a cell that ends past it: the blocks past the end count
+// as unreadable, never as the end of the title.
+void TestDvdTitleReader::cellsBeyondTheVobs()
+{
+    QFETCH(int, pgc);
+    QFETCH(qint64, vobSize);
+    QFETCH(int, stretch);
+    QFETCH(QString, failure);
+
+    QTemporaryDir dir;
+    const QString copy = copyDisc(videoTs, dir.path());
+    QVERIFY(!copy.isEmpty());
+    QVERIFY(QFile::resize(copy + QStringLiteral("/VTS_01_1.VOB"), vobSize));
+    if (stretch > 0) {
+        QVERIFY(changeFile(copy + QStringLiteral("/VTS_01_0.IFO"), [&](QByteArray &ifo) {
+            const int lastSector = cellTableOfPgc(ifo, pgc) + 20;
+            setIfoField(ifo, lastSector, 4, ifoField(ifo, lastSector, 4) + quint32(stretch));
+        }));
+        QVERIFY(QFile::remove(copy + QStringLiteral("/VTS_01_0.BUP")));
+    }
+
+    DvdTitleReader reader;
+    const bool opened = reader.open(copy + QStringLiteral("/VTS_01_0.IFO"), pgc);
+    if (!opened) {
+        QCOMPARE(reader.errorString(), failure);
+        return;
+    }
+    qint64 skipped = 0;
+    const QByteArray expected = readableBytes(
+        copy, pgc, [](quint32) { return false; }, &skipped);
+    qint64 end = 0;
+    const QByteArray got = readAll(reader, 65536, &end);
+    QCOMPARE(reader.errorString(), failure);
+    QCOMPARE(end, failure.isEmpty() ? 0 : -1);
+    if (failure.isEmpty()) {
+        QCOMPARE(reader.skippedBlocks(), skipped);
+        QVERIFY(got == expected);
+    } else {
+        // It stops at the long run: what came before is whole.
+        QVERIFY(!got.isEmpty());
+        QVERIFY(expected.startsWith(got));
+    }
 }
 
 void TestDvdTitleReader::selectsTracksUnderTheDemuxer_data()
