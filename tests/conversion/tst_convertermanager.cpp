@@ -481,10 +481,14 @@ void TestConverterManager::remainingTimeFallsAndHoldsAtHalfWay()
 void TestConverterManager::onlyWholeOutputsRemain_data()
 {
     QTest::addColumn<QString>("name");  // the source's name: a copy of clip.mp4
-    QTest::addColumn<QString>("event"); // "stop" after the first progress, "vanish" before the start
+    // "stop" after the first progress; "vanish": the source, "block": the
+    // output folder made impossible before the start
+    QTest::addColumn<QString>("event");
     QTest::addColumn<QString>("reason"); // what the failure says; empty: it succeeds
     QTest::newRow("stopped while writing an MP4") << "clip.mp4" << "stop" << "stopped";
     QTest::newRow("source gone before the start") << "gone.mp4" << "vanish" << "No such file";
+    QTest::newRow("output folder is a file")
+        << "clip.mp4" << "block" << "cannot create the output file";
     QTest::newRow("a name with a number pattern") << "clip%03d.mp4" << "" << "";
 }
 
@@ -507,6 +511,9 @@ void TestConverterManager::onlyWholeOutputsRemain()
     QSignalSpy progress(&manager, &ConverterManager::progressChanged);
     if (event == QLatin1String("vanish"))
         QVERIFY(QFile::remove(source));
+    QFile blocker(outputDir);
+    if (event == QLatin1String("block"))
+        QVERIFY(blocker.open(QIODevice::WriteOnly));
     manager.startTask(id);
     if (event == QLatin1String("stop")) {
         QTRY_VERIFY_WITH_TIMEOUT(!progress.isEmpty(), 20000);
@@ -515,6 +522,8 @@ void TestConverterManager::onlyWholeOutputsRemain()
     const Task &task = *list.byId(id);
     QTRY_VERIFY_WITH_TIMEOUT(task.state == Task::Succeed || task.state == Task::Failed, 20000);
     qunsetenv("KESTROVE_FFMPEG");
+    if (event == QLatin1String("block"))
+        QVERIFY(blocker.remove());
     const QStringList left = QDir(outputDir).entryList(QDir::Files).filter(QStringLiteral(".mp4"));
     if (reason.isEmpty()) {
         QCOMPARE(task.state, Task::Succeed);
