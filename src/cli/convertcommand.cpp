@@ -161,6 +161,7 @@ int ConvertCommand::parseRequest(const QStringList &args, Request &request)
         if (key == QLatin1String("s") && !Task::parseSize(value, &why).isValid())
             return cli.usageError(QStringLiteral("--set s: %1").arg(why));
         request.values.insert(key, value);
+        request.userKeys.insert(key);
     }
 
     if (cli.isSet(QStringLiteral("titles"))) {
@@ -215,6 +216,7 @@ QString ConvertCommand::editTask(const Request &request, int taskId)
 {
     Task &task = *list->byId(taskId);
     task.output.settings = request.values;
+    task.output.userKeys = request.userKeys;
     ChildTask &child = *task.item(0);
     if (request.firstChapter > 0) {
         if (request.lastChapter > std::max(1, int(child.chapters.size())))
@@ -273,6 +275,7 @@ void ConvertCommand::buildTasks(const Request &request, const QList<ImportedSour
         return;
     const int mergeId = list->addMerge(request.profileKey);
     list->byId(mergeId)->output.settings = request.values;
+    list->byId(mergeId)->output.userKeys = request.userKeys;
     QStringList sourcesOfMerge;
     for (int id : std::as_const(accepted)) {
         list->addToMerge(id, mergeId);

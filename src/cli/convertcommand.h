@@ -5,6 +5,7 @@
 
 #include <QMap>
 #include <QObject>
+#include <QSet>
 #include <QStringList>
 
 #include <memory>
@@ -34,6 +35,7 @@ private:
         QStringList inputs;
         QString profileKey;
         QMap<QString, QString> values; // the profile's, with --set over them
+        QSet<QString> userKeys;        // those that --set gave
         QList<int> titles;             // empty: all
         int firstChapter = 0;          // 0: the whole input
         int lastChapter = 0;

@@ -73,8 +73,9 @@ bool gpuUsable()
 }
 
 // Where the output goes, reserved on disk so that a second task that starts
-// at the same moment can't take the same name.
-QString outputPath(Task &task, const QString &commonRoot)
+// at the same moment can't take the same name. False when the name can't be
+// reserved.
+bool reserveOutput(Task &task, const QString &commonRoot, QString *error)
 {
     QString folder = QDir::fromNativeSeparators(Setting::outputDir());
     const QString firstSource = task.items.empty() ? QString() : task.items.front()->sourcePath;
@@ -109,7 +110,44 @@ QString outputPath(Task &task, const QString &commonRoot)
         parts.reserveUnique();
     }
     task.output.filePath = QDir::toNativeSeparators(parts.fullPath());
-    return task.output.filePath;
+    // A series is named by its pattern; its pictures are not reserved.
+    if (task.isPictureSeries() || QFileInfo::exists(task.output.filePath))
+        return true;
+    QFile file(task.output.filePath);
+    if (file.open(QIODevice::WriteOnly | QIODevice::NewOnly))
+        return true;
+    if (error)
+        *error = QStringLiteral("cannot create the output file \"%1\": %2")
+                     .arg(task.output.filePath, file.errorString());
+    return false;
+}
+
+// "30000/1001" for 29.97: the rates of NTSC and film as ffmpeg names them exactly.
+QString rateText(double rate)
+{
+    const double ntsc = rate * 1.001;
+    if (qAbs(ntsc - qRound(ntsc)) < 0.01 && qAbs(rate - qRound(rate)) > 0.01)
+        return QStringLiteral("%1/1001").arg(qRound(ntsc) * 1000);
+    return number(rate);
+}
+
+// The profile's own rate is a ceiling, not a target: a source below it keeps
+// its rate. A rate the user chose is taken as it is. "29.97" means NTSC's.
+QString outputRate(const Task &task)
+{
+    const QString rate = task.value(QStringLiteral("r"));
+    bool numeric = false;
+    const double ceiling = rate.toDouble(&numeric);
+    if (!numeric || ceiling <= 0)
+        return rate;
+    double source = 0;
+    for (const auto &child : task.items)
+        source = qMax(source, child->frameRate);
+    // Near the ceiling (a phone's variable rate) the profile's rate stands.
+    if (task.output.userKeys.contains(QStringLiteral("r")) || source <= 0
+        || source >= ceiling * 0.97)
+        return rateText(ceiling);
+    return rateText(source);
 }
 
 } // namespace
@@ -119,10 +157,26 @@ void CommandBuilder::setGpuEncoderOverride(int usable)
     gpuOverride = usable;
 }
 
-QStringList CommandBuilder::build(Task &task, const QString &commonRoot)
+bool CommandBuilder::prepare(Task &task, const QString &commonRoot, QString *error)
 {
     const bool audioOnly = task.value(QStringLiteral("s")).isEmpty();
-    const QString path = outputPath(task, commonRoot);
+    for (int i = 0; i < task.itemCount(); ++i) {
+        EditParameters &edit = task.items[size_t(i)]->edit;
+        edit.convertEnd = edit.trimEnd;
+        edit.watermarkFile.clear();
+        if (audioOnly)
+            continue;
+        task.prepareFrame(i);
+        const QSize size = task.outputSize();
+        if (edit.hasWatermark())
+            edit.renderWatermark(size.width(), size.height(), EditParameters::newWatermarkPath());
+    }
+    return reserveOutput(task, commonRoot, error);
+}
+
+QStringList CommandBuilder::build(const Task &task)
+{
+    const bool audioOnly = task.value(QStringLiteral("s")).isEmpty();
 
     QStringList args{QStringLiteral("-y")};
     const QString cpu = Setting::cpuUsage();
@@ -133,19 +187,10 @@ QStringList CommandBuilder::build(Task &task, const QString &commonRoot)
     }
 
     for (int i = 0; i < task.itemCount(); ++i) {
-        ChildTask &child = *task.items[size_t(i)];
-        EditParameters &edit = child.edit;
+        const ChildTask &child = *task.items[size_t(i)];
+        const EditParameters &edit = child.edit;
         if (i > 0)
             args << QStringLiteral("-si");
-        if (!audioOnly) {
-            task.prepareFrame(i);
-            const QSize size = task.outputSize();
-            edit.watermarkFile.clear();
-            if (edit.hasWatermark())
-                edit.renderWatermark(size.width(), size.height(),
-                                     EditParameters::newWatermarkPath());
-        }
-        edit.convertEnd = edit.trimEnd;
         args << QStringLiteral("-ss") << number(edit.trimStart);
         if (child.duration - 0.1 > edit.convertEnd - edit.trimStart)
             args << QStringLiteral("-t") << number(edit.convertEnd - edit.trimStart);
@@ -191,7 +236,7 @@ QStringList CommandBuilder::build(Task &task, const QString &commonRoot)
             args << QStringLiteral("-sameq");
         else if (!bitRate.isEmpty())
             args << QStringLiteral("-b:v") << bitRate + QStringLiteral("000");
-        const QString rate = task.value(QStringLiteral("r"));
+        const QString rate = outputRate(task);
         if (!rate.isEmpty() && rate != QLatin1String("Auto"))
             args << QStringLiteral("-r") << rate;
         const QString interval = task.value(QStringLiteral("pi"));
@@ -265,6 +310,6 @@ QStringList CommandBuilder::build(Task &task, const QString &commonRoot)
     }
     if (QFileInfo(task.output.fileName).suffix() == QLatin1String("mkv"))
         args << QStringLiteral("-sn");
-    args << path;
+    args << task.output.filePath;
     return args;
 }

@@ -196,30 +196,18 @@ void ConverterManager::launch(Task &task)
     running.insert(task.id, converter);
 
     task.failure.clear();
-    const QStringList arguments = CommandBuilder::build(task, tasks->commonRootPath());
-    converter->setCommand(arguments, task.id);
+    QString error;
+    const bool prepared = CommandBuilder::prepare(task, tasks->commonRootPath(), &error);
+    converter->setCommand(prepared ? CommandBuilder::build(task) : QStringList(), task.id);
     changeState(task, Task::Running);
-    const QString reservation = reservationError(task);
-    if (!reservation.isEmpty()) {
-        task.failure = reservation;
+    if (!prepared) {
+        task.failure = error;
         // Through the queue, as any other end, after the launch has returned.
         QMetaObject::invokeMethod(
             this, [this, id = task.id] { on_convertFinished(id, false); }, Qt::QueuedConnection);
         return;
     }
     converter->start();
-}
-
-QString ConverterManager::reservationError(const Task &task)
-{
-    // A series is named by its pattern; its pictures are not reserved.
-    if (task.isPictureSeries() || QFileInfo::exists(task.output.filePath))
-        return QString();
-    QFile file(task.output.filePath);
-    if (file.open(QIODevice::WriteOnly | QIODevice::NewOnly))
-        return QString();
-    return QStringLiteral("cannot create the output file \"%1\": %2")
-        .arg(task.output.filePath, file.errorString());
 }
 
 void ConverterManager::release(int taskId)

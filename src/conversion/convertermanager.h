@@ -50,8 +50,6 @@ private:
     void release(int taskId);
     void changeState(Task &task, Task::EState state);
     static QString logFolder();
-    // Why the output name could not be reserved; empty when it was.
-    static QString reservationError(const Task &task);
 
     TaskList *tasks;
     int maxProcesses = 1;

@@ -38,6 +38,8 @@ private slots:
     void failuresSayWhy();
     void unreadableFileSaysPermissionDenied();
     void nameNotValidUtf8Converts();
+    void frameRateOfATitle_data();
+    void frameRateOfATitle();
     void help_data();
     void help();
     void wrongArguments_data();
@@ -631,6 +633,45 @@ void TestCli::nameNotValidUtf8Converts()
     QVERIFY(QFileInfo(task.value(QStringLiteral("output")).toString()).size() > 0);
     // QTemporaryDir can't name it either.
     QCOMPARE(::unlink(name.constData()), 0);
+}
+
+void TestCli::frameRateOfATitle_data()
+{
+    QTest::addColumn<QStringList>("options");
+    QTest::addColumn<QString>("rate");
+    QTest::newRow("the profile's rate is a ceiling") << QStringList() << "25/1";
+    QTest::newRow("a rate the user chose")
+        << QStringList{QStringLiteral("--set"), QStringLiteral("r=29.97")} << "30000/1001";
+}
+
+// A PAL title with the recommended iPhone profile, whose rate is 29.97.
+void TestCli::frameRateOfATitle()
+{
+    QFETCH(QStringList, options);
+    QFETCH(QString, rate);
+    QTemporaryDir out;
+    const Result result = cli(QStringList{QStringLiteral("convert"), input(QStringLiteral("dvd-main")),
+                                          QStringLiteral("--titles"), QStringLiteral("2"),
+                                          QStringLiteral("--profile"), QStringLiteral("15,45"),
+                                          QStringLiteral("--output-dir"), out.path(),
+                                          QStringLiteral("--json")}
+                              + options);
+    QVERIFY2(result.status == 0, qPrintable(result.err));
+    const QString output = result.json()
+                               .value(QStringLiteral("tasks"))
+                               .toArray()
+                               .at(0)
+                               .toObject()
+                               .value(QStringLiteral("output"))
+                               .toString();
+    QProcess probe;
+    probe.start(QStringLiteral("ffprobe"),
+                {QStringLiteral("-v"), QStringLiteral("error"), QStringLiteral("-select_streams"),
+                 QStringLiteral("v"), QStringLiteral("-show_entries"),
+                 QStringLiteral("stream=r_frame_rate"), QStringLiteral("-of"),
+                 QStringLiteral("csv=p=0"), output});
+    QVERIFY(probe.waitForFinished(30000));
+    QCOMPARE(QString::fromLatin1(probe.readAllStandardOutput().trimmed()), rate);
 }
 
 void TestCli::help_data()

@@ -1,4 +1,4 @@
-#include "commandbuilder.h"
+#include "preparedarguments.h"
 #include "encoderjob.h"
 #include "inputprobe.h"
 #include "mediafixtures.h"
@@ -130,7 +130,7 @@ QList<TestCandidateValues::Run> TestCandidateValues::runsOf(const ProfileLookup 
                 task.output.settings[QStringLiteral("s")].clear(); // no video
             if (videoChoice && !dv)
                 task.output.settings[QStringLiteral("an")] = QStringLiteral("True");
-            const QStringList builderArgs = CommandBuilder::build(task, list.commonRootPath());
+            const QStringList builderArgs = preparedArguments(task, list.commonRootPath());
             QFile::remove(task.output.filePath); // the builder reserved it
             if (!audioChoice && !videoChoice) {
                 // Tags: passed as they are, whatever the choice.

@@ -1,4 +1,4 @@
-#include "commandbuilder.h"
+#include "preparedarguments.h"
 #include "dvddisc.h"
 #include "mediafixtures.h"
 #include "optiontable.h"
@@ -111,12 +111,12 @@ void TestCommandBuilder::titleOfTheWorkedExample()
     task.items[0]->edit.zoomMode = QStringLiteral("16:9");
     QCOMPARE(task.output.fileName, QStringLiteral("Title_1.mp4"));
 
-    const QStringList args = CommandBuilder::build(task, list->commonRootPath());
+    const QStringList args = preparedArguments(task, list->commonRootPath());
     const QString out = QDir::toNativeSeparators(outDir() + QStringLiteral("/Title_1.mp4"));
     QCOMPARE(args,
              words(QStringLiteral(
                        "-y -ss 0 -pgc 0 -audio_track 0 -subtitle -1 -i %1 "
-                       "-vf scale=640:360,pad=640:480:0:60 -b:v 1200000 -r 29.97 -vcodec mpeg4 "
+                       "-vf scale=640:360,pad=640:480:0:60 -b:v 1200000 -r 30000/1001 -vcodec mpeg4 "
                        "-threads 4 -aspect 1.33333 -ab 192k -ac 2 -ar 44100 -acodec libfaac")
                        .arg(QDir::toNativeSeparators(task.items[0]->sourcePath)))
                  << out);
@@ -134,7 +134,7 @@ void TestCommandBuilder::mergedFilesWithTrim()
     task.appendItem(*list->byId(list->addFile(QStringLiteral("1,68"), movie))->items[0]);
     task.items[0]->edit.trimStart = 0.5;
     task.items[0]->edit.trimEnd = 1.5;
-    const QStringList args = CommandBuilder::build(task, list->commonRootPath());
+    const QStringList args = preparedArguments(task, list->commonRootPath());
     const int first = args.indexOf(QStringLiteral("-ss"));
     QCOMPARE(args.mid(first, 7), words(QStringLiteral("-ss 0.5 -t 1 -i"))
                                      << clip << QStringLiteral("-vf"));
@@ -169,7 +169,7 @@ void TestCommandBuilder::processorShare()
     QFETCH(QString, expected);
     setSettingString(QStringLiteral("CpuUsage"), usage);
     Task &task = fileTask(QStringLiteral("1,68"), fixture(fixtures, "clip.mp4"));
-    const QStringList args = CommandBuilder::build(task, QString());
+    const QStringList args = preparedArguments(task, QString());
     QCOMPARE(args.first(), QStringLiteral("-y"));
     if (expected.isEmpty())
         QVERIFY(!args.contains(QStringLiteral("-cpu_percent")));
@@ -182,17 +182,17 @@ void TestCommandBuilder::trimNearTheEndAddsNoLength()
     Task &task = fileTask(QStringLiteral("1,68"), fixture(fixtures, "clip.mp4"));
     EditParameters &edit = task.items[0]->edit;
     edit.trimEnd = task.items[0]->duration - 0.05;
-    QVERIFY(!CommandBuilder::build(task, QString()).contains(QStringLiteral("-t")));
+    QVERIFY(!preparedArguments(task, QString()).contains(QStringLiteral("-t")));
     edit.trimEnd = task.items[0]->duration - 0.5;
-    QVERIFY(CommandBuilder::build(task, QString()).contains(QStringLiteral("-t")));
+    QVERIFY(preparedArguments(task, QString()).contains(QStringLiteral("-t")));
 }
 
 void TestCommandBuilder::sameNameTwiceGetsNumbered()
 {
     Task &a = fileTask(QStringLiteral("1,68"), fixture(fixtures, "clip.mp4"));
     Task &b = fileTask(QStringLiteral("1,68"), fixture(fixtures, "clip.mp4"));
-    CommandBuilder::build(a, QString());
-    CommandBuilder::build(b, QString());
+    preparedArguments(a, QString());
+    preparedArguments(b, QString());
     QCOMPARE(QFileInfo(a.output.filePath).fileName(), QStringLiteral("clip.mp4"));
     QCOMPARE(QFileInfo(b.output.filePath).fileName(), QStringLiteral("clip(1).mp4"));
 }
@@ -206,8 +206,8 @@ void TestCommandBuilder::retryGetsANewPath()
     QVERIFY(mine.open(QIODevice::WriteOnly));
     mine.write("mine");
     mine.close();
-    const QString first = CommandBuilder::build(task, QString()).last();
-    const QString second = CommandBuilder::build(task, QString()).last();
+    const QString first = preparedArguments(task, QString()).last();
+    const QString second = preparedArguments(task, QString()).last();
     QCOMPARE(QFileInfo(first).fileName(), QStringLiteral("clip(1).mp4"));
     QCOMPARE(QFileInfo(second).fileName(), QStringLiteral("clip(2).mp4"));
     QVERIFY(mine.open(QIODevice::ReadOnly));
@@ -224,7 +224,7 @@ void TestCommandBuilder::pictureSeries()
     QFile taken(outDir() + QStringLiteral("/shot001.png"));
     QVERIFY(taken.open(QIODevice::WriteOnly));
     taken.close();
-    const QStringList args = CommandBuilder::build(task, QString());
+    const QStringList args = preparedArguments(task, QString());
     QCOMPARE(QFileInfo(args.last()).fileName(), QStringLiteral("shot(1)%03d.png"));
     const int rate = args.lastIndexOf(QStringLiteral("-r"));
     QCOMPARE(args.value(rate + 1), QStringLiteral("1/5"));
@@ -235,7 +235,7 @@ void TestCommandBuilder::audioOnlyProfile()
     Task &task = fileTask(QStringLiteral("1,68"), fixture(fixtures, "clip.mp4"));
     task.output.settings.remove(QStringLiteral("s"));
     task.output.settings[QStringLiteral("g")] = QStringLiteral("12");
-    const QStringList args = CommandBuilder::build(task, QString());
+    const QStringList args = preparedArguments(task, QString());
     QVERIFY(args.contains(QStringLiteral("-vn")));
     QVERIFY(!args.contains(QStringLiteral("-vf")));
     QVERIFY(!args.contains(QStringLiteral("-g")));
@@ -295,7 +295,7 @@ void TestCommandBuilder::audioValues()
     QFETCH(QString, absent);
     Task &task = fileTask(QStringLiteral("1,68"), fixture(fixtures, "clip.mp4"));
     task.output.settings[key] = value;
-    const QString text = CommandBuilder::build(task, QString()).join(QLatin1Char(' '));
+    const QString text = preparedArguments(task, QString()).join(QLatin1Char(' '));
     if (!expected.isEmpty())
         QVERIFY2(text.contains(QLatin1Char(' ') + expected + QLatin1Char(' ')), qPrintable(text));
     if (!absent.isEmpty())
@@ -342,6 +342,23 @@ void TestCommandBuilder::videoValues_data()
                                   << "";
     QTest::newRow("frame rate Auto") << QStringList{QStringLiteral("r=Auto")} << ""
                                      << "-r";
+    // "source=" sets the source's frame rate; "!" marks a value the user chose.
+    QTest::newRow("profile rate is a ceiling")
+        << QStringList{QStringLiteral("source=25"), QStringLiteral("r=29.97")} << "-r 25"
+        << "-r 30000/1001";
+    QTest::newRow("film keeps its rate")
+        << QStringList{QStringLiteral("source=23.976"), QStringLiteral("r=29.97")}
+        << "-r 24000/1001"
+        << "";
+    QTest::newRow("faster source comes down")
+        << QStringList{QStringLiteral("source=50"), QStringLiteral("r=29.97")} << "-r 30000/1001"
+        << "";
+    QTest::newRow("variable rate near the ceiling")
+        << QStringList{QStringLiteral("source=29.5"), QStringLiteral("r=29.97")} << "-r 30000/1001"
+        << "";
+    QTest::newRow("a rate the user chose stands")
+        << QStringList{QStringLiteral("source=25"), QStringLiteral("!r=29.97")} << "-r 30000/1001"
+        << "-r 25";
     QTest::newRow("meta data") << QStringList{QStringLiteral("title=My Film"),
                                               QStringLiteral("year=2001")}
                                << "-metadata title=My Film -metadata year=2001"
@@ -354,10 +371,20 @@ void TestCommandBuilder::videoValues()
     QFETCH(QString, expected);
     QFETCH(QString, absent);
     Task &task = fileTask(QStringLiteral("1,68"), fixture(fixtures, "clip.mp4"));
-    for (const QString &pair : settings)
-        task.output.settings[pair.section(QLatin1Char('='), 0, 0)]
-            = pair.section(QLatin1Char('='), 1);
-    const QString text = CommandBuilder::build(task, QString()).join(QLatin1Char(' '));
+    for (const QString &pair : settings) {
+        QString key = pair.section(QLatin1Char('='), 0, 0);
+        const QString value = pair.section(QLatin1Char('='), 1);
+        if (key == QLatin1String("source")) {
+            task.item(0)->frameRate = value.toDouble();
+            continue;
+        }
+        if (key.startsWith(QLatin1Char('!')))
+            task.output.userKeys.insert(key.remove(0, 1));
+        task.output.settings[key] = value;
+    }
+    const QString text = preparedArguments(task, QString()).join(QLatin1Char(' '));
+    // Building again changes nothing: the list is a function of the task.
+    QCOMPARE(CommandBuilder::build(task).join(QLatin1Char(' ')), text);
     if (!expected.isEmpty())
         QVERIFY2(text.contains(QLatin1Char(' ') + expected + QLatin1Char(' ')), qPrintable(text));
     if (!absent.isEmpty())
@@ -368,9 +395,9 @@ void TestCommandBuilder::extensionMatchIsExact()
 {
     Task &task = fileTask(QStringLiteral("1,68"), fixture(fixtures, "clip.mp4"));
     task.output.fileName = QStringLiteral("a.mkv");
-    QVERIFY(CommandBuilder::build(task, QString()).contains(QStringLiteral("-sn")));
+    QVERIFY(preparedArguments(task, QString()).contains(QStringLiteral("-sn")));
     task.output.fileName = QStringLiteral("b.MKV");
-    QVERIFY(!CommandBuilder::build(task, QString()).contains(QStringLiteral("-sn")));
+    QVERIFY(!preparedArguments(task, QString()).contains(QStringLiteral("-sn")));
 }
 
 void TestCommandBuilder::outputBesideTheSourceAndCopiedTree()
@@ -382,13 +409,13 @@ void TestCommandBuilder::outputBesideTheSourceAndCopiedTree()
 
     setSettingInt(QStringLiteral("OutputToSrc"), 1);
     Task &beside = fileTask(QStringLiteral("1,68"), source);
-    QCOMPARE(CommandBuilder::build(beside, QString()).last(),
+    QCOMPARE(preparedArguments(beside, QString()).last(),
              sources.filePath(QStringLiteral("trip/day 1/clip(1).mp4")));
 
     setSettingInt(QStringLiteral("OutputToSrc"), 0);
     setSettingInt(QStringLiteral("CopyDirStruct"), 1);
     Task &copied = fileTask(QStringLiteral("1,68"), source);
-    QCOMPARE(CommandBuilder::build(copied, sources.filePath(QStringLiteral("trip"))).last(),
+    QCOMPARE(preparedArguments(copied, sources.filePath(QStringLiteral("trip"))).last(),
              outDir() + QStringLiteral("/day 1/clip.mp4"));
     QVERIFY(QFileInfo::exists(outDir() + QStringLiteral("/day 1/clip.mp4")));
 }
@@ -399,7 +426,7 @@ void TestCommandBuilder::watermarkIsRenderedForTheChain()
     task.output.settings[QStringLiteral("s")] = QStringLiteral("320*240");
     WatermarkEntry &mark = task.items[0]->edit.watermark();
     mark.text = QStringLiteral("Kestrove");
-    const QStringList args = CommandBuilder::build(task, QString());
+    const QStringList args = preparedArguments(task, QString());
     const QString chain = args.value(args.indexOf(QStringLiteral("-vf")) + 1);
     const QString file = task.items[0]->edit.watermarkFile;
     QVERIFY(QFile::exists(file));
@@ -445,7 +472,7 @@ void TestCommandBuilder::everyCandidateCodecIsOneFfmpegHas()
                 checked << QLatin1String(key) + value;
                 Task &task = fileTask(QStringLiteral("1,68"), fixture(fixtures, "clip.mp4"));
                 task.output.settings[QLatin1String(key)] = value;
-                const QStringList args = CommandBuilder::build(task, QString());
+                const QStringList args = preparedArguments(task, QString());
                 const int at
                     = args.lastIndexOf(key == QByteArray("vcodec") ? QStringLiteral("-vcodec")
                                                                    : QStringLiteral("-acodec"));

@@ -1,4 +1,4 @@
-#include "commandbuilder.h"
+#include "preparedarguments.h"
 #include "dvddisc.h"
 #include "encoderjob.h"
 #include "mediafixtures.h"
@@ -113,7 +113,7 @@ void TestProfileConversions::start(Job &job, const QString &key, bool title)
     QVERIFY(job.task);
     job.task->output.settings
         = Profile(QStringLiteral(":/profile/") + job.task->output.profileFile).values();
-    const QStringList args = CommandBuilder::build(*job.task, job.list->commonRootPath());
+    const QStringList args = preparedArguments(*job.task, job.list->commonRootPath());
     job.process.setProcessChannelMode(QProcess::MergedChannels);
     job.process.start(encoder, args);
 }
