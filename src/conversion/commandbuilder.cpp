@@ -1,5 +1,6 @@
 #include "commandbuilder.h"
 
+#include "codecnames.h"
 #include "filterchain.h"
 #include "gpuencoder.h"
 #include "pathparts.h"
@@ -37,34 +38,6 @@ const char *const metaKeys[]
 QString number(double value)
 {
     return QString::number(value, 'g', 6);
-}
-
-QString videoCodecName(const QString &value)
-{
-    if (value == QLatin1String("wmv3x"))
-        return QStringLiteral("wmv2");
-    if (value == QLatin1String("realvideo"))
-        return QStringLiteral("rv20");
-    if (value == QLatin1String("vp8"))
-        return QStringLiteral("libvpx");
-    return value;
-}
-
-QString audioCodecName(const QString &value)
-{
-    if (value == QLatin1String("mpeg4aac"))
-        return QStringLiteral("libfaac");
-    if (value == QLatin1String("mp3"))
-        return QStringLiteral("libmp3lame");
-    if (value == QLatin1String("wma7x"))
-        return QStringLiteral("wmav2");
-    if (value == QLatin1String("libamr_nb"))
-        return QStringLiteral("libopencore_amrnb");
-    if (value == QLatin1String("rmaudio"))
-        return QString();
-    if (value == QLatin1String("vorbis"))
-        return QStringLiteral("libvorbis");
-    return value;
 }
 
 bool gpuUsable()
@@ -258,7 +231,8 @@ QStringList CommandBuilder::build(const Task &task)
             args << QStringLiteral("-vtag") << QStringLiteral("DX50") << QStringLiteral("-vcodec")
                  << QStringLiteral("mpeg4");
         } else if (!vcodec.isEmpty()) {
-            args << QStringLiteral("-vcodec") << videoCodecName(vcodec);
+            args << QStringLiteral("-vcodec")
+                 << CodecNames::commandLineName(CodecNames::Kind::Video, vcodec);
         }
         const int threads = Setting::threadCount();
         if ((vcodec == QLatin1String("mpeg4") || vcodec == QLatin1String("mpeg2video")
@@ -295,7 +269,7 @@ QStringList CommandBuilder::build(const Task &task)
         const QString acodec = task.value(QStringLiteral("acodec"));
         if (acodec == QLatin1String("aac"))
             args << QStringLiteral("-strict") << QStringLiteral("experimental");
-        const QString encoderName = audioCodecName(acodec);
+        const QString encoderName = CodecNames::commandLineName(CodecNames::Kind::Audio, acodec);
         if (!encoderName.isEmpty())
             args << QStringLiteral("-acodec") << encoderName;
         const QString vol = task.value(QStringLiteral("vol"));

@@ -372,6 +372,7 @@ void EncoderJob::fitToEncoders()
         output.args.removeAt(at + 1);
         output.args.removeAt(at);
         output.args << QStringLiteral("-q:a") << QString::number(quality);
+        output.notes << QStringLiteral("libvorbis at %1 kbit/s becomes its quality %2").arg(kbits).arg(quality);
     }
 }
 

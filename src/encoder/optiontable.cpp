@@ -1,5 +1,7 @@
 #include "optiontable.h"
 
+#include "codecnames.h"
+
 #include <QRegularExpression>
 
 namespace {
@@ -129,29 +131,6 @@ struct NameRow
     const char *why;
 };
 
-const NameRow videoCodecs[] = {
-    {"cuh264", "h264_nvenc", nullptr},
-    {"xvid", "libxvid", nullptr},
-    {"wmv1x", "wmv1", nullptr},
-    {"wmv2x", "wmv2", nullptr},
-    {"wmv3x", "wmv2", "this ffmpeg has no WMV 9 encoder"},
-    {"realvideo", "rv20", nullptr},
-    {"vp8", "libvpx", nullptr},
-};
-
-const NameRow audioCodecs[] = {
-    {"libfaac", "aac", nullptr},
-    {"mpeg4aac", "aac", nullptr},
-    {"mp3", "libmp3lame", nullptr},
-    {"libamr_nb", "aac", "this ffmpeg has no AMR-NB encoder"},
-    {"libopencore_amrnb", "aac", "this ffmpeg has no AMR-NB encoder"},
-    {"wma7x", "wmav2", nullptr},
-    {"wma8x", "wmav2", nullptr},
-    {"wma9x", "wmav2", "this ffmpeg has no WMA 9 encoder"},
-    {"wmalsl", "wmav2", "this ffmpeg has no WMA Lossless encoder"},
-    {"vorbis", "libvorbis", nullptr},
-};
-
 const NameRow inputFormats[] = {
     {"qt", "", "ffmpeg reads QuickTime files by their content"},
     {"ds", "", "ffmpeg reads these files by their content"},
@@ -191,9 +170,27 @@ QString mapName(const NameRow (&table)[N], const QString &name, const char *what
     return name;
 }
 
+QString codecName(CodecNames::Kind kind, const QString &name, const char *what,
+                  QStringList *notes)
+{
+    QString why;
+    const QString stock = CodecNames::stockName(kind, name, &why);
+    if (notes && stock != name)
+        notes->append(QStringLiteral("%1 \"%2\" becomes \"%3\"%4")
+                          .arg(QLatin1String(what), name, stock,
+                               why.isEmpty() ? QString() : QStringLiteral(": ") + why));
+    return stock;
+}
+
 void add(OutputOptions &out, const char *name, const QString &value)
 {
     out.args << QLatin1Char('-') + QLatin1String(name) << value;
+}
+
+// Every change is said, one line each.
+void said(OutputOptions &out, const QString &name, const QString &becomes)
+{
+    out.notes << QStringLiteral("option -%1 becomes %2").arg(name, becomes);
 }
 
 void applyFlags(OutputOptions &out, const QString &value)
@@ -215,8 +212,10 @@ void applyFlags(OutputOptions &out, const QString &value)
         } else if (!*found->option) {
             out.notes << QStringLiteral("flag \"%1\" has no equivalent: left out").arg(flag);
         } else {
-            add(out, found->option,
-                sign == QLatin1Char('-') ? QStringLiteral("0") : QStringLiteral("1"));
+            const QString value = sign == QLatin1Char('-') ? QStringLiteral("0") : QStringLiteral("1");
+            out.notes << QStringLiteral("flag \"%1\" becomes -%2 %3")
+                             .arg(flag, QLatin1String(found->option), value);
+            add(out, found->option, value);
         }
     }
     if (!kept.isEmpty())
@@ -235,12 +234,12 @@ Arity arity(const QString &name)
 
 QString videoCodec(const QString &name, QStringList *notes)
 {
-    return mapName(videoCodecs, name, "video codec", notes);
+    return codecName(CodecNames::Kind::Video, name, "video codec", notes);
 }
 
 QString audioCodec(const QString &name, QStringList *notes)
 {
-    return mapName(audioCodecs, name, "audio codec", notes);
+    return codecName(CodecNames::Kind::Audio, name, "audio codec", notes);
 }
 
 QString inputFormat(const QString &name, QStringList *notes)
@@ -268,6 +267,7 @@ void applyOutput(OutputOptions &out, const QString &name, const QString &value, 
             out.args << value;
         return;
     case Action::Rename:
+        said(out, name, QLatin1Char('-') + QLatin1String(row->replacement));
         add(out, row->replacement, value);
         return;
     case Action::Drop:
@@ -275,6 +275,7 @@ void applyOutput(OutputOptions &out, const QString &name, const QString &value, 
             << QStringLiteral("option -%1 has no equivalent in this ffmpeg: left out").arg(name);
         return;
     case Action::Input:
+        said(out, name, QStringLiteral("an option of every input"));
         out.inputArgs << QLatin1Char('-') + name << value;
         return;
     case Action::Custom:
@@ -289,28 +290,35 @@ void applyOutput(OutputOptions &out, const QString &name, const QString &value, 
         out.audioCodec = audioCodec(value, &out.notes);
         add(out, "c:a", out.audioCodec);
     } else if (key == "preset") {
-        add(out, "preset",
-            out.videoCodec == QLatin1String("h264_nvenc")
-                ? mapName(nvencPresets, value, "preset", nullptr)
-                : value);
+        const QString preset = out.videoCodec == QLatin1String("h264_nvenc")
+                                   ? mapName(nvencPresets, value, "preset", nullptr)
+                                   : value;
+        if (preset != value)
+            out.notes << QStringLiteral("preset \"%1\" becomes \"%2\"").arg(value, preset);
+        add(out, "preset", preset);
     } else if (key == "sameq") {
         out.sameQuality = true;
     } else if (key == "flags") {
         applyFlags(out, value);
     } else if (key == "map_meta_data") {
         // "-1:0" meant: copy no meta data from any input.
+        said(out, name, QStringLiteral("-map_metadata"));
         add(out, "map_metadata", value.section(QLatin1Char(':'), 0, 0));
     } else if (key == "deinterlace") {
+        said(out, name, QStringLiteral("the yadif filter"));
         if (!hasValue || value != QLatin1String("0"))
             out.preFilters << QStringLiteral("yadif");
     } else if (key == "vol") {
         const int level = value.toInt();
+        said(out, name, QStringLiteral("the volume filter"));
         if (level != 256)
             out.audioFilters
                 << QStringLiteral("volume=%1").arg(QString::number(level / 256.0, 'g', 6));
     } else if (key == "async") {
+        said(out, name, QStringLiteral("the aresample filter"));
         out.audioFilters << QStringLiteral("aresample=async=%1").arg(value.toInt());
     } else if (key == "intra") {
+        said(out, name, QStringLiteral("-g 1"));
         if (!hasValue || value != QLatin1String("0"))
             add(out, "g", QStringLiteral("1"));
     }
@@ -321,12 +329,14 @@ void finish(OutputOptions &out)
     if (!out.sameQuality)
         return;
     // "Same quality as the source" is gone; ask each encoder for near-transparent quality.
+    const char *option = "q:v";
+    QString value = QStringLiteral("2");
     if (out.videoCodec == QLatin1String("libx264") || out.videoCodec == QLatin1String("libx265"))
-        add(out, "crf", QStringLiteral("18"));
+        option = "crf", value = QStringLiteral("18");
     else if (out.videoCodec == QLatin1String("h264_nvenc"))
-        add(out, "cq", QStringLiteral("19"));
-    else
-        add(out, "q:v", QStringLiteral("2"));
+        option = "cq", value = QStringLiteral("19");
+    said(out, QStringLiteral("sameq"), QStringLiteral("-%1 %2").arg(QLatin1String(option), value));
+    add(out, option, value);
 }
 
 QStringList knownOptions()
