@@ -169,7 +169,7 @@ void TestCAVConverter::pauseStopsEveryProcessAndResumes()
         const QList<qint64> tree = processTree(converter.processId());
         QVERIFY2(tree.size() >= 2, "the front runs ffmpeg as its child");
         for (qint64 pid : tree)
-            QTRY_COMPARE_WITH_TIMEOUT(processState(pid), 'T', 5000);
+            QTRY_COMPARE_WITH_TIMEOUT(processState(pid), 'T', 20000);
         // Let anything already in the pipe arrive, then watch for a standstill.
         QTest::qWait(300);
         const int reports = progress.count();
