@@ -280,9 +280,28 @@ void EncoderJob::fitCodecToSize()
     }
 }
 
+void EncoderJob::fitPictureFormat()
+{
+    if (!wantsVideo() || inputs.isEmpty())
+        return;
+    const QString encoder = pictureEncoder();
+    const QString profile = outputOption("profile:v");
+    const int lines = outputSizeOf(inputs.last().videoChain).section(QLatin1Char('x'), 1).toInt();
+    const QStringList formats = EncoderLimits::pictureFormats(encoder, profile, lines);
+    const QString asked = outputOption("pix_fmt");
+    if (formats.isEmpty() || formats.contains(asked))
+        return;
+    if (!asked.isEmpty())
+        output.notes << QStringLiteral("%1 takes no %2 pictures: %3 instead")
+                            .arg(QStringList{encoder, profile}.join(QLatin1Char(' ')).trimmed(),
+                                 asked, formats.first());
+    setOutputOption("pix_fmt", formats.first());
+}
+
 void EncoderJob::fitToEncoders()
 {
     fitCodecToSize();
+    fitPictureFormat();
     const bool dv = container() == QLatin1String("dv");
 
     // Frame rate: MPEG-1/2 streams know a handful; DV one for each line count.

@@ -79,6 +79,8 @@ private:
     void fitToEncoders();
     // Stock encoders that take only some picture sizes.
     void fitCodecToSize();
+    // The picture format the encoder takes with its profile, whatever the source's.
+    void fitPictureFormat();
     QString outputOption(const char *name) const;
     // The container and the encoders that will write the output.
     QString container() const;

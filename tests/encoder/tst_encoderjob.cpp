@@ -218,18 +218,33 @@ void TestEncoderJob::codecsFittedToTheOutput_data()
         << "-r 24000/1001"
         << "-r 15"
         << "mpeg1video has no 15 frames a second";
-    QTest::newRow("MPEG-2 at a rate it has") << "-i /a.mkv -r 29.97 -vcodec mpeg2video /o.mpg"
-                                             << "-r 29.97"
-                                             << ""
-                                             << "";
+    QTest::newRow("MPEG-2 at a rate it has, 4:2:0")
+        << "-i /a.mkv -r 29.97 -vcodec mpeg2video /o.mpg"
+        << "-r 29.97 -c:v mpeg2video -pix_fmt yuv420p"
+        << ""
+        << "";
     QTest::newRow("PAL DV") << "-i /a.mkv -vf scale=720:576 -r 29.97 -ar 32000 -ac 6 /o.dv"
                             << "-r 25 -ar 48000 -ac 2"
                             << "32000"
                             << "DV with 576 lines runs at 25";
-    QTest::newRow("NTSC DV keeps its rate") << "-i /a.mkv -vf scale=720:480 -r 29.97 /o.dv"
-                                            << "-r 29.97"
-                                            << ""
-                                            << "";
+    QTest::newRow("NTSC DV keeps its rate, 4:1:1") << "-i /a.mkv -vf scale=720:480 -r 29.97 /o.dv"
+                                                   << "-r 29.97 -pix_fmt yuv411p"
+                                                   << ""
+                                                   << "";
+    QTest::newRow("DV50 as asked") << "-i /a.mkv -vf scale=720:480 -pix_fmt yuv422p /o.dv"
+                                   << "-pix_fmt yuv422p"
+                                   << "yuv411p"
+                                   << "";
+    QTest::newRow("H.264 baseline from any source")
+        << "-i /a.mkv -vf scale=480:320 -vcodec libx264 -vprofile baseline /o.mp4"
+        << "-profile:v baseline -pix_fmt yuv420p"
+        << ""
+        << "";
+    QTest::newRow("H.264 main asked for 4:4:4")
+        << "-i /a.mkv -vcodec libx264 -vprofile main -pix_fmt yuv444p /o.mp4"
+        << "-pix_fmt yuv420p"
+        << "yuv444p"
+        << "libx264 main takes no yuv444p pictures: yuv420p instead";
     QTest::newRow("MP2 at a sampling rate it lacks")
         << "-i /a.mkv -ab 128k -ar 8000 -acodec mp2 /o.mp2"
         << "-ar 16000"
