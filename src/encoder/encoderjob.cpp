@@ -298,10 +298,26 @@ void EncoderJob::fitPictureFormat()
     setOutputOption("pix_fmt", formats.first());
 }
 
+void EncoderJob::deinterlaceForProgressiveOutput()
+{
+    // Interlaced coding asked for, DV (interlaced by nature), or the
+    // -deinterlace of old, which takes every frame.
+    static const QRegularExpression interlacedCoding(
+        QStringLiteral("(?:^|\\+)il(?:dct|me)(?![a-z])"));
+    if (!wantsVideo() || pictureEncoder() == QLatin1String("dvvideo")
+        || interlacedCoding.match(outputOption("flags")).hasMatch()
+        || output.preFilters.contains(QStringLiteral("yadif")))
+        return;
+    // By the frames' own flags, so that a progressive source passes untouched:
+    // idet's guesses call much of a moving progressive picture interlaced.
+    output.preFilters.prepend(QStringLiteral("bwdif=mode=send_frame:deint=interlaced"));
+}
+
 void EncoderJob::fitToEncoders()
 {
     fitCodecToSize();
     fitPictureFormat();
+    deinterlaceForProgressiveOutput();
     const bool dv = container() == QLatin1String("dv");
 
     // Frame rate: MPEG-1/2 streams know a handful; DV one for each line count.

@@ -81,6 +81,8 @@ private:
     void fitCodecToSize();
     // The picture format the encoder takes with its profile, whatever the source's.
     void fitPictureFormat();
+    // Frames flagged interlaced are deinterlaced for a progressive output.
+    void deinterlaceForProgressiveOutput();
     QString outputOption(const char *name) const;
     // The container and the encoders that will write the output.
     QString container() const;

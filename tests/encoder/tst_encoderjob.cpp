@@ -61,6 +61,7 @@ private slots:
     void soundApartLists();
     // Real conversions through kestrove-encoder
     void titleWithSecondAudioAndBurntSubtitle();
+    void interlacedSourceComesOutWhole();
     void trimmedAndCroppedFile();
     void watermarkOnFile();
     void mergeDurationIsTheSum();
@@ -122,7 +123,8 @@ void TestEncoderJob::titleListBecomesPipedInput()
     layout.audioSpecifier = QStringLiteral("i:0x80");
     QCOMPARE(job->ffmpegArguments({QStringLiteral("pipe:3")}, {layout}),
              words(QStringLiteral(
-                 "-nostdin -y -probesize 50M -f mpeg -i pipe:3 -vf scale=640:360,pad=640:480:0:60 "
+                 "-nostdin -y -probesize 50M -f mpeg -i pipe:3 "
+                 "-vf bwdif=mode=send_frame:deint=interlaced,scale=640:360,pad=640:480:0:60 "
                  "-map 0:v:0? -af aresample=async=1:first_pts=0 -map 0:i:0x80? -b:v 1200000 "
                  "-r 29.97 -c:v mpeg4 -threads 4 "
                  "-aspect 1.33333 -b:a 192k -ac 2 -ar 44100 -c:a aac /v/Title_1.mp4")));
@@ -152,9 +154,11 @@ void TestEncoderJob::mergedListBecomesJoin()
         {QStringLiteral("/a.mkv"), QStringLiteral("/b.mp4")}, {withAudio, silent});
     const QString graph = args.value(args.indexOf(QStringLiteral("-filter_complex")) + 1);
     QCOMPARE(graph,
-             QStringLiteral("[0:v:0]scale=320:240,setsar=1,format=yuv420p[v0];"
+             QStringLiteral("[0:v:0]bwdif=mode=send_frame:deint=interlaced,scale=320:240,setsar=1,"
+                            "format=yuv420p[v0];"
                             "[0:a:0]aresample=48000,aformat=channel_layouts=stereo[a0];"
-                            "[1:v:0]crop=10:10:2:2,scale=320:240,setsar=1,format=yuv420p[v1];"
+                            "[1:v:0]bwdif=mode=send_frame:deint=interlaced,crop=10:10:2:2,"
+                            "scale=320:240,setsar=1,format=yuv420p[v1];"
                             "anullsrc=r=48000:cl=stereo,atrim=duration=3[a1];"
                             "[v0][a0][v1][a1]concat=n=2:v=1:a=1[vout][acat];[acat]volume=2[aout]"));
     // One frame rate for the join when the profile gives none.
@@ -177,7 +181,8 @@ void TestEncoderJob::titleTrimIsDoneOnFrames()
              words(QStringLiteral(
                  "-nostdin -probesize 50M -ifo_palette /d.IFO -f mpeg -i pipe:3 -ss 1.5 -t 2")));
     QCOMPARE(args.value(args.indexOf(QStringLiteral("-filter_complex")) + 1),
-             QStringLiteral("[0:v:0]null[kb];[kb][0:i:0x20]overlay=format=auto,scale=8:8[vout]"));
+             QStringLiteral("[0:v:0]bwdif=mode=send_frame:deint=interlaced[kb];"
+                            "[kb][0:i:0x20]overlay=format=auto,scale=8:8[vout]"));
     QVERIFY2(!args.join(QLatin1Char(' ')).contains(QStringLiteral("0:a")),
              "no audio track was chosen");
 }
@@ -206,11 +211,11 @@ void TestEncoderJob::codecsFittedToTheOutput_data()
                                   << "h263"
                                   << "MP4 files carry no H.263";
     QTest::newRow("RealVideo in steps of 16") << "-i /a.mkv -vf scale=854:480 -vcodec rv20 /o.rm"
-                                              << "-vf scale=854:480,scale=848:480"
+                                              << "interlaced,scale=854:480,scale=848:480"
                                               << ""
                                               << "854x480 becomes 848x480";
     QTest::newRow("RealVideo beyond 1280x720") << "-i /a.mkv -vf scale=1920:1080 -vcodec rv10 /o.rm"
-                                               << "-vf scale=1920:1080,scale=1280:720"
+                                               << "interlaced,scale=1920:1080,scale=1280:720"
                                                << ""
                                                << "1920x1080 becomes 1280x720";
     QTest::newRow("MPEG-1 at a rate it lacks")
@@ -245,6 +250,16 @@ void TestEncoderJob::codecsFittedToTheOutput_data()
         << "-pix_fmt yuv420p"
         << "yuv444p"
         << "libx264 main takes no yuv444p pictures: yuv420p instead";
+    QTest::newRow("interlaced coding keeps the fields")
+        << "-i /a.mkv -vf scale=720:576 -flags +ilme+ildct -vcodec mpeg2video /o.mpg"
+        << "-vf scale=720:576"
+        << "bwdif"
+        << "";
+    QTest::newRow("-deinterlace takes every frame")
+        << "-i /a.mkv -vf scale=64:48 -deinterlace -vcodec mpeg4 /o.avi"
+        << "-vf yadif,scale=64:48"
+        << "bwdif"
+        << "";
     QTest::newRow("MP2 at a sampling rate it lacks")
         << "-i /a.mkv -ab 128k -ar 8000 -acodec mp2 /o.mp2"
         << "-ar 16000"
@@ -432,6 +447,73 @@ void TestEncoderJob::titleWithSecondAudioAndBurntSubtitle()
     // Shown for the first two seconds only.
     QVERIFY(differingShare(grabFrame(burnt, 3.5, 360, 288), grabFrame(clean, 3.5, 360, 288))
             < 0.001);
+}
+
+void TestEncoderJob::interlacedSourceComesOutWhole()
+{
+    // Moving pictures at 50 fields a second, woven into frames and coded
+    // interlaced; and the same pictures progressive.
+    const QString interlaced = dir.filePath(QStringLiteral("interlaced.mkv"));
+    const QString progressive = dir.filePath(QStringLiteral("progressive.mkv"));
+    const QString source = QStringLiteral("-v error -y -f lavfi -i testsrc2=s=320x240:r=%1:d=2 ");
+    QCOMPARE(runTool(QStringLiteral("ffmpeg"),
+                     words(source.arg(50)
+                           + QStringLiteral("-vf interlace -c:v libx264 -crf 12 -flags +ildct+ilme "
+                                            "-field_order tt ")
+                           + interlaced)),
+             0);
+    QCOMPARE(runTool(QStringLiteral("ffmpeg"),
+                     words(source.arg(25) + QStringLiteral("-c:v libx264 -crf 12 ") + progressive)),
+             0);
+    auto convert = [this](const QString &from, const QString &to) {
+        return encode(words(
+            QStringLiteral("-y -i %1 -vf scale=320:240 -vcodec mpeg4 -qscale 2 %2").arg(from, to)));
+    };
+    auto measure = [](const QString &filters, const QStringList &inputs, const char *pattern) {
+        QStringList args;
+        for (const QString &input : inputs)
+            args << QStringLiteral("-i") << input;
+        QByteArray log;
+        runTool(QStringLiteral("ffmpeg"),
+                args << QStringLiteral("-lavfi") << filters << words(QStringLiteral("-f null -")),
+                &log);
+        // The last report: a graph set up twice reports twice, first with nothing counted.
+        QRegularExpressionMatch last;
+        auto it = QRegularExpression(QLatin1String(pattern)).globalMatch(QString::fromUtf8(log));
+        while (it.hasNext())
+            last = it.next();
+        return last;
+    };
+
+    // No combs left, and flagged as whole frames.
+    const QString clean = dir.filePath(QStringLiteral("deinterlaced.mkv"));
+    QCOMPARE(convert(interlaced, clean), 0);
+    const auto fields = measure(QStringLiteral("idet"), {clean},
+                                "Multi frame detection: TFF: *(\\d+) BFF: *(\\d+) "
+                                "Progressive: *(\\d+)");
+    QVERIFY(fields.hasMatch());
+    QVERIFY2(fields.captured(3).toInt() > 0
+                 && fields.captured(3).toInt()
+                        >= 9 * (fields.captured(1).toInt() + fields.captured(2).toInt()),
+             qPrintable(fields.captured(0)));
+    QCOMPARE(probe(clean, QStringLiteral("stream=field_order"), QStringLiteral("v")).trimmed(),
+             QStringLiteral("field_order=progressive"));
+
+    // A progressive source loses nothing to it: as close to the source as
+    // the same encoding without any deinterlacer.
+    const QString kept = dir.filePath(QStringLiteral("kept.mkv"));
+    const QString plain = dir.filePath(QStringLiteral("plain.mkv"));
+    QCOMPARE(convert(progressive, kept), 0);
+    QCOMPARE(runTool(QStringLiteral("ffmpeg"),
+                     words(QStringLiteral("-v error -y -i %1 -c:v mpeg4 -q:v 2 %2")
+                               .arg(progressive, plain))),
+             0);
+    const char *ssim = "All:([0-9.]+)";
+    const auto ours = measure(QStringLiteral("ssim"), {kept, progressive}, ssim);
+    const auto without = measure(QStringLiteral("ssim"), {plain, progressive}, ssim);
+    QVERIFY(ours.hasMatch() && without.hasMatch());
+    QVERIFY2(ours.captured(1).toDouble() >= without.captured(1).toDouble() - 0.0005,
+             qPrintable(ours.captured(0) + QStringLiteral(" / ") + without.captured(0)));
 }
 
 void TestEncoderJob::trimmedAndCroppedFile()
