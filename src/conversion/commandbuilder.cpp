@@ -170,6 +170,8 @@ QStringList CommandBuilder::build(const Task &task)
         const int audio = edit.selectedAudioStream();
         if (child.pgcIndex < 0 && audio > 0)
             args << QStringLiteral("-ast") << QString::number(audio);
+        if (child.pgcIndex < 0 && edit.selectedSubtitleStream() >= 0)
+            args << QStringLiteral("-subtitle") << QString::number(edit.selectedSubtitleStream());
         if (!child.inputFormat.isEmpty())
             args << QStringLiteral("-f") << child.inputFormat;
         if (child.pgcIndex >= 0)

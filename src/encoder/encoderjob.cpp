@@ -53,6 +53,21 @@ QString outputSizeOf(const QString &chain)
     return found.isEmpty() ? QStringLiteral("640x480") : found;
 }
 
+QString optionValue(const QStringList &options, const char *name)
+{
+    const int at = options.indexOf(QLatin1String(name));
+    return at >= 0 ? options.value(at + 1) : QString();
+}
+
+// Subtitles that libavcodec decodes to pictures; the others are text, for libass.
+bool isPictureSubtitle(const QString &codec)
+{
+    static const QStringList pictures
+        = {QStringLiteral("dvd_subtitle"), QStringLiteral("hdmv_pgs_subtitle"),
+           QStringLiteral("dvb_subtitle"), QStringLiteral("dvb_teletext"), QStringLiteral("xsub")};
+    return pictures.contains(codec);
+}
+
 QString joinFilters(const QStringList &parts)
 {
     QStringList nonEmpty;
@@ -182,10 +197,6 @@ double EncoderJob::expectedLength(const QList<InputLayout> &layouts) const
     }
     if (isPictureSeries())
         return 0;
-    auto optionValue = [](const QStringList &options, const char *name) {
-        const int at = options.indexOf(QLatin1String(name));
-        return at >= 0 ? options.value(at + 1) : QString();
-    };
     double total = 0;
     for (int i = 0; i < inputs.size(); ++i) {
         const EncoderInput &input = inputs[i];
@@ -280,9 +291,44 @@ void EncoderJob::fitCodecToSize()
     }
 }
 
+void EncoderJob::fitPictureFormat()
+{
+    if (!wantsVideo() || inputs.isEmpty())
+        return;
+    const QString encoder = pictureEncoder();
+    const QString profile = outputOption("profile:v");
+    const int lines = outputSizeOf(inputs.last().videoChain).section(QLatin1Char('x'), 1).toInt();
+    const QStringList formats = EncoderLimits::pictureFormats(encoder, profile, lines);
+    const QString asked = outputOption("pix_fmt");
+    if (formats.isEmpty() || formats.contains(asked))
+        return;
+    if (!asked.isEmpty())
+        output.notes << QStringLiteral("%1 takes no %2 pictures: %3 instead")
+                            .arg(QStringList{encoder, profile}.join(QLatin1Char(' ')).trimmed(),
+                                 asked, formats.first());
+    setOutputOption("pix_fmt", formats.first());
+}
+
+void EncoderJob::deinterlaceForProgressiveOutput()
+{
+    // Interlaced coding asked for, DV (interlaced by nature), or the
+    // -deinterlace of old, which takes every frame.
+    static const QRegularExpression interlacedCoding(
+        QStringLiteral("(?:^|\\+)il(?:dct|me)(?![a-z])"));
+    if (!wantsVideo() || pictureEncoder() == QLatin1String("dvvideo")
+        || interlacedCoding.match(outputOption("flags")).hasMatch()
+        || output.preFilters.contains(QStringLiteral("yadif")))
+        return;
+    // By the frames' own flags, so that a progressive source passes untouched:
+    // idet's guesses call much of a moving progressive picture interlaced.
+    output.preFilters.prepend(QStringLiteral("bwdif=mode=send_frame:deint=interlaced"));
+}
+
 void EncoderJob::fitToEncoders()
 {
     fitCodecToSize();
+    fitPictureFormat();
+    deinterlaceForProgressiveOutput();
     const bool dv = container() == QLatin1String("dv");
 
     // Frame rate: MPEG-1/2 streams know a handful; DV one for each line count.
@@ -461,6 +507,37 @@ QStringList EncoderJob::soundArguments(const QString &source, const InputLayout 
     return args << QStringLiteral("-f") << QStringLiteral("nut") << QStringLiteral("pipe:1");
 }
 
+QString EncoderJob::sourceFilters(int i, const InputLayout &layout) const
+{
+    QStringList filters = output.preFilters;
+    const EncoderInput &in = inputs[i];
+    if (!in.isTitle() && in.subtitle >= 0
+        && !isPictureSubtitle(layout.subtitleCodecs.value(in.subtitle))) {
+        // The filter reads the file by itself, on the file's own time line;
+        // the frames' time starts at the file's start and seek point.
+        const double shift = layout.startTime + optionValue(in.options, "-ss").toDouble();
+        const QString shiftText = QString::number(shift, 'g', 10);
+        if (shift != 0)
+            filters << QStringLiteral("setpts=PTS+%1/TB").arg(shiftText);
+        filters << QStringLiteral("subtitles=filename=%1:si=%2")
+                       .arg(FilterTranslator::escapeValue(in.path))
+                       .arg(in.subtitle);
+        if (shift != 0)
+            filters << QStringLiteral("setpts=PTS-%1/TB").arg(shiftText);
+    }
+    return filters.join(QLatin1Char(','));
+}
+
+QString EncoderJob::subpictureStream(int i, const InputLayout &layout) const
+{
+    const EncoderInput &in = inputs[i];
+    if (in.subtitle < 0 || !layout.hasVideo
+        || (!in.isTitle() && !isPictureSubtitle(layout.subtitleCodecs.value(in.subtitle))))
+        return QString();
+    return layout.subtitleSpecifier.isEmpty() ? QStringLiteral("s:%1").arg(in.subtitle)
+                                              : layout.subtitleSpecifier;
+}
+
 bool EncoderJob::isSoundOption(const QString &option)
 {
     static const QStringList options
@@ -483,15 +560,9 @@ QStringList EncoderJob::ffmpegArguments(const QStringList &sources,
         args << QStringLiteral("-f") << QStringLiteral("nut") << QStringLiteral("-i")
              << soundSource;
 
-    const QString pre = output.preFilters.join(QLatin1Char(','));
     const QString audioFilters = output.audioFilters.join(QLatin1Char(','));
     auto audioSpec = [&](int i) {
         return audioSpecifier(i, layouts.value(i));
-    };
-    auto subtitleSpec = [&](int i) {
-        const InputLayout layout = layouts.value(i);
-        return layout.subtitleSpecifier.isEmpty() ? QStringLiteral("s:%1").arg(inputs[i].subtitle)
-                                                  : layout.subtitleSpecifier;
     };
     const bool video = wantsVideo();
     const bool audio = wantsAudio();
@@ -504,18 +575,19 @@ QStringList EncoderJob::ffmpegArguments(const QStringList &sources,
             args << QStringLiteral("-t") << in.titleLength;
         const InputLayout layout = layouts.value(0);
         const QString graph = FilterTranslator::translate(in.videoChain).graph;
-        const bool burnTitleSubtitle = in.isTitle() && in.subtitle >= 0 && layout.hasVideo;
-        if (video && burnTitleSubtitle) {
+        const QString source = sourceFilters(0, layout);
+        const QString subpicture = subpictureStream(0, layout);
+        if (video && !subpicture.isEmpty()) {
             // The subpicture lies on the source frame, ahead of crop and scale.
             const QString head
                 = QStringLiteral("[0:v:0]%1[kb];[kb][0:%2]overlay=format=auto")
-                      .arg(pre.isEmpty() ? QStringLiteral("null") : pre, subtitleSpec(0));
+                      .arg(source.isEmpty() ? QStringLiteral("null") : source, subpicture);
             args << QStringLiteral("-filter_complex")
                  << head + (graph.isEmpty() ? QString() : QLatin1Char(',') + graph)
                         + QStringLiteral("[vout]")
                  << QStringLiteral("-map") << QStringLiteral("[vout]");
         } else if (video) {
-            const QString chain = joinFilters({pre, graph});
+            const QString chain = joinFilters({source, graph});
             if (!chain.isEmpty())
                 args << QStringLiteral("-vf") << chain;
             args << QStringLiteral("-map") << QStringLiteral("0:v:0?");
@@ -561,10 +633,22 @@ QStringList EncoderJob::ffmpegArguments(const QStringList &sources,
                     const QString graph
                         = FilterTranslator::translate(in.videoChain, QStringLiteral("i%1").arg(i))
                               .graph;
-                    parts << QStringLiteral("[%1:v:0]%2[v%1]")
-                                 .arg(i)
-                                 .arg(joinFilters({videoTrim, pre, graph,
-                                                   QStringLiteral("setsar=1,format=yuv420p")}));
+                    const QString source = sourceFilters(i, layout);
+                    const QString subpicture = subpictureStream(i, layout);
+                    // A title's subpicture goes on before its trim, which moves the frames' time.
+                    const QString rest = joinFilters(
+                        {videoTrim, graph, QStringLiteral("setsar=1,format=yuv420p")});
+                    if (subpicture.isEmpty())
+                        parts << QStringLiteral("[%1:v:0]%2[v%1]")
+                                     .arg(i)
+                                     .arg(joinFilters({source, rest}));
+                    else
+                        parts << QStringLiteral("[%1:v:0]%2[kb%1]")
+                                     .arg(i)
+                                     .arg(source.isEmpty() ? QStringLiteral("null") : source)
+                              << QStringLiteral("[kb%1][%1:%2]overlay=format=auto,%3[v%1]")
+                                     .arg(i)
+                                     .arg(subpicture, rest);
                 } else {
                     parts << QStringLiteral(
                                  "color=c=black:s=%1:r=%2:d=%3,setsar=1,format=yuv420p[v%4]")

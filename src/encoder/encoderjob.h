@@ -15,7 +15,7 @@ struct EncoderInput
     QString path;
     int pgc = -1;        // 0 or more: a title of the DVD behind the IFO path
     int audioTrack = -1; // of that title, by position; -1 none
-    int subtitle = -1;   // of that title, by position, burnt in; -1 none
+    int subtitle = -1;   // of that title or file, by position, burnt in; -1 none
     int audioStream = 0; // of a file, position among its audio streams
     QString videoChain;  // the program's own -vf text
     // A title arrives through a pipe, where ffmpeg can't seek: its -ss and -t
@@ -30,11 +30,13 @@ struct InputLayout
 {
     bool hasVideo = true;
     bool hasAudio = true;
-    int audioStreams = -1;     // how many, -1 when unknown
-    double duration = 0;       // seconds, 0 when unknown
-    QString frameRate;         // as ffmpeg writes it, "25" or "30000/1001"; empty when unknown
-    QString audioSpecifier;    // stream specifier inside the input; empty: by position
-    QString subtitleSpecifier; // likewise, for a title's burnt-in subpicture
+    int audioStreams = -1;      // how many, -1 when unknown
+    double duration = 0;        // seconds, 0 when unknown
+    QString frameRate;          // as ffmpeg writes it, "25" or "30000/1001"; empty when unknown
+    QString audioSpecifier;     // stream specifier inside the input; empty: by position
+    QString subtitleSpecifier;  // likewise, for a title's burnt-in subpicture
+    QStringList subtitleCodecs; // of a file's subtitle streams, in order
+    double startTime = 0;       // seconds of the file's first timestamp
 };
 
 // The encoder's argument list, parsed, and the stock ffmpeg list made of it.
@@ -79,6 +81,15 @@ private:
     void fitToEncoders();
     // Stock encoders that take only some picture sizes.
     void fitCodecToSize();
+    // The picture format the encoder takes with its profile, whatever the source's.
+    void fitPictureFormat();
+    // Frames flagged interlaced are deinterlaced for a progressive output.
+    void deinterlaceForProgressiveOutput();
+    // Filters on the source frame, ahead of trim, crop and scale: deinterlacing
+    // and a file's text subtitle, burnt in.
+    QString sourceFilters(int i, const InputLayout &layout) const;
+    // The picture subtitle stream to lay over the source frame; empty when none.
+    QString subpictureStream(int i, const InputLayout &layout) const;
     QString outputOption(const char *name) const;
     // The container and the encoders that will write the output.
     QString container() const;

@@ -130,6 +130,27 @@ QList<QPair<int, int>> frameRates(const QString &encoder)
     return {};
 }
 
+QStringList pictureFormats(const QString &encoder, const QString &profile, int lines)
+{
+    // H.264's baseline, main and high profiles have 8-bit 4:2:0 only; libx264
+    // refuses to open for anything else, and NVENC writes no 10-bit H.264.
+    if ((encoder == QLatin1String("libx264")
+         && QStringList(
+                {QStringLiteral("baseline"), QStringLiteral("main"), QStringLiteral("high")})
+                .contains(profile))
+        || encoder == QLatin1String("h264_nvenc"))
+        return {QStringLiteral("yuv420p"), QStringLiteral("yuvj420p"), QStringLiteral("nv12")};
+    // The encoder keeps a 4:2:2 source, which DVD and device players don't take.
+    if (encoder == QLatin1String("mpeg2video"))
+        return {QStringLiteral("yuv420p"), QStringLiteral("yuv422p")};
+    // DV25 is 4:2:0 at 576 lines and 4:1:1 at 480; DV50 4:2:2 at both.
+    if (encoder == QLatin1String("dvvideo") && lines == 576)
+        return {QStringLiteral("yuv420p"), QStringLiteral("yuv411p"), QStringLiteral("yuv422p")};
+    if (encoder == QLatin1String("dvvideo") && lines == 480)
+        return {QStringLiteral("yuv411p"), QStringLiteral("yuv422p")};
+    return {};
+}
+
 QString defaultAudioEncoder(const QString &outputPath, const QString &format)
 {
     const ContainerRow *row = containerOf(outputPath, format);

@@ -25,6 +25,11 @@ QList<int> audioBitRates(const QString &encoder, int sampleRate);
 // numerator and denominator; empty when it takes any.
 QList<QPair<int, int>> frameRates(const QString &encoder);
 
+// Picture formats the encoder writes with this profile (`-profile:v`) at
+// this many lines, the one to take first; empty when ffmpeg's own choice
+// for the source will do.
+QStringList pictureFormats(const QString &encoder, const QString &profile, int lines);
+
 // The container the output is written in: its `-f` format, else its
 // extension.
 QString containerName(const QString &outputPath, const QString &format);

@@ -42,12 +42,13 @@ InputLayout layout(const QString &path, QString *error)
         result.hasVideo |= type == QLatin1String("video");
         result.hasAudio |= type == QLatin1String("audio");
         result.audioStreams += type == QLatin1String("audio") ? 1 : 0;
+        if (type == QLatin1String("subtitle"))
+            result.subtitleCodecs
+                << value.toObject().value(QStringLiteral("codec_name")).toString();
     }
-    result.duration = root.value(QStringLiteral("format"))
-                          .toObject()
-                          .value(QStringLiteral("duration"))
-                          .toString()
-                          .toDouble();
+    const QJsonObject format = root.value(QStringLiteral("format")).toObject();
+    result.duration = format.value(QStringLiteral("duration")).toString().toDouble();
+    result.startTime = format.value(QStringLiteral("start_time")).toString().toDouble();
     return result;
 }
 

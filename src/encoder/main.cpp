@@ -167,7 +167,7 @@ int main(int argc, char *argv[])
         fail(error);
         say(QStringLiteral(
             "usage: kestrove-encoder [-y] [-cpu_percent N] "
-            "{[-si] [-ss S] [-t T] [-pgc P -audio_track A -subtitle B] -i INPUT [-vf CHAIN]}... "
+            "{[-si] [-ss S] [-t T] [-subtitle B] [-pgc P -audio_track A] -i INPUT [-vf CHAIN]}... "
             "[OUTPUT OPTIONS] OUTPUT"));
         return 1;
     }
@@ -194,8 +194,16 @@ int main(int argc, char *argv[])
     for (const EncoderInput &input : job->inputs) {
         if (!input.isTitle()) {
             sources << input.path;
-            // Only a join of several inputs needs to know what each one holds.
-            layouts << (job->inputs.size() > 1 ? probe(input.path) : InputLayout());
+            // Only a join of several inputs, or a subtitle to burn in, needs
+            // to know what each file holds.
+            const bool probed = job->inputs.size() > 1 || input.subtitle >= 0;
+            layouts << (probed ? probe(input.path) : InputLayout());
+            if (input.subtitle >= layouts.last().subtitleCodecs.size()) {
+                fail(QStringLiteral("\"%1\" has no subtitle track %2")
+                         .arg(input.path)
+                         .arg(input.subtitle));
+                return 1;
+            }
             continue;
         }
         auto feeder = std::make_unique<TitleFeeder>();
@@ -234,7 +242,7 @@ int main(int argc, char *argv[])
     // A single file is asked what it holds: whether its sound can go apart,
     // and how long the output must be.
     QList<InputLayout> known = layouts;
-    if (job->inputs.size() == 1 && !job->inputs[0].isTitle())
+    if (job->inputs.size() == 1 && !job->inputs[0].isTitle() && job->inputs[0].subtitle < 0)
         known[0] = probe(job->inputs[0].path);
     if (job->soundApart(known)) {
         std::vector<int> soundFds;

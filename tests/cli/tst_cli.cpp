@@ -397,12 +397,18 @@ void TestCli::convert_data()
         << QStringList{QStringLiteral("clip.mp4"), QStringLiteral("movie.mkv")}
         << mp4 + QStringList{QStringLiteral("--audio"), QStringLiteral("2")} << 1
         << "clip:Failed:- movie:Succeed:3.0" << 0;
-    QTest::newRow("a subtitle burnt in")
+    // The recommended iPhone profile: H.264 baseline, 8-bit 4:2:0 only.
+    const QStringList iphone{QStringLiteral("--profile"), QStringLiteral("15,45")};
+    QTest::newRow("a subtitle burnt in, H.264 baseline")
         << QStringList{QStringLiteral("dvd-main")}
-        << mp4
+        << iphone
                + QStringList{QStringLiteral("--titles"), QStringLiteral("1"),
                              QStringLiteral("--subtitle"), QStringLiteral("1")}
         << 0 << "Title_1:Succeed:4.8" << 0;
+    QTest::newRow("10 bits and 4:4:4 to H.264 baseline")
+        << QStringList{QStringLiteral("h264-10bit.mkv"), QStringLiteral("hevc-10bit.mkv"),
+                       QStringLiteral("yuv444.mkv")}
+        << iphone << 0 << "h264-10bit:Succeed:1.0 hevc-10bit:Succeed:1.0 yuv444:Succeed:1.0" << 0;
     QTest::newRow("merged into one output")
         << QStringList{QStringLiteral("clip.mp4"), QStringLiteral("movie.mkv")}
         << mp4 + QStringList{QStringLiteral("--merge")} << 0 << "Merge 1:Succeed:5.0" << 0;

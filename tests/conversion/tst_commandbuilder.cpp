@@ -40,7 +40,7 @@ private slots:
     void initTestCase();
     void init();
     void titleOfTheWorkedExample();
-    void mergedFilesWithTrim();
+    void mergedFilesWithTrimAndSubtitle();
     void processorShare_data();
     void processorShare();
     void trimNearTheEndAddsNoLength();
@@ -126,7 +126,7 @@ void TestCommandBuilder::titleOfTheWorkedExample()
     QCOMPARE(task.items[0]->edit.convertEnd, task.items[0]->edit.trimEnd);
 }
 
-void TestCommandBuilder::mergedFilesWithTrim()
+void TestCommandBuilder::mergedFilesWithTrimAndSubtitle()
 {
     const QString clip = fixture(fixtures, "clip.mp4");
     const QString movie = fixture(fixtures, "movie.mkv");
@@ -134,13 +134,14 @@ void TestCommandBuilder::mergedFilesWithTrim()
     task.appendItem(*list->byId(list->addFile(QStringLiteral("1,68"), movie))->items[0]);
     task.items[0]->edit.trimStart = 0.5;
     task.items[0]->edit.trimEnd = 1.5;
+    task.items[1]->edit.selectSubtitle(0);
     const QStringList args = preparedArguments(task, list->commonRootPath());
     const int first = args.indexOf(QStringLiteral("-ss"));
     QCOMPARE(args.mid(first, 7), words(QStringLiteral("-ss 0.5 -t 1 -i"))
                                      << clip << QStringLiteral("-vf"));
     const int join = args.indexOf(QStringLiteral("-si"));
     QVERIFY(join > first);
-    QCOMPARE(args.mid(join, 6), words(QStringLiteral("-si -ss 0 -i"))
+    QCOMPARE(args.mid(join, 8), words(QStringLiteral("-si -ss 0 -subtitle 0 -i"))
                                     << movie << QStringLiteral("-vf"));
     QCOMPARE(args.count(QStringLiteral("-vf")), 2);
 }

@@ -60,7 +60,9 @@ private slots:
     void soundApart();
     void soundApartLists();
     // Real conversions through kestrove-encoder
-    void titleWithSecondAudioAndBurntSubtitle();
+    void burntSubtitleShowsInItsIntervalOnly_data();
+    void burntSubtitleShowsInItsIntervalOnly();
+    void interlacedSourceComesOutWhole();
     void trimmedAndCroppedFile();
     void watermarkOnFile();
     void mergeDurationIsTheSum();
@@ -122,7 +124,8 @@ void TestEncoderJob::titleListBecomesPipedInput()
     layout.audioSpecifier = QStringLiteral("i:0x80");
     QCOMPARE(job->ffmpegArguments({QStringLiteral("pipe:3")}, {layout}),
              words(QStringLiteral(
-                 "-nostdin -y -probesize 50M -f mpeg -i pipe:3 -vf scale=640:360,pad=640:480:0:60 "
+                 "-nostdin -y -probesize 50M -f mpeg -i pipe:3 "
+                 "-vf bwdif=mode=send_frame:deint=interlaced,scale=640:360,pad=640:480:0:60 "
                  "-map 0:v:0? -af aresample=async=1:first_pts=0 -map 0:i:0x80? -b:v 1200000 "
                  "-r 29.97 -c:v mpeg4 -threads 4 "
                  "-aspect 1.33333 -b:a 192k -ac 2 -ar 44100 -c:a aac /v/Title_1.mp4")));
@@ -152,9 +155,11 @@ void TestEncoderJob::mergedListBecomesJoin()
         {QStringLiteral("/a.mkv"), QStringLiteral("/b.mp4")}, {withAudio, silent});
     const QString graph = args.value(args.indexOf(QStringLiteral("-filter_complex")) + 1);
     QCOMPARE(graph,
-             QStringLiteral("[0:v:0]scale=320:240,setsar=1,format=yuv420p[v0];"
+             QStringLiteral("[0:v:0]bwdif=mode=send_frame:deint=interlaced,scale=320:240,setsar=1,"
+                            "format=yuv420p[v0];"
                             "[0:a:0]aresample=48000,aformat=channel_layouts=stereo[a0];"
-                            "[1:v:0]crop=10:10:2:2,scale=320:240,setsar=1,format=yuv420p[v1];"
+                            "[1:v:0]bwdif=mode=send_frame:deint=interlaced,crop=10:10:2:2,"
+                            "scale=320:240,setsar=1,format=yuv420p[v1];"
                             "anullsrc=r=48000:cl=stereo,atrim=duration=3[a1];"
                             "[v0][a0][v1][a1]concat=n=2:v=1:a=1[vout][acat];[acat]volume=2[aout]"));
     // One frame rate for the join when the profile gives none.
@@ -177,7 +182,8 @@ void TestEncoderJob::titleTrimIsDoneOnFrames()
              words(QStringLiteral(
                  "-nostdin -probesize 50M -ifo_palette /d.IFO -f mpeg -i pipe:3 -ss 1.5 -t 2")));
     QCOMPARE(args.value(args.indexOf(QStringLiteral("-filter_complex")) + 1),
-             QStringLiteral("[0:v:0]null[kb];[kb][0:i:0x20]overlay=format=auto,scale=8:8[vout]"));
+             QStringLiteral("[0:v:0]bwdif=mode=send_frame:deint=interlaced[kb];"
+                            "[kb][0:i:0x20]overlay=format=auto,scale=8:8[vout]"));
     QVERIFY2(!args.join(QLatin1Char(' ')).contains(QStringLiteral("0:a")),
              "no audio track was chosen");
 }
@@ -206,11 +212,11 @@ void TestEncoderJob::codecsFittedToTheOutput_data()
                                   << "h263"
                                   << "MP4 files carry no H.263";
     QTest::newRow("RealVideo in steps of 16") << "-i /a.mkv -vf scale=854:480 -vcodec rv20 /o.rm"
-                                              << "-vf scale=854:480,scale=848:480"
+                                              << "interlaced,scale=854:480,scale=848:480"
                                               << ""
                                               << "854x480 becomes 848x480";
     QTest::newRow("RealVideo beyond 1280x720") << "-i /a.mkv -vf scale=1920:1080 -vcodec rv10 /o.rm"
-                                               << "-vf scale=1920:1080,scale=1280:720"
+                                               << "interlaced,scale=1920:1080,scale=1280:720"
                                                << ""
                                                << "1920x1080 becomes 1280x720";
     QTest::newRow("MPEG-1 at a rate it lacks")
@@ -218,18 +224,48 @@ void TestEncoderJob::codecsFittedToTheOutput_data()
         << "-r 24000/1001"
         << "-r 15"
         << "mpeg1video has no 15 frames a second";
-    QTest::newRow("MPEG-2 at a rate it has") << "-i /a.mkv -r 29.97 -vcodec mpeg2video /o.mpg"
-                                             << "-r 29.97"
-                                             << ""
-                                             << "";
+    QTest::newRow("MPEG-2 at a rate it has, 4:2:0")
+        << "-i /a.mkv -r 29.97 -vcodec mpeg2video /o.mpg"
+        << "-r 29.97 -c:v mpeg2video -pix_fmt yuv420p"
+        << ""
+        << "";
     QTest::newRow("PAL DV") << "-i /a.mkv -vf scale=720:576 -r 29.97 -ar 32000 -ac 6 /o.dv"
                             << "-r 25 -ar 48000 -ac 2"
                             << "32000"
                             << "DV with 576 lines runs at 25";
-    QTest::newRow("NTSC DV keeps its rate") << "-i /a.mkv -vf scale=720:480 -r 29.97 /o.dv"
-                                            << "-r 29.97"
-                                            << ""
-                                            << "";
+    QTest::newRow("NTSC DV keeps its rate, 4:1:1") << "-i /a.mkv -vf scale=720:480 -r 29.97 /o.dv"
+                                                   << "-r 29.97 -pix_fmt yuv411p"
+                                                   << ""
+                                                   << "";
+    QTest::newRow("DV50 as asked") << "-i /a.mkv -vf scale=720:480 -pix_fmt yuv422p /o.dv"
+                                   << "-pix_fmt yuv422p"
+                                   << "yuv411p"
+                                   << "";
+    QTest::newRow("H.264 baseline from any source")
+        << "-i /a.mkv -vf scale=480:320 -vcodec libx264 -vprofile baseline /o.mp4"
+        << "-profile:v baseline -pix_fmt yuv420p"
+        << ""
+        << "";
+    QTest::newRow("H.264 main asked for 4:4:4")
+        << "-i /a.mkv -vcodec libx264 -vprofile main -pix_fmt yuv444p /o.mp4"
+        << "-pix_fmt yuv420p"
+        << "yuv444p"
+        << "libx264 main takes no yuv444p pictures: yuv420p instead";
+    QTest::newRow("interlaced coding keeps the fields")
+        << "-i /a.mkv -vf scale=720:576 -flags +ilme+ildct -vcodec mpeg2video /o.mpg"
+        << "-vf scale=720:576"
+        << "bwdif"
+        << "";
+    QTest::newRow("-deinterlace takes every frame")
+        << "-i /a.mkv -vf scale=64:48 -deinterlace -vcodec mpeg4 /o.avi"
+        << "-vf yadif,scale=64:48"
+        << "bwdif"
+        << "";
+    QTest::newRow("a text subtitle on the file's time line")
+        << "-ss 1.5 -subtitle 0 -i /a.mkv -vf scale=64:48 -vcodec mpeg4 /o.avi"
+        << "interlaced,setpts=PTS+1.5/TB,subtitles=filename=/a.mkv:si=0,setpts=PTS-1.5/TB,scale"
+        << "-filter_complex"
+        << "";
     QTest::newRow("MP2 at a sampling rate it lacks")
         << "-i /a.mkv -ab 128k -ar 8000 -acodec mp2 /o.mp2"
         << "-ar 16000"
@@ -392,31 +428,116 @@ void TestEncoderJob::badLists()
     QVERIFY2(said.contains(error), qPrintable(said));
 }
 
-void TestEncoderJob::titleWithSecondAudioAndBurntSubtitle()
+void TestEncoderJob::burntSubtitleShowsInItsIntervalOnly_data()
 {
+    QTest::addColumn<QString>("input"); // %1 the subtitle, %2 the fixture folder
+    QTest::addColumn<double>("seconds");
+    QTest::addColumn<double>("pitch"); // of the sound taken, 0 for none
+    QTest::addColumn<double>("shown"); // a moment with the subtitle on
+    QTest::addColumn<double>("gone");  // and one after it
+    // The title's second track is the 660 Hz one; the first is 440 Hz.
+    QTest::newRow("DVD title, second audio track")
+        << "-pgc 0 -audio_track 1 -subtitle %1 -i %2/dvd-main/VIDEO_TS/VTS_01_0.IFO" << 4.8 << 660.0
+        << 1.0 << 3.5;
+    QTest::newRow("text stream of a file")
+        << "-subtitle %1 -i %2/movie.mkv" << 3.0 << 440.0 << 1.0 << 2.5;
+    QTest::newRow("picture stream of a file")
+        << "-subtitle %1 -i %2/subpicture.mkv" << 4.8 << 0.0 << 1.0 << 3.5;
+}
+
+void TestEncoderJob::burntSubtitleShowsInItsIntervalOnly()
+{
+    QFETCH(QString, input);
+    QFETCH(double, seconds);
+    QFETCH(double, pitch);
+    QFETCH(double, shown);
+    QFETCH(double, gone);
     const QString burnt = dir.filePath(QStringLiteral("burnt.mp4"));
     const QString clean = dir.filePath(QStringLiteral("clean.mp4"));
+    const QString common = QStringLiteral("-y -ss 0 ") + input
+                           + QStringLiteral(" -vf scale=360:288 -vcodec mpeg4 -qscale 2 "
+                                            "-acodec libfaac -ab 128k ");
     QByteArray log;
-    const QString common
-        = QStringLiteral("-pgc 0 -audio_track 1 -subtitle %1 -i %2 -vf scale=360:288 "
-                         "-vcodec mpeg4 -b:v 800000 -acodec libfaac -ab 128k ");
-    QCOMPARE(encode(words(QStringLiteral("-y -ss 0 ") + common.arg(0).arg(ifo) + burnt), &log), 0);
-    QCOMPARE(encode(words(QStringLiteral("-y -ss 0 ") + common.arg(-1).arg(ifo) + clean), &log), 0);
+    QVERIFY2(encode(words(common.arg(0).arg(fixtures) + burnt), &log) == 0, log.constData());
+    QVERIFY2(encode(words(common.arg(-1).arg(fixtures) + clean), &log) == 0, log.constData());
 
-    QVERIFY(qAbs(probeDuration(burnt) - 4.8) < 0.5);
-    QCOMPARE(probe(burnt, QStringLiteral("stream=codec_name"), QStringLiteral("a")).trimmed(),
-             QStringLiteral("codec_name=aac"));
-    // The second track is the 660 Hz one; the first is 440 Hz.
-    const double pitch = crossingsPerSecond(burnt) / 2;
-    QVERIFY2(qAbs(pitch - 660) < 30, qPrintable(QString::number(pitch)));
+    QVERIFY(qAbs(probeDuration(burnt) - seconds) < 0.5);
+    if (pitch > 0)
+        QVERIFY2(qAbs(crossingsPerSecond(burnt) / 2 - pitch) < 30,
+                 qPrintable(QString::number(crossingsPerSecond(burnt) / 2)));
+    const double on
+        = differingShare(grabFrame(burnt, shown, 360, 288), grabFrame(clean, shown, 360, 288));
+    QVERIFY2(on > 0.002, qPrintable(QString::number(on)));
+    const double off
+        = differingShare(grabFrame(burnt, gone, 360, 288), grabFrame(clean, gone, 360, 288));
+    QVERIFY2(off >= 0 && off < 0.001, qPrintable(QString::number(off)));
+}
 
-    const QImage withSubtitle = grabFrame(burnt, 1.0, 360, 288);
-    const QImage without = grabFrame(clean, 1.0, 360, 288);
-    QVERIFY(!withSubtitle.isNull() && !without.isNull());
-    QVERIFY2(differingShare(withSubtitle, without) > 0.002, "no subtitle to be seen");
-    // Shown for the first two seconds only.
-    QVERIFY(differingShare(grabFrame(burnt, 3.5, 360, 288), grabFrame(clean, 3.5, 360, 288))
-            < 0.001);
+void TestEncoderJob::interlacedSourceComesOutWhole()
+{
+    // Moving pictures at 50 fields a second, woven into frames and coded
+    // interlaced; and the same pictures progressive.
+    const QString interlaced = dir.filePath(QStringLiteral("interlaced.mkv"));
+    const QString progressive = dir.filePath(QStringLiteral("progressive.mkv"));
+    const QString source = QStringLiteral("-v error -y -f lavfi -i testsrc2=s=320x240:r=%1:d=2 ");
+    QCOMPARE(runTool(QStringLiteral("ffmpeg"),
+                     words(source.arg(50)
+                           + QStringLiteral("-vf interlace -c:v libx264 -crf 12 -flags +ildct+ilme "
+                                            "-field_order tt ")
+                           + interlaced)),
+             0);
+    QCOMPARE(runTool(QStringLiteral("ffmpeg"),
+                     words(source.arg(25) + QStringLiteral("-c:v libx264 -crf 12 ") + progressive)),
+             0);
+    auto convert = [this](const QString &from, const QString &to) {
+        return encode(words(
+            QStringLiteral("-y -i %1 -vf scale=320:240 -vcodec mpeg4 -qscale 2 %2").arg(from, to)));
+    };
+    auto measure = [](const QString &filters, const QStringList &inputs, const char *pattern) {
+        QStringList args;
+        for (const QString &input : inputs)
+            args << QStringLiteral("-i") << input;
+        QByteArray log;
+        runTool(QStringLiteral("ffmpeg"),
+                args << QStringLiteral("-lavfi") << filters << words(QStringLiteral("-f null -")),
+                &log);
+        // The last report: a graph set up twice reports twice, first with nothing counted.
+        QRegularExpressionMatch last;
+        auto it = QRegularExpression(QLatin1String(pattern)).globalMatch(QString::fromUtf8(log));
+        while (it.hasNext())
+            last = it.next();
+        return last;
+    };
+
+    // No combs left, and flagged as whole frames.
+    const QString clean = dir.filePath(QStringLiteral("deinterlaced.mkv"));
+    QCOMPARE(convert(interlaced, clean), 0);
+    const auto fields = measure(QStringLiteral("idet"), {clean},
+                                "Multi frame detection: TFF: *(\\d+) BFF: *(\\d+) "
+                                "Progressive: *(\\d+)");
+    QVERIFY(fields.hasMatch());
+    QVERIFY2(fields.captured(3).toInt() > 0
+                 && fields.captured(3).toInt()
+                        >= 9 * (fields.captured(1).toInt() + fields.captured(2).toInt()),
+             qPrintable(fields.captured(0)));
+    QCOMPARE(probe(clean, QStringLiteral("stream=field_order"), QStringLiteral("v")).trimmed(),
+             QStringLiteral("field_order=progressive"));
+
+    // A progressive source loses nothing to it: as close to the source as
+    // the same encoding without any deinterlacer.
+    const QString kept = dir.filePath(QStringLiteral("kept.mkv"));
+    const QString plain = dir.filePath(QStringLiteral("plain.mkv"));
+    QCOMPARE(convert(progressive, kept), 0);
+    QCOMPARE(runTool(QStringLiteral("ffmpeg"),
+                     words(QStringLiteral("-v error -y -i %1 -c:v mpeg4 -q:v 2 %2")
+                               .arg(progressive, plain))),
+             0);
+    const char *ssim = "All:([0-9.]+)";
+    const auto ours = measure(QStringLiteral("ssim"), {kept, progressive}, ssim);
+    const auto without = measure(QStringLiteral("ssim"), {plain, progressive}, ssim);
+    QVERIFY(ours.hasMatch() && without.hasMatch());
+    QVERIFY2(ours.captured(1).toDouble() >= without.captured(1).toDouble() - 0.0005,
+             qPrintable(ours.captured(0) + QStringLiteral(" / ") + without.captured(0)));
 }
 
 void TestEncoderJob::trimmedAndCroppedFile()
