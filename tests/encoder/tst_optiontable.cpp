@@ -194,9 +194,17 @@ void TestOptionTable::translates()
                                        &error);
     QVERIFY2(job, qPrintable(error));
     QCOMPARE(job->outputPath, QStringLiteral("out.mkv"));
-    QCOMPARE(job->output.args, expected);
+    // The picture format and the deinterlacing fitted to every source are the
+    // job's, not the table's.
+    QStringList translated = job->output.args;
+    const int format = translated.indexOf(QStringLiteral("-pix_fmt"));
+    if (!written.contains(QStringLiteral("-pix_fmt")) && format >= 0)
+        translated.remove(format, 2);
+    QStringList preFilters = job->output.preFilters;
+    preFilters.removeIf([](const QString &filter) { return filter.startsWith(QLatin1String("bwdif")); });
+    QCOMPARE(translated, expected);
     QCOMPARE(job->output.inputArgs, inputArgs);
-    QCOMPARE(job->output.preFilters.join(QLatin1Char(',')), videoFilters);
+    QCOMPARE(preFilters.join(QLatin1Char(',')), videoFilters);
     QCOMPARE(job->output.audioFilters.join(QLatin1Char(',')), audioFilters);
     // Whatever changes is said; what stands as written, or in ffmpeg's newer
     // spelling of the same option, is not.
