@@ -1,6 +1,7 @@
 #include "inputprobe.h"
 
 #include "dvddisc.h"
+#include "mediainput.h"
 
 #include <QFileInfo>
 #include <QJsonArray>
@@ -43,11 +44,16 @@ InputLayout layout(const QString &path, QString *error)
         result.hasAudio |= type == QLatin1String("audio");
         result.audioStreams += type == QLatin1String("audio") ? 1 : 0;
     }
-    result.duration = root.value(QStringLiteral("format"))
-                          .toObject()
-                          .value(QStringLiteral("duration"))
-                          .toString()
-                          .toDouble();
+    const QJsonObject format = root.value(QStringLiteral("format")).toObject();
+    result.duration = format.value(QStringLiteral("duration")).toString().toDouble();
+    // ffprobe counts a program stream from its first timestamp to its last,
+    // which is wrong where they start again inside (a disc's cells, a
+    // recorder's joins): there the output would look cut short.
+    if (format.value(QStringLiteral("format_name")).toString() == QLatin1String("mpeg")) {
+        const double restarted = restartedDuration(path);
+        if (restarted > 0.0)
+            result.duration = restarted;
+    }
     return result;
 }
 

@@ -140,8 +140,10 @@ int MediaInfo::probe(const QString &path, const QString &format, int pgc)
     result = avformat_find_stream_info(context.get(), nullptr);
     if (result < 0)
         return result;
-    duration = context->duration * 1e-06;
-    if (context->duration == AV_NOPTS_VALUE || duration <= 0.0)
+    // A program stream whose timestamps start again is walked through.
+    const double restarted = pgc < 0 ? restartedDuration(context.get()) : 0.0;
+    duration = restarted > 0.0 ? restarted : context->duration * 1e-06;
+    if ((restarted <= 0.0 && context->duration == AV_NOPTS_VALUE) || duration <= 0.0)
         return -1;
 
     for (unsigned i = 0; i < context->nb_chapters; ++i) {

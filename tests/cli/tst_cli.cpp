@@ -394,6 +394,9 @@ void TestCli::convert_data()
                + QStringList{QStringLiteral("--titles"), QStringLiteral("1"),
                              QStringLiteral("--subtitle"), QStringLiteral("1")}
         << 0 << "Title_1:Succeed:4.8" << 0;
+    // Its clock set back halfway: the encoder front must not take it for cut short.
+    QTest::newRow("a recorder's VOB")
+        << QStringList{QStringLiteral("recorder.vob")} << mp4 << 0 << "recorder:Succeed:20.0" << 0;
     QTest::newRow("merged into one output")
         << QStringList{QStringLiteral("clip.mp4"), QStringLiteral("movie.mkv")}
         << mp4 + QStringList{QStringLiteral("--merge")} << 0 << "Merge 1:Succeed:5.0" << 0;

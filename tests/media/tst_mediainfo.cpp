@@ -142,6 +142,19 @@ void TestMediaInfo::probe_data()
         << ""
         << ""
         << "";
+    // Program streams whose timestamps start again: the walk through them
+    // counts what plays.
+    QTest::newRow("recorder VOB, clock set back")
+        << fixture(fixtures, "recorder.vob") << 20.0 << "mpeg2video 352x288@25 0"
+        << "1::48000:1:mp2"
+        << ""
+        << "";
+    QTest::newRow("VOB of a disc, cells from 0 each")
+        << fixture(fixtures, "dvd-main/VIDEO_TS/VTS_01_1.VOB") << 8.8
+        << "mpeg2video 720x576@25 1.333"
+        << "2::48000:2:ac3 3::48000:2:mp2"
+        << "4:"
+        << "";
     QTest::newRow("audio only") << fixture(fixtures, "tone.flac") << 2.5 << ""
                                 << "0::44100:1:flac"
                                 << ""
