@@ -251,7 +251,11 @@ void Task::prepareFrame(int index)
     } else if (edit.zoomMode == QLatin1String("16:9")) {
         ratio = 1.7777777777777777;
     } else {
-        ratio = double(cw) / double(ch);
+        // The cropped part keeps the shape of the source's pixels.
+        const double pixelAspect = child->displayAspect > 0.0 && child->width > 0
+                                       ? child->displayAspect * child->height / child->width
+                                       : 1.0;
+        ratio = double(cw) / double(ch) * pixelAspect;
     }
 
     // An odd bar moves one pixel to the left or the bottom one, so that the

@@ -1,6 +1,7 @@
 #include "inputprobe.h"
 
 #include "dvddisc.h"
+#include "mediainput.h"
 
 #include <QFileInfo>
 #include <QJsonArray>
@@ -49,6 +50,14 @@ InputLayout layout(const QString &path, QString *error)
     const QJsonObject format = root.value(QStringLiteral("format")).toObject();
     result.duration = format.value(QStringLiteral("duration")).toString().toDouble();
     result.startTime = format.value(QStringLiteral("start_time")).toString().toDouble();
+    // ffprobe counts a program stream from its first timestamp to its last,
+    // which is wrong where they start again inside (a disc's cells, a
+    // recorder's joins): there the output would look cut short.
+    if (format.value(QStringLiteral("format_name")).toString() == QLatin1String("mpeg")) {
+        const double restarted = restartedDuration(path);
+        if (restarted > 0.0)
+            result.duration = restarted;
+    }
     return result;
 }
 

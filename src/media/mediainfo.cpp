@@ -8,16 +8,19 @@
 #include <QDebug>
 #include <QFile>
 #include <QMutex>
+#include <QTransform>
 
 extern "C" {
 #include <libavcodec/avcodec.h>
 #include <libavformat/avformat.h>
 #include <libavutil/dict.h>
+#include <libavutil/display.h>
 #include <libswscale/swscale.h>
 }
 
 #include <cctype>
 #include <climits>
+#include <cmath>
 
 namespace {
 
@@ -80,6 +83,21 @@ QString codecName(const AVCodecParameters &codec, bool *known)
     return QString::asprintf("0x%04x", tag).left(31);
 }
 
+// Degrees clockwise that a picture is turned for display (0, 90, 180 or
+// 270), from the stream's display matrix: what ffmpeg's autorotate does.
+int displayRotation(const AVStream &stream)
+{
+    const auto *matrix = reinterpret_cast<const int32_t *>(
+        av_stream_get_side_data(&stream, AV_PKT_DATA_DISPLAYMATRIX, nullptr));
+    if (!matrix)
+        return 0;
+    const double counterClockwise = av_display_rotation_get(matrix);
+    if (std::isnan(counterClockwise))
+        return 0;
+    const int quarters = int(std::lround(-counterClockwise / 90.0));
+    return (quarters % 4 + 4) % 4 * 90;
+}
+
 QString language(const AVStream &stream)
 {
     const AVDictionaryEntry *entry = av_dict_get(stream.metadata, "language", nullptr, 0);
@@ -108,6 +126,7 @@ int MediaInfo::probe(const QString &path, const QString &format, int pgc)
     allCodecsKnown = true;
     width = 0;
     height = 0;
+    displayAspect = 0.0;
 
     // A pipe or a device would block the probe, or never end.
     if (pgc < 0 && !Utils::unreadableReason(path).isEmpty())
@@ -121,8 +140,10 @@ int MediaInfo::probe(const QString &path, const QString &format, int pgc)
     result = avformat_find_stream_info(context.get(), nullptr);
     if (result < 0)
         return result;
-    duration = context->duration * 1e-06;
-    if (context->duration == AV_NOPTS_VALUE || duration <= 0.0)
+    // A program stream whose timestamps start again is walked through.
+    const double restarted = pgc < 0 ? restartedDuration(context.get()) : 0.0;
+    duration = restarted > 0.0 ? restarted : context->duration * 1e-06;
+    if ((restarted <= 0.0 && context->duration == AV_NOPTS_VALUE) || duration <= 0.0)
         return -1;
 
     for (unsigned i = 0; i < context->nb_chapters; ++i) {
@@ -146,8 +167,17 @@ int MediaInfo::probe(const QString &path, const QString &format, int pgc)
         bool known = true;
         if (codec.codec_type == AVMEDIA_TYPE_VIDEO && !hasVideo) {
             hasVideo = true;
-            width = codec.width;
-            height = codec.height;
+            // The picture as shown: turned, and with the shape of its pixels.
+            const bool turned = displayRotation(stream) % 180 != 0;
+            width = turned ? codec.height : codec.width;
+            height = turned ? codec.width : codec.height;
+            const AVRational pixel
+                = av_guess_sample_aspect_ratio(context.get(), context->streams[i], nullptr);
+            if (pixel.num > 0 && pixel.den > 0 && pixel.num != pixel.den && codec.height > 0) {
+                const double aspect
+                    = double(codec.width) * pixel.num / (double(codec.height) * pixel.den);
+                displayAspect = turned ? 1.0 / aspect : aspect;
+            }
             frameRate = stream.r_frame_rate.den
                             ? double(stream.r_frame_rate.num) / double(stream.r_frame_rate.den)
                             : 0.0;
@@ -258,8 +288,7 @@ double MediaInfo::DisplayAspect() const
 
 QString MediaInfo::AspectText() const
 {
-    const double ratio = height ? double(width) / double(height) : 0.0;
-    return QString::number(ratio, 'g', 6).left(5);
+    return QString::number(DisplayAspect(), 'g', 6).left(5);
 }
 
 QString MediaInfo::audioCodec(int n) const
@@ -269,9 +298,10 @@ QString MediaInfo::audioCodec(int n) const
 
 namespace {
 
-// The second intra (or untyped) picture behind the seek point; after 100
-// decoded packets any picture will do, after 200 the grab gives up.
-QImage grabPicture(AVFormatContext *context, int streamIndex, AVCodecContext *decoder)
+// The second intra (or untyped) picture behind the seek point, turned
+// upright by `rotation` degrees clockwise; after 100 decoded packets any
+// picture will do, after 200 the grab gives up.
+QImage grabPicture(AVFormatContext *context, int streamIndex, AVCodecContext *decoder, int rotation)
 {
     const std::unique_ptr<AVFrame, FrameDeleter> frame(av_frame_alloc());
     const std::unique_ptr<AVPacket, PacketDeleter> packet(av_packet_alloc());
@@ -304,16 +334,20 @@ QImage grabPicture(AVFormatContext *context, int streamIndex, AVCodecContext *de
                 skippedFirst = true;
                 continue;
             }
+            // A quarter turn makes the stored picture's sides swap.
+            const bool turned = rotation % 180 != 0;
+            const int width = turned ? thumbnailHeight : thumbnailWidth;
+            const int height = turned ? thumbnailWidth : thumbnailHeight;
             const std::unique_ptr<SwsContext, ScaleDeleter> scale(sws_getCachedContext(
-                nullptr, frame->width, frame->height, AVPixelFormat(frame->format), thumbnailWidth,
-                thumbnailHeight, AV_PIX_FMT_RGB24, SWS_BICUBIC, nullptr, nullptr, nullptr));
+                nullptr, frame->width, frame->height, AVPixelFormat(frame->format), width, height,
+                AV_PIX_FMT_RGB24, SWS_BICUBIC, nullptr, nullptr, nullptr));
             if (!scale)
                 return {};
-            QImage image(thumbnailWidth, thumbnailHeight, QImage::Format_RGB888);
+            QImage image(width, height, QImage::Format_RGB888);
             uint8_t *planes[4] = {image.bits(), nullptr, nullptr, nullptr};
             const int strides[4] = {int(image.bytesPerLine()), 0, 0, 0};
             sws_scale(scale.get(), frame->data, frame->linesize, 0, frame->height, planes, strides);
-            return image;
+            return rotation ? image.transformed(QTransform().rotate(rotation)) : image;
         }
     }
 }
@@ -363,7 +397,8 @@ QImage GetPictureFromVideo(const QString &path, int pgc, double seconds)
         return fail(__LINE__);
     }
     avformat_seek_file(context.get(), -1, INT64_MIN, int64_t(seconds * 1000000.0), INT64_MAX, 0);
-    const QImage image = grabPicture(context.get(), streamIndex, decoder.get());
+    const QImage image = grabPicture(context.get(), streamIndex, decoder.get(),
+                                     displayRotation(*context->streams[streamIndex]));
     return image.isNull() ? fail(__LINE__) : image;
 }
 

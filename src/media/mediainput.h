@@ -31,3 +31,13 @@ FormatContextPtr openMediaInput(const QString &path, const QString &format,
 // Discards the title's audio and subtitle streams that `selection` leaves
 // out. Call it once the streams are known (after avformat_find_stream_info).
 void selectTitleStreams(AVFormatContext *context, const TitleSelection &selection);
+
+// Seconds that an MPEG program stream (a VOB, a recorder's .mpg) plays where
+// its timestamps start again inside it (the cells of a disc, recordings
+// joined end to end): the demuxer's figure, from the first timestamp to the
+// last, is wrong there, by days where they run backwards. 0 where they run
+// through, so that the demuxer's figure holds, or for any other input.
+// Reads timestamps across the file; call after avformat_find_stream_info.
+double restartedDuration(AVFormatContext *context);
+// The same for the file at `path`; 0 where it can't be read.
+double restartedDuration(const QString &path);

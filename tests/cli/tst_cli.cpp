@@ -1,3 +1,4 @@
+#include "ffmpegtools.h"
 #include "mediafixtures.h"
 #include "sanitizerreports.h"
 
@@ -10,8 +11,10 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <QColor>
 #include <QElapsedTimer>
 
+#include <algorithm>
 #include <csignal>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -33,6 +36,8 @@ private slots:
     void profileSearch();
     void convert_data();
     void convert();
+    void convertKeepsTheShape_data();
+    void convertKeepsTheShape();
     void interruptStopsEveryEncoder();
     void failuresSayWhy_data();
     void failuresSayWhy();
@@ -346,18 +351,6 @@ void TestCli::profileSearch()
     }
 }
 
-static double mediaDuration(const QString &path)
-{
-    QProcess probe;
-    probe.start(QStringLiteral("ffprobe"),
-                {QStringLiteral("-v"), QStringLiteral("error"), QStringLiteral("-show_entries"),
-                 QStringLiteral("format=duration"), QStringLiteral("-of"),
-                 QStringLiteral("csv=p=0"), path});
-    if (!probe.waitForFinished(30000) || probe.exitCode() != 0)
-        return -1.0;
-    return probe.readAllStandardOutput().trimmed().toDouble();
-}
-
 void TestCli::convert_data()
 {
     QTest::addColumn<QStringList>("inputs");
@@ -409,6 +402,9 @@ void TestCli::convert_data()
         << QStringList{QStringLiteral("h264-10bit.mkv"), QStringLiteral("hevc-10bit.mkv"),
                        QStringLiteral("yuv444.mkv")}
         << iphone << 0 << "h264-10bit:Succeed:1.0 hevc-10bit:Succeed:1.0 yuv444:Succeed:1.0" << 0;
+    // Its clock set back halfway: the encoder front must not take it for cut short.
+    QTest::newRow("a recorder's VOB")
+        << QStringList{QStringLiteral("recorder.vob")} << mp4 << 0 << "recorder:Succeed:20.0" << 0;
     QTest::newRow("merged into one output")
         << QStringList{QStringLiteral("clip.mp4"), QStringLiteral("movie.mkv")}
         << mp4 + QStringList{QStringLiteral("--merge")} << 0 << "Merge 1:Succeed:5.0" << 0;
@@ -438,7 +434,7 @@ void TestCli::convert()
         QString seconds = QStringLiteral("-");
         if (state == QLatin1String("Succeed")) {
             QCOMPARE(QFileInfo(output).path(), out.path());
-            const double duration = mediaDuration(output);
+            const double duration = probeDuration(output);
             // Within half a second, shown at the expected figure.
             seconds = QString::number(duration, 'f', 1);
             const double wanted = expected
@@ -477,6 +473,82 @@ void TestCli::convert()
     QVERIFY(settings.open(QIODevice::ReadOnly));
     QCOMPARE(settings.readAll(), storedSettings);
     QVERIFY(!QFileInfo::exists(home.filePath(QStringLiteral("stored"))));
+}
+
+void TestCli::convertKeepsTheShape_data()
+{
+    QTest::addColumn<QString>("input");
+    QTest::addColumn<QString>("size"); // the profile's; Auto: the source's as shown
+    QTest::addColumn<QSize>("frame");
+    QTest::addColumn<double>("aspect"); // of the picture inside the bars, as shown
+    QTest::addColumn<QPoint>("red");    // a point of the red mark, if the source has one
+
+    QTest::newRow("16:9 MP4") << "wide.mp4"
+                              << "Auto" << QSize(1024, 576) << 16.0 / 9.0 << QPoint();
+    QTest::newRow("4:3 Matroska") << "narrow.mkv"
+                                  << "Auto" << QSize(768, 576) << 4.0 / 3.0 << QPoint();
+    QTest::newRow("16:9 MPEG-TS, bars above and below")
+        << "wide.ts"
+        << "640x480" << QSize(640, 480) << 16.0 / 9.0 << QPoint();
+    QTest::newRow("4:3 MPEG-PS, bars left and right")
+        << "narrow.mpg"
+        << "640x360" << QSize(640, 360) << 4.0 / 3.0 << QPoint();
+    // Upright: the stored top left corner turns to the bottom left.
+    QTest::newRow("turned a quarter") << "turned.mp4"
+                                      << "Auto" << QSize(240, 320) << 0.75 << QPoint(20, 300);
+}
+
+// Pixels that are not square, and pictures stored on their side, come out
+// with the shape they are shown with.
+void TestCli::convertKeepsTheShape()
+{
+    QFETCH(QString, input);
+    QFETCH(QString, size);
+    QFETCH(QSize, frame);
+    QFETCH(double, aspect);
+    QFETCH(QPoint, red);
+
+    QTemporaryDir out;
+    const Result result
+        = cli({QStringLiteral("convert"), this->input(input), QStringLiteral("--profile"),
+               QStringLiteral("1,68"), QStringLiteral("--set"), QStringLiteral("s=") + size,
+               QStringLiteral("--output-dir"), out.path(), QStringLiteral("--json")});
+    QVERIFY2(result.status == 0, qPrintable(result.err));
+    const QString output = result.json()
+                               .value(QStringLiteral("tasks"))
+                               .toArray()
+                               .at(0)
+                               .toObject()
+                               .value(QStringLiteral("output"))
+                               .toString();
+    const QString stream = probe(output, QStringLiteral("stream=width,height,sample_aspect_ratio"),
+                                 QStringLiteral("v:0"));
+    const QRegularExpressionMatch shape
+        = QRegularExpression(QStringLiteral("width=(\\d+)\nheight=(\\d+)\n"
+                                            "sample_aspect_ratio=(\\d+):(\\d+)"))
+              .match(stream);
+    QVERIFY2(shape.hasMatch(), qPrintable(stream));
+    QCOMPARE(QSize(shape.captured(1).toInt(), shape.captured(2).toInt()), frame);
+    const double pixel = shape.captured(3).toDouble() / shape.captured(4).toDouble();
+
+    // The picture is what is not black around it.
+    const QImage picture = grabFrame(output, 0.5, frame.width(), frame.height());
+    QVERIFY(!picture.isNull());
+    QRect bounds;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            const QColor colour = picture.pixelColor(x, y);
+            if (std::max({colour.red(), colour.green(), colour.blue()}) > 48)
+                bounds |= QRect(x, y, 1, 1);
+        }
+    }
+    const double shown = bounds.width() * pixel / bounds.height();
+    QVERIFY2(std::abs(shown / aspect - 1.0) < 0.01, qPrintable(QStringLiteral("%1x%2 shown as %3")
+                                                                   .arg(bounds.width())
+                                                                   .arg(bounds.height())
+                                                                   .arg(shown)));
+    if (!red.isNull())
+        QCOMPARE(picture.pixelColor(red).red() > 128 && picture.pixelColor(red).blue() < 128, true);
 }
 
 // Ctrl-C while encoders run: they are stopped, the waiting task never

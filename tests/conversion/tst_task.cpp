@@ -79,7 +79,17 @@ private slots:
             << "640*480" << QRect(240, 0, 240, 0) << QSize(160, 480);
         QTest::newRow("size from the source")
             << QSize(720, 576) << true << 4.0 / 3.0 << none << "Keep Original"
-            << "Auto(Same as source)" << QRect(24, 0, 24, 0) << QSize(720, 576);
+            << "Auto(Same as source)" << none << QSize(768, 576);
+        // Pixels that are not square keep the picture's shape, cropped too.
+        QTest::newRow("wide pixels, bars above and below")
+            << QSize(720, 576) << true << 16.0 / 9.0 << none << "Keep Original"
+            << "640*480" << QRect(0, 60, 0, 60) << QSize(640, 360);
+        QTest::newRow("wide pixels cropped")
+            << QSize(720, 576) << true << 16.0 / 9.0 << QRect(45, 0, 45, 0) << "Keep Original"
+            << "640*480" << QRect(0, 34, 0, 34) << QSize(640, 412);
+        QTest::newRow("narrow pixels, bars left and right")
+            << QSize(720, 576) << true << 4.0 / 3.0 << none << "Keep Original"
+            << "1280*720" << QRect(160, 0, 160, 0) << QSize(960, 720);
         QTest::newRow("no video input") << QSize(0, 0) << false << 0.0 << none << "Keep Original"
                                         << "640*480" << none << QSize(640, 480);
         QTest::newRow("no video input, tiny output")

@@ -91,6 +91,7 @@ private slots:
     void stillOfATitle_data();
     void stillOfATitle();
     void stillOfMovingPicture();
+    void stillOfATurnedClipIsUpright();
     void stillFailures_data();
     void stillFailures();
     void stillWaitsForTheMediaLock();
@@ -113,19 +114,47 @@ void TestMediaInfo::probe_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<double>("duration");
-    QTest::addColumn<QString>("video"); // "codec WxH@fps", empty for none
+    QTest::addColumn<QString>("video"); // "codec WxH@fps aspect" as shown, empty for none
     QTest::addColumn<QString>("audio");
     QTest::addColumn<QString>("subtitles");
     QTest::addColumn<QString>("chapters");
 
-    QTest::newRow("Matroska") << fixture(fixtures, "movie.mkv") << 3.0 << "mpeg4 320x240@25"
+    QTest::newRow("Matroska") << fixture(fixtures, "movie.mkv") << 3.0 << "mpeg4 320x240@25 0"
                               << "1:eng:48000:2:mp2 2:fre:44100:1:ac3"
                               << "3:ger"
                               << "0-1.5:Opening 1.5-3:Chapter_2";
-    QTest::newRow("MP4") << fixture(fixtures, "clip.mp4") << 2.0 << "mpeg4 160x120@30"
+    QTest::newRow("MP4") << fixture(fixtures, "clip.mp4") << 2.0 << "mpeg4 160x120@30 0"
                          << "1:und:44100:1:aac"
                          << ""
                          << "";
+    // Pixels that are not square: the shape comes from their aspect.
+    QTest::newRow("16:9 MP4") << fixture(fixtures, "wide.mp4") << 1.0 << "mpeg4 720x576@25 1.778"
+                              << ""
+                              << ""
+                              << "";
+    QTest::newRow("4:3 MPEG-PS") << fixture(fixtures, "narrow.mpg") << 1.0
+                                 << "mpeg2video 720x576@25 1.333"
+                                 << ""
+                                 << ""
+                                 << "";
+    QTest::newRow("turned a quarter")
+        << fixture(fixtures, "turned.mp4") << 1.0 << "mpeg4 240x320@25 0"
+        << ""
+        << ""
+        << "";
+    // Program streams whose timestamps start again: the walk through them
+    // counts what plays.
+    QTest::newRow("recorder VOB, clock set back")
+        << fixture(fixtures, "recorder.vob") << 20.0 << "mpeg2video 352x288@25 0"
+        << "1::48000:1:mp2"
+        << ""
+        << "";
+    QTest::newRow("VOB of a disc, cells from 0 each")
+        << fixture(fixtures, "dvd-main/VIDEO_TS/VTS_01_1.VOB") << 8.8
+        << "mpeg2video 720x576@25 1.333"
+        << "2::48000:2:ac3 3::48000:2:mp2"
+        << "4:"
+        << "";
     QTest::newRow("audio only") << fixture(fixtures, "tone.flac") << 2.5 << ""
                                 << "0::44100:1:flac"
                                 << ""
@@ -146,18 +175,18 @@ void TestMediaInfo::probe()
     QVERIFY2(std::abs(info.duration - duration) < 0.1, qPrintable(QString::number(info.duration)));
     QCOMPARE(info.hasVideo, !video.isEmpty());
     if (info.hasVideo)
-        QCOMPARE(QStringLiteral("%1 %2x%3@%4")
+        QCOMPARE(QStringLiteral("%1 %2x%3@%4 %5")
                      .arg(info.videoCodec)
                      .arg(info.width)
                      .arg(info.height)
-                     .arg(info.frameRate),
+                     .arg(info.frameRate)
+                     .arg(info.displayAspect, 0, 'g', 4),
                  video);
     QCOMPARE(audioText(info), audio);
     QCOMPARE(subtitleText(info), subtitles);
     QCOMPARE(chapterText(info), chapters);
     QVERIFY(info.allCodecsKnown);
     QVERIFY(info.forcedFormat.isEmpty());
-    QCOMPARE(info.displayAspect, 0.0);
 }
 
 void TestMediaInfo::probeRefusesBadFiles_data()
@@ -294,6 +323,7 @@ void TestMediaInfo::derivedValues()
     QCOMPARE(info.AspectText(), QStringLiteral("1.333"));
     info.displayAspect = 16.0 / 9.0;
     QCOMPARE(info.DisplayAspect(), 16.0 / 9.0);
+    QCOMPARE(info.AspectText(), QStringLiteral("1.777"));
     info.audioStreams.push_back({});
     info.audioStreams[0].codec = QStringLiteral("ac3");
     QCOMPARE(info.audioCodec(0), QStringLiteral("ac3"));
@@ -362,6 +392,20 @@ void TestMediaInfo::stillOfMovingPicture()
         for (int x = 0; x < still.width(); x += 4)
             colours.insert(still.pixel(x, y));
     QVERIFY2(colours.size() > 20, "the still looks blank");
+}
+
+// The clip turns a quarter counter-clockwise for display: the red mark of
+// the stored picture's top left corner is shown at the bottom left.
+void TestMediaInfo::stillOfATurnedClipIsUpright()
+{
+    const QImage still = GetPictureFromVideo(fixture(fixtures, "turned.mp4"), -1, 0.5);
+    QCOMPARE(still.size(), QSize(96, 72));
+    QCOMPARE(still.format(), QImage::Format_RGB888);
+    QStringList corners;
+    for (const QPoint &corner : {QPoint(4, 4), QPoint(91, 4), QPoint(4, 67), QPoint(91, 67)})
+        corners << (QColor(still.pixel(corner)).red() > 128 ? QStringLiteral("red")
+                                                            : QStringLiteral("blue"));
+    QCOMPARE(corners.join(QLatin1Char(' ')), QStringLiteral("blue blue red blue"));
 }
 
 void TestMediaInfo::stillFailures_data()
