@@ -45,8 +45,13 @@ public:
     std::unique_ptr<Task> clone() const;
 
     QString value(const QString &key) const { return output.settings.value(key); }
-    // A numbered series of pictures ("name%03d.png") instead of one file.
-    bool isPictureSeries() const { return !value(QStringLiteral("pcodec")).isEmpty(); }
+    // A numbered series of pictures ("name%03d.png") instead of one file; an
+    // animated GIF is one file.
+    bool isPictureSeries() const
+    {
+        const QString codec = value(QStringLiteral("pcodec"));
+        return !codec.isEmpty() && codec.compare(QLatin1String("GIF"), Qt::CaseInsensitive) != 0;
+    }
 
     int itemCount() const { return int(items.size()); }
     ChildTask *item(int index) const;

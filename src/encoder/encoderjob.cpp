@@ -220,7 +220,9 @@ bool EncoderJob::wantsVideo() const
 
 bool EncoderJob::wantsAudio() const
 {
-    return !output.args.contains(QStringLiteral("-an")) && !isPictureSeries();
+    // Pictures carry no sound, an animated GIF neither.
+    return !output.args.contains(QStringLiteral("-an")) && !isPictureSeries()
+           && container() != QLatin1String("gif");
 }
 
 bool EncoderJob::isPictureSeries() const

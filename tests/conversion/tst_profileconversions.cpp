@@ -15,6 +15,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
+#include <QtMath>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
@@ -129,10 +130,24 @@ void TestProfileConversions::check(Job &job, const QString &key, bool title)
     const Task &task = *job.task;
 
     QString output = task.output.filePath;
+    // Picture profiles: a series, or one animated GIF; no sound either way.
     const bool pictures = !task.value(QStringLiteral("pcodec")).isEmpty();
-    if (pictures)
+    if (task.isPictureSeries())
         output.replace(QStringLiteral("%03d"), QStringLiteral("001"));
     QVERIFY2(QFileInfo(output).size() > 0, qPrintable(what));
+    if (output.endsWith(QLatin1String(".gif"))) {
+        // One animated GIF: a picture every two seconds of the source, all readable.
+        QProcess frames;
+        frames.start(QStringLiteral("ffprobe"),
+                     {QStringLiteral("-v"), QStringLiteral("error"), QStringLiteral("-count_frames"),
+                      QStringLiteral("-show_entries"), QStringLiteral("stream=nb_read_frames"),
+                      QStringLiteral("-of"), QStringLiteral("csv=p=0"), output});
+        QVERIFY(frames.waitForFinished(30000));
+        const int count = frames.readAllStandardOutput().trimmed().toInt();
+        const int expected = qCeil(task.convertDuration() / 2.0 - 0.01);
+        QVERIFY2(count >= expected && count <= expected + 1,
+                 qPrintable(what + QStringLiteral(": %1 frames").arg(count)));
+    }
 
     QProcess probe;
     probe.start(QStringLiteral("ffprobe"),
