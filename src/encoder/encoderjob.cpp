@@ -506,6 +506,10 @@ QStringList EncoderJob::soundArguments(const QString &source, const InputLayout 
         if (isSoundOption(output.args[i]) || output.args[i] == QLatin1String("-strict"))
             args << output.args[i] << output.args.value(i + 1);
     }
+    // Without a codec named, NUT's own (Vorbis) would reach a container that
+    // can't name it: the container's own is wanted.
+    if (output.audioCodec.isEmpty())
+        args << QStringLiteral("-c:a") << soundEncoder();
     return args << QStringLiteral("-f") << QStringLiteral("nut") << QStringLiteral("pipe:1");
 }
 
