@@ -2,6 +2,7 @@
 
 #include "encoderlimits.h"
 #include "filtertranslator.h"
+#include "soundencoder.h"
 
 #include <QFileInfo>
 #include <QRegularExpression>
@@ -66,6 +67,15 @@ bool isPictureSubtitle(const QString &codec)
         = {QStringLiteral("dvd_subtitle"), QStringLiteral("hdmv_pgs_subtitle"),
            QStringLiteral("dvb_subtitle"), QStringLiteral("dvb_teletext"), QStringLiteral("xsub")};
     return pictures.contains(codec);
+}
+
+// A frame rate as ffmpeg writes it, "25" or "30000/1001"; 0 when not one.
+double rateValue(const QString &rate)
+{
+    const QStringList fraction = rate.split(QLatin1Char('/'));
+    return fraction.size() == 2 && fraction[1].toDouble() > 0
+               ? fraction[0].toDouble() / fraction[1].toDouble()
+               : rate.toDouble();
 }
 
 QString joinFilters(const QStringList &parts)
@@ -326,28 +336,67 @@ void EncoderJob::deinterlaceForProgressiveOutput()
     output.preFilters.prepend(QStringLiteral("bwdif=mode=send_frame:deint=interlaced"));
 }
 
+void EncoderJob::fitContainer()
+{
+    if (inputs.isEmpty() || !wantsVideo() || !outputOption("f").isEmpty())
+        return;
+    const QString video = pictureEncoder();
+    const QString name = container();
+    const QString size = outputSizeOf(inputs.last().videoChain);
+    const bool mpg = name == QLatin1String("mpg") || name == QLatin1String("mpeg");
+    auto setIfUnset = [this](const char *option, const QString &value) {
+        if (outputOption(option).isEmpty())
+            setOutputOption(option, value);
+    };
+    if (video == QLatin1String("mpeg2video") && name == QLatin1String("vob")) {
+        setOutputOption("f", QStringLiteral("dvd"));
+        setOutputOption("muxrate", QStringLiteral("10080k"));
+        setOutputOption("packetsize", QStringLiteral("2048"));
+        setIfUnset("maxrate", QStringLiteral("9000k"));
+        setIfUnset("bufsize", QStringLiteral("1835k"));
+    } else if (video == QLatin1String("mpeg2video") && mpg) {
+        setOutputOption("f", QStringLiteral("vob"));
+    } else if (video == QLatin1String("mpeg1video") && mpg
+               && (size == QLatin1String("352x240") || size == QLatin1String("352x288"))) {
+        // A Video CD's picture comes at one constant rate.
+        setOutputOption("f", QStringLiteral("vcd"));
+        setOutputOption("muxrate", QStringLiteral("1411200"));
+        setOutputOption("packetsize", QStringLiteral("2324"));
+        setOutputOption("b:v", QStringLiteral("1150k"));
+        setOutputOption("minrate", QStringLiteral("1150k"));
+        setOutputOption("maxrate", QStringLiteral("1150k"));
+        setOutputOption("bufsize", QStringLiteral("327680"));
+    }
+}
+
 void EncoderJob::fitToEncoders()
 {
     fitCodecToSize();
+    fitContainer();
     fitPictureFormat();
     deinterlaceForProgressiveOutput();
-    const bool dv = container() == QLatin1String("dv");
+    // Disc and tape standards have one frame rate for each line count.
+    const QString standard = container();
+    const bool dv = standard == QLatin1String("dv");
+    const bool disc = standard == QLatin1String("dvd") || standard == QLatin1String("vcd");
 
     // Frame rate: MPEG-1/2 streams know a handful; DV one for each line count.
     const QString video = pictureEncoder();
     const QString rate = outputOption("r");
-    const QStringList fraction = rate.split(QLatin1Char('/'));
-    const double wanted = fraction.size() == 2 && fraction[1].toDouble() > 0
-                              ? fraction[0].toDouble() / fraction[1].toDouble()
-                              : rate.toDouble();
-    if (dv && !inputs.isEmpty()) {
-        const bool pal = outputSizeOf(inputs.last().videoChain).endsWith(QLatin1String("x576"));
+    const double wanted = rateValue(rate);
+    if ((dv || disc) && !inputs.isEmpty()) {
+        const QString size = outputSizeOf(inputs.last().videoChain);
+        const int lines = size.section(QLatin1Char('x'), 1).toInt();
+        const bool pal = lines == 576 || lines == 288;
         const QString dvRate = pal ? QStringLiteral("25") : QStringLiteral("30000/1001");
-        if (rate.isEmpty() || qAbs(wanted - (pal ? 25.0 : 29.97)) > 0.01) {
+        // Film rate is the other NTSC DVDs and Video CDs may carry.
+        const bool film = !pal && disc && qAbs(wanted - 23.976) < 0.01;
+        if (!film && (rate.isEmpty() || qAbs(wanted - (pal ? 25.0 : 29.97)) > 0.01)) {
             if (!rate.isEmpty())
                 output.notes << QStringLiteral(
-                                    "DV with %1 lines runs at %2 frames a second, not %3")
-                                    .arg(pal ? 576 : 480)
+                                    "%1 with %2 lines runs at %3 frames a second, not %4")
+                                    .arg(standard.toUpper())
+                                    .arg(lines)
                                     .arg(pal ? QStringLiteral("25") : QStringLiteral("29.97"),
                                          rate);
             setOutputOption("r", dvRate);
@@ -368,14 +417,34 @@ void EncoderJob::fitToEncoders()
             setOutputOption("r", QStringLiteral("%1/%2").arg(best.first).arg(best.second));
         }
     }
+    const QString level = outputOption("level");
+    if (!level.isEmpty()
+        && (video == QLatin1String("libx264") || video == QLatin1String("h264")
+            || video == QLatin1String("h264_nvenc"))) {
+        const QStringList size = outputSizeOf(inputs.value(0).videoChain).split(QLatin1Char('x'));
+        // Without a rate of its own the output keeps the source's: take a usual one.
+        const double fps = rateValue(outputOption("r")) > 0 ? rateValue(outputOption("r")) : 30.0;
+        const QString fitted = EncoderLimits::h264Level(level, size.value(0).toInt(),
+                                                        size.value(1).toInt(), fps);
+        if (fitted != level) {
+            output.notes << QStringLiteral("H.264 level %1 holds no %2 at %3 frames a second: "
+                                           "level %4")
+                                .arg(level, size.join(QLatin1Char('x')))
+                                .arg(fps, 0, 'g', 4)
+                                .arg(fitted);
+            setOutputOption("level", fitted);
+        }
+    }
 
     if (!wantsAudio())
         return;
     const QString audio = soundEncoder();
     int sampleRate = outputOption("ar").toInt();
     QList<int> rates = EncoderLimits::sampleRates(audio);
-    if (dv)
-        rates = {48000}; // the DV muxer writes no other
+    if (dv || standard == QLatin1String("dvd"))
+        rates = {48000}; // the DV muxer writes no other, DVD players play no other
+    else if (standard == QLatin1String("vcd"))
+        rates = {44100};
     if (sampleRate > 0 && !rates.isEmpty() && !rates.contains(sampleRate)) {
         const int fitted = EncoderLimits::nearest(rates, sampleRate);
         output.notes << QStringLiteral("%1 has no %2 Hz sampling: %3 Hz instead")
@@ -513,6 +582,23 @@ QStringList EncoderJob::soundArguments(const QString &source, const InputLayout 
     return args << QStringLiteral("-f") << QStringLiteral("nut") << QStringLiteral("pipe:1");
 }
 
+double EncoderJob::soundLead(const InputLayout &layout) const
+{
+    int rate = outputOption("ar").toInt();
+    if (rate <= 0)
+        rate = layout.audioRates.value(inputs[0].isTitle() ? 0 : inputs[0].audioStream, 48000);
+    const int channels = outputOption("ac").toInt();
+    QString bits = outputOption("b:a");
+    const bool kilo = bits.endsWith(QLatin1Char('k'));
+    bits.chop(kilo ? 1 : 0);
+    const QString quality = outputOption("q:a");
+    const int samples = SoundEncoder::primingSamples(
+        soundEncoder(), rate, channels > 0 ? channels : 2,
+        qint64(bits.toDouble() * (kilo ? 1000 : 1)),
+        quality.isEmpty() ? -1.0 : quality.toDouble());
+    return rate > 0 ? double(samples) / rate : 0;
+}
+
 QString EncoderJob::sourceFilters(int i, const InputLayout &layout) const
 {
     QStringList filters = output.preFilters;
@@ -554,7 +640,7 @@ bool EncoderJob::isSoundOption(const QString &option)
 
 QStringList EncoderJob::ffmpegArguments(const QStringList &sources,
                                         const QList<InputLayout> &layouts,
-                                        const QString &soundSource) const
+                                        const QString &soundSource, double soundLead) const
 {
     QStringList args{QStringLiteral("-nostdin")};
     if (overwrite)
@@ -562,9 +648,12 @@ QStringList EncoderJob::ffmpegArguments(const QStringList &sources,
     for (int i = 0; i < inputs.size(); ++i)
         args << inputArguments(i, sources.value(i));
     const bool soundReady = !soundSource.isEmpty();
-    if (soundReady)
+    if (soundReady) {
+        if (soundLead > 0)
+            args << QStringLiteral("-itsoffset") << QString::number(-soundLead, 'f', 6);
         args << QStringLiteral("-f") << QStringLiteral("nut") << QStringLiteral("-i")
              << soundSource;
+    }
 
     const QString audioFilters = output.audioFilters.join(QLatin1Char(','));
     auto audioSpec = [&](int i) {
@@ -580,7 +669,11 @@ QStringList EncoderJob::ffmpegArguments(const QStringList &sources,
         if (!in.titleLength.isEmpty())
             args << QStringLiteral("-t") << in.titleLength;
         const InputLayout layout = layouts.value(0);
-        const QString graph = FilterTranslator::translate(in.videoChain).graph;
+        // A rate change by the output's -r alone comes two frames late in
+        // ffmpeg 5.1; the fps filter takes the frame nearest each instant.
+        const QString rate = outputOption("r");
+        const QString graph = joinFilters({FilterTranslator::translate(in.videoChain).graph,
+                                           rate.isEmpty() ? QString() : QStringLiteral("fps=") + rate});
         const QString source = sourceFilters(0, layout);
         const QString subpicture = subpictureStream(0, layout);
         if (video && !subpicture.isEmpty()) {

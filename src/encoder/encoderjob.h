@@ -36,6 +36,7 @@ struct InputLayout
     QString audioSpecifier;     // stream specifier inside the input; empty: by position
     QString subtitleSpecifier;  // likewise, for a title's burnt-in subpicture
     QStringList subtitleCodecs; // of a file's subtitle streams, in order
+    QList<int> audioRates;      // sampling rate of a file's sound streams, in order
     double startTime = 0;       // seconds of the file's first timestamp
 };
 
@@ -54,9 +55,11 @@ struct EncoderJob
 
     // `sources[i]` is what ffmpeg opens for input i (a path, or "pipe:N" for
     // a title); `layouts[i]` what it holds.
-    // With `soundSource` set, the sound comes from there encoded, as NUT.
+    // With `soundSource` set, the sound comes from there encoded, as NUT,
+    // its first packet `soundLead` seconds ahead of time zero.
     QStringList ffmpegArguments(const QStringList &sources, const QList<InputLayout> &layouts,
-                                const QString &soundSource = QString()) const;
+                                const QString &soundSource = QString(),
+                                double soundLead = 0) const;
 
     // Whether an ffmpeg of its own can encode the sound (see SoundEncoder):
     // one input with picture and sound, and no share of the processor to hold.
@@ -64,6 +67,9 @@ struct EncoderJob
     // That ffmpeg's list: the sound of the input, read from `source` and
     // encoded, as NUT on standard output.
     QStringList soundArguments(const QString &source, const InputLayout &layout) const;
+    // Seconds of priming the sound's encoder puts ahead of the sound. NUT
+    // can't carry a start before zero, so the writing ffmpeg is told.
+    double soundLead(const InputLayout &layout) const;
 
     // Seconds the output should last when the inputs are whole: what the
     // inputs last from their start points, cut to their lengths. 0 where
@@ -81,6 +87,9 @@ private:
     void fitToEncoders();
     // Stock encoders that take only some picture sizes.
     void fitCodecToSize();
+    // MPEG-1 and MPEG-2 pictures go into the program stream their players
+    // read: a DVD's, a Video CD's, or MPEG-2's own for any other.
+    void fitContainer();
     // The picture format the encoder takes with its profile, whatever the source's.
     void fitPictureFormat();
     // Frames flagged interlaced are deinterlaced for a progressive output.

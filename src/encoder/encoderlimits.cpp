@@ -187,6 +187,39 @@ QStringList containerNames()
     return names;
 }
 
+QString h264Level(const QString &wanted, int width, int height, double frameRate)
+{
+    // Largest frame and macroblocks a second of each level.
+    struct Level
+    {
+        int tenfold;
+        long long frame;
+        long long rate;
+    };
+    static const Level levels[]
+        = {{10, 99, 1485},        {11, 396, 3000},       {12, 396, 6000},
+           {13, 396, 11880},      {20, 396, 11880},      {21, 792, 19800},
+           {22, 1620, 20250},     {30, 1620, 40500},     {31, 3600, 108000},
+           {32, 5120, 216000},    {40, 8192, 245760},    {41, 8192, 245760},
+           {42, 8704, 522240},    {50, 22080, 589824},   {51, 36864, 983040},
+           {52, 36864, 2073600}};
+    const long long blocks = (width + 15) / 16 * ((height + 15) / 16);
+    const long long perSecond = (long long)(blocks * frameRate + 0.5);
+    const int asked = qRound(wanted.toDouble() * 10);
+    auto holds = [&](const Level &level) {
+        return blocks <= level.frame && perSecond <= level.rate;
+    };
+    for (const Level &level : levels) {
+        if (level.tenfold == asked && holds(level))
+            return wanted;
+    }
+    for (const Level &level : levels) {
+        if (level.tenfold >= asked && holds(level))
+            return QStringLiteral("%1.%2").arg(level.tenfold / 10).arg(level.tenfold % 10);
+    }
+    return wanted;
+}
+
 int nearest(const QList<int> &allowed, int wanted)
 {
     int best = wanted;

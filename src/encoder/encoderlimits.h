@@ -44,6 +44,10 @@ QStringList audioEncoders();
 QStringList videoEncoders();
 QStringList containerNames();
 
+// The H.264 level, as "3.1", that holds pictures of this size and rate: the
+// `wanted` one when it does, else the lowest that does.
+QString h264Level(const QString &wanted, int width, int height, double frameRate);
+
 // The value from `allowed` nearest to `wanted`; the higher one on a tie.
 int nearest(const QList<int> &allowed, int wanted);
 

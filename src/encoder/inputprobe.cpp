@@ -43,6 +43,9 @@ InputLayout layout(const QString &path, QString *error)
         result.hasVideo |= type == QLatin1String("video");
         result.hasAudio |= type == QLatin1String("audio");
         result.audioStreams += type == QLatin1String("audio") ? 1 : 0;
+        if (type == QLatin1String("audio"))
+            result.audioRates
+                << value.toObject().value(QStringLiteral("sample_rate")).toString().toInt();
         if (type == QLatin1String("subtitle"))
             result.subtitleCodecs
                 << value.toObject().value(QStringLiteral("codec_name")).toString();

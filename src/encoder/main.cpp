@@ -239,6 +239,7 @@ int main(int argc, char *argv[])
     // is asked what it holds only then.
     SoundEncoder sound;
     QString soundSource;
+    double soundLead = 0;
     // A single file is asked what it holds: whether its sound can go apart,
     // and how long the output must be.
     QList<InputLayout> known = layouts;
@@ -256,6 +257,7 @@ int main(int argc, char *argv[])
                             job->soundArguments(soundInput, known[0]), soundFds)) {
                 soundSource = QStringLiteral("pipe:%1").arg(3 + options.childFds.size());
                 options.childFds.push_back(sound.readEnd());
+                soundLead = job->soundLead(known[0]);
             }
         }
     }
@@ -267,7 +269,7 @@ int main(int argc, char *argv[])
     };
     const auto result
         = FFmpegRunner::run(FFmpegRunner::ffmpegProgram(),
-                            job->ffmpegArguments(sources, layouts, soundSource), options);
+                            job->ffmpegArguments(sources, layouts, soundSource, soundLead), options);
     int exitCode = result.exitCode;
     if (!soundSource.isEmpty()) {
         const bool failed = result.signal != 0 || exitCode != 0;

@@ -11,6 +11,10 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+extern "C" {
+#include <libavcodec/avcodec.h>
+}
+
 namespace {
 
 void closeFd(int &fd)
@@ -144,4 +148,28 @@ void SoundEncoder::relay()
     closeFd(soundOut);
     closeFd(soundErrors);
     closeFd(consumerWrite);
+}
+
+int SoundEncoder::primingSamples(const QString &encoder, int sampleRate, int channels,
+                                 qint64 bitRate, double quality)
+{
+    const AVCodec *codec = ::avcodec_find_encoder_by_name(encoder.toUtf8().constData());
+    AVCodecContext *context = codec ? ::avcodec_alloc_context3(codec) : nullptr;
+    if (!context)
+        return 0;
+    context->sample_rate = sampleRate;
+    ::av_channel_layout_default(&context->ch_layout, channels);
+    context->sample_fmt = codec->sample_fmts ? codec->sample_fmts[0] : AV_SAMPLE_FMT_FLTP;
+    context->time_base = AVRational{1, sampleRate};
+    context->bit_rate = bitRate;
+    if (quality >= 0) {
+        context->flags |= AV_CODEC_FLAG_QSCALE;
+        context->global_quality = int(quality * FF_QP2LAMBDA);
+    }
+    const int level = ::av_log_get_level();
+    ::av_log_set_level(AV_LOG_QUIET);
+    const int padding = ::avcodec_open2(context, codec, nullptr) == 0 ? context->initial_padding : 0;
+    ::av_log_set_level(level);
+    ::avcodec_free_context(&context);
+    return padding;
 }

@@ -41,6 +41,12 @@ public:
     // The last of what the sound's ffmpeg wrote on its standard error.
     QByteArray errors() const { return errorText; }
 
+    // The samples of priming `encoder` puts ahead of the sound with these
+    // settings (`quality` below 0: none), as the libavcodec that ffmpeg
+    // loads says; 0 when it can't tell.
+    static int primingSamples(const QString &encoder, int sampleRate, int channels,
+                              qint64 bitRate, double quality);
+
 private:
     void relay();
 
