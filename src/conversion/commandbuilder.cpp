@@ -223,12 +223,23 @@ QStringList CommandBuilder::build(const Task &task)
         if (vcodec == QLatin1String("h264") && gpuUsable() && Setting::enableCuda()) {
             args << QStringLiteral("-vcodec") << QStringLiteral("cuh264");
         } else if (vcodec == QLatin1String("h264")) {
-            const QString profile = size.height() <= 480   ? QStringLiteral("baseline")
-                                    : size.height() <= 720 ? QStringLiteral("main")
-                                                           : QStringLiteral("high");
+            // A device's document names the profile it decodes; others go by height.
+            const QString named = task.value(QStringLiteral("vprofile"));
+            const QString profile
+                = QStringList{QStringLiteral("baseline"), QStringLiteral("main"),
+                              QStringLiteral("high")}
+                          .contains(named)    ? named
+                  : size.height() <= 480 ? QStringLiteral("baseline")
+                  : size.height() <= 720 ? QStringLiteral("main")
+                                         : QStringLiteral("high");
             args << QStringLiteral("-vcodec") << QStringLiteral("libx264")
                  << QStringLiteral("-preset") << QStringLiteral("superfast")
                  << QStringLiteral("-vprofile") << profile;
+            // The document's level is ten times the standard's: 31 is 3.1.
+            const int level = task.value(QStringLiteral("level")).toInt();
+            if (level > 0)
+                args << QStringLiteral("-level")
+                     << QStringLiteral("%1.%2").arg(level / 10).arg(level % 10);
         } else if (vcodec == QLatin1String("divx")) {
             args << QStringLiteral("-vtag") << QStringLiteral("DX50") << QStringLiteral("-vcodec")
                  << QStringLiteral("mpeg4");
@@ -242,13 +253,12 @@ QStringList CommandBuilder::build(const Task &task)
             && threads > 1)
             args << QStringLiteral("-threads") << QString::number(threads);
 
-        const QString aspect = task.value(QStringLiteral("aspect"));
-        if (!aspect.isEmpty() && aspect != QLatin1String("Auto"))
-            args << QStringLiteral("-aspect") << aspect;
-        else
-            args << QStringLiteral("-aspect")
-                 << (size.height() == 0 ? QStringLiteral("1")
-                                        : number(double(size.width()) / size.height()));
+        const double aspect = task.outputAspect();
+        args << QStringLiteral("-aspect")
+             << (qAbs(aspect - 4.0 / 3.0) < 1e-9   ? QStringLiteral("4:3")
+                 : qAbs(aspect - 16.0 / 9.0) < 1e-9 ? QStringLiteral("16:9")
+                 : aspect > 0                       ? number(aspect)
+                                                    : QStringLiteral("1"));
     }
 
     if (task.value(QStringLiteral("an")) == QLatin1String("True")) {

@@ -139,6 +139,28 @@ QSize Task::outputSize() const
     return size.isValid() ? size : QSize(0, 0);
 }
 
+double Task::outputAspect() const
+{
+    const QSize size = outputSize();
+    const QString aspect = value(QStringLiteral("aspect"));
+    if (aspect == QLatin1String("4:3"))
+        return 4.0 / 3.0;
+    if (aspect == QLatin1String("16:9"))
+        return 16.0 / 9.0;
+    const double square = size.height() > 0 ? double(size.width()) / size.height() : 0.0;
+    static const QList<QSize> rasters = {{720, 480}, {720, 576}, {704, 480}, {704, 576},
+                                         {480, 480}, {480, 576}, {352, 480}, {352, 576},
+                                         {352, 240}, {352, 288}};
+    const QString vcodec = value(QStringLiteral("vcodec"));
+    const bool tape = vcodec == QLatin1String("dvvideo") || vcodec == QLatin1String("mpeg2video");
+    if (!rasters.contains(size) || (!tape && vcodec != QLatin1String("mpeg1video")))
+        return square;
+    const ChildTask *first = item(0);
+    const bool wide = tape && first && first->height > 0
+                      && first->DisplayAspect() >= (4.0 / 3.0 + 16.0 / 9.0) / 2;
+    return wide ? 16.0 / 9.0 : 4.0 / 3.0;
+}
+
 QSize Task::parseSize(QString text, QString *error)
 {
     // Far beyond any screen, and small enough for every product of two sides.
@@ -259,9 +281,11 @@ void Task::prepareFrame(int index)
     }
 
     // An odd bar moves one pixel to the left or the bottom one, so that the
-    // left and top offsets stay even.
-    if (double(W) / double(H) >= ratio) {
-        const int half = (W - int(H * ratio)) / 2;
+    // left and top offsets stay even. Bars are measured in the output's
+    // pixels, which need not be square.
+    const double frame = outputAspect();
+    if (frame >= ratio) {
+        const int half = (W - int(W * ratio / frame)) / 2;
         edit.padTop = edit.padBottom = 0;
         edit.padRight = edit.padLeft = half;
         if (half % 2) {
@@ -271,7 +295,7 @@ void Task::prepareFrame(int index)
         edit.innerWidth = W - edit.padLeft - edit.padRight;
         edit.innerHeight = H;
     } else {
-        const int half = (H - int(W / ratio)) / 2;
+        const int half = (H - int(H * frame / ratio)) / 2;
         edit.padRight = edit.padLeft = 0;
         edit.padTop = edit.padBottom = half;
         if (half % 2) {

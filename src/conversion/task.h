@@ -72,6 +72,11 @@ public:
 
     // The profile's picture size, (0, 0) for a profile without video.
     QSize outputSize() const;
+    // The shape the output's frame is shown at: the user's "4:3" or "16:9";
+    // for a disc or tape raster (MPEG-1, MPEG-2, DV) left on "Auto", the
+    // one of the two nearer the source (MPEG-1: always 4:3); else the
+    // frame's own shape, its pixels square.
+    double outputAspect() const;
     // A size value as profiles and users write it: "320*240", "320x240",
     // with a label in brackets behind it or not. "Auto" (the source's size)
     // gives an empty QSize; a value that is no usable size gives an invalid

@@ -117,7 +117,7 @@ void TestCommandBuilder::titleOfTheWorkedExample()
              words(QStringLiteral(
                        "-y -ss 0 -pgc 0 -audio_track 0 -subtitle -1 -i %1 "
                        "-vf scale=640:360,pad=640:480:0:60 -b:v 1200000 -r 30000/1001 -vcodec mpeg4 "
-                       "-threads 4 -aspect 1.33333 -ab 192k -ac 2 -ar 44100 -acodec libfaac")
+                       "-threads 4 -aspect 4:3 -ab 192k -ac 2 -ar 44100 -acodec libfaac")
                        .arg(QDir::toNativeSeparators(task.items[0]->sourcePath)))
                  << out);
     QCOMPARE(task.output.filePath, out);

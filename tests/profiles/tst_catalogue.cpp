@@ -372,7 +372,7 @@ void TestCatalogue::vocabulary_data()
     } rows[] = {{"pcodec", 4, 4},    {"pi", 4, 0},    {"title", 13, 0},     {"author", 8, 0},
                 {"year", 8, 0},      {"genre", 8, 0}, {"vcodec", 125, 104}, {"s", 132, 37},
                 {"b", 126, 1},       {"r", 128, 0},   {"aspect", 124, 0},   {"sameq", 122, 0},
-                {"level", 32, 0},    {"vn", 4, 0},    {"bt", 1, 0},         {"vprofile", 1, 0},
+                {"level", 32, 0},    {"vn", 4, 0},    {"bt", 1, 0},         {"vprofile", 7, 0},
                 {"acodec", 140, 91}, {"ab", 132, 0},  {"ar", 140, 1},       {"ac", 140, 1},
                 {"vol", 140, 0},     {"an", 123, 0},  {"pix_fmt", 124, 0},  {"cgop", 124, 0}};
     for (const auto &row : rows)

@@ -289,6 +289,8 @@ MPEG2_SIZES = ("Auto,352*240 (sif),352*288 (cif),352*480 (half d1),352*576 (half
 
 H264_EXPERT = {"g": "250", "qscale": "25", "coder": "1"}
 H264_LEVELS = "10,11,12,13,20,21,22,30,31,32,40,41,42,50,51"
+# The first iPads and the mini decode H.264's main profile, not high.
+IPAD_MAIN = ("main", "baseline,main")
 
 FAMILIES = {
     "general video": dict(
@@ -316,7 +318,7 @@ FAMILIES = {
         vcodec=("dvvideo", "dvvideo", True), acodec=("pcm_s16le", "pcm_s16le", True),
         s=("720*480", DISC_SIZES, False), r=("29.97", "25,29.97"),
         ar=("48000", "48000", True), ac=("2 (Stereo)", "2 (Stereo)", True), sameq=False,
-        an=False, expert={"g": "18", "pix_fmt": "yuv422p"}),
+        an=False, expert={"g": "18"}),
     "streaming: Real": dict(
         vcodec=("rv10", "rv10,rv20", False), acodec=("rmaudio", "rmaudio", True),
         s=("Auto", LABELLED_SIZES, False), b=("384", "1200,512,384,256,128"),
@@ -531,22 +533,23 @@ DOCUMENTS = {
     "wtv.xml": ("disc: DVD", dict(acodec=codec("ac3", "ac3,mp2", False),
                                   ar=("44100", "48000,44100", False))),
     # iPad
-    "iPad_h264.xml": ("phone H.264", fixed_size("1024*768", ("2000", "3000,2500,2000,1500,1000"),
-                                                ("31", "22,30,31"))),
-    "iPad_h264_hd.xml": ("tablet HD", dict(ar=("48000", SAMPLE_RATES, False))),
+    "iPad_h264.xml": ("phone H.264", dict(fixed_size("1024*768", ("2000", "3000,2500,2000,1500,1000"),
+                                                     ("31", "22,30,31")), vprofile=IPAD_MAIN)),
+    "iPad_h264_hd.xml": ("tablet HD", dict(ar=("48000", SAMPLE_RATES, False), vprofile=IPAD_MAIN)),
     "iPad_mpeg4.xml": ("phone MPEG-4", fixed_size("1024*768", ("2000",
                                                   "3000,2500,2000,1500,1000"))),
-    "iPad2_h264.xml": ("phone H.264", fixed_size("1024*768", ("2000", "3000,2500,2000,1500,1000"),
-                                                 ("31", "22,30,31"))),
-    "iPad2_h264_hd.xml": ("tablet HD", {}),
+    "iPad2_h264.xml": ("phone H.264", dict(fixed_size("1024*768", ("2000", "3000,2500,2000,1500,1000"),
+                                                      ("31", "22,30,31")), vprofile=IPAD_MAIN)),
+    "iPad2_h264_hd.xml": ("tablet HD", dict(vprofile=IPAD_MAIN)),
     "iPad2_mpeg4.xml": ("phone MPEG-4", fixed_size("1024*768", ("2000",
                                                    "3000,2500,2000,1500,1000"))),
     "iPad3_1080p.xml": ("tablet HD", dict(s=("1920*1080", "1920*1080,1280*720", True),
                                           b=("6000", "8000,7000,6000,5000,4000"),
-                                          level=("31", "30,31,40"))),
-    "iPadmini_h264.xml": ("phone H.264", fixed_size("1024*768", ("2000",
-                                                    "3000,2500,2000,1500,1000"),
-                                                    ("31", "22,30,31"))),
+                                          level=("31", "30,31,40"),
+                                          vprofile=("high", "baseline,main,high"))),
+    "iPadmini_h264.xml": ("phone H.264", dict(fixed_size("1024*768", ("2000",
+                                                         "3000,2500,2000,1500,1000"),
+                                                         ("31", "22,30,31")), vprofile=IPAD_MAIN)),
     # iPhone
     "iPhone_h264.xml": ("phone H.264", {}),
     "iPhone_mpeg4.xml": ("phone MPEG-4", {}),
@@ -774,8 +777,10 @@ def make_document(name, family, changes):
             video.append(element("sameq"))
         if p.get("level"):
             video.append(listed("level", *p["level"]))
-        if p.get("vprofile"):
+        if p.get("vprofile") is True:
             video.append(listed("vprofile", "Standard", "Proxy,LT,Standard,HQ"))
+        elif p.get("vprofile"):
+            video.append(listed("vprofile", *p["vprofile"]))
         if p["vn"]:
             video.append(element("vn"))
         if video:
