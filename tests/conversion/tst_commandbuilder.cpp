@@ -325,6 +325,11 @@ void TestCommandBuilder::videoValues_data()
                                               QStringLiteral("s=1920*1080")}
                                << "-vprofile high"
                                << "";
+    QTest::newRow("h264 profile and level the document names")
+        << QStringList{QStringLiteral("vcodec=h264"), QStringLiteral("s=1920*1080"),
+                       QStringLiteral("vprofile=main"), QStringLiteral("level=31")}
+        << "-vprofile main -level 3.1"
+        << "-vprofile high";
     QTest::newRow("divx") << QStringList{QStringLiteral("vcodec=divx")}
                           << "-vtag DX50 -vcodec mpeg4"
                           << "-threads";
