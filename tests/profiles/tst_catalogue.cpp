@@ -278,7 +278,7 @@ void TestCatalogue::families_data()
     row("vcd.xml", "Video Audio Expert",
         "!vcodec=mpeg1video !acodec=mp2 s=352*240 !b=1150 ab=224 g=18");
     row("dv.xml", "Video Audio Expert",
-        "!vcodec=dvvideo !acodec=pcm_s16le -b -ab !ar=48000 pix_fmt=yuv422p g=18");
+        "!vcodec=dvvideo !acodec=pcm_s16le -b -ab !ar=48000 pix_fmt= g=18");
     row("rm.xml", "Video Audio Expert", "vcodec=rv10 !acodec=rmaudio b=384 r=Auto ab=64");
     row("wmv.xml", "Summary Video Audio Expert",
         "vcodec=wmv3x acodec=wma7x r=Auto ar=48000 vn=False genre=");
