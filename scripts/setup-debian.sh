@@ -6,6 +6,7 @@ set -euo pipefail
 packages=(
     build-essential cmake ninja-build pkg-config
     qt6-base-dev qt6-base-dev-tools qt6-multimedia-dev libgl-dev
+    qt6-tools-dev qt6-l10n-tools qt6-translations-l10n
     ffmpeg libavformat-dev libavcodec-dev libavutil-dev libswscale-dev
     libswresample-dev libavfilter-dev
     libdvdread-dev dvdauthor libass-dev

@@ -1,0 +1,116 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ar">
+<context>
+    <name>CMainWnd</name>
+    <message>
+        <source>Tessarine Kestrove</source>
+        <translation>Tessarine Kestrove</translation>
+    </message>
+    <message>
+        <source>Version: %1</source>
+        <translation>الإصدار: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileGroupLoader</name>
+    <message>
+        <source>Untitled</source>
+        <translation>بلا عنوان</translation>
+    </message>
+</context>
+<context>
+    <name>QxLanguage</name>
+    <message>
+        <source>&amp;Language</source>
+        <translation>ال&amp;لغة</translation>
+    </message>
+</context>
+<context>
+    <name>QxSkin</name>
+    <message>
+        <source>&amp;Skin</source>
+        <translation>ال&amp;مظهر</translation>
+    </message>
+</context>
+<context>
+    <name>TaskList</name>
+    <message>
+        <source>Title_%1</source>
+        <translation>عنوان_%1</translation>
+    </message>
+    <message>
+        <source>Merge %1</source>
+        <translation>دمج %1</translation>
+    </message>
+</context>
+<context>
+    <name>Utils</name>
+    <message>
+        <source>%1x%2</source>
+        <translation>%1×%2</translation>
+    </message>
+    <message>
+        <source>B</source>
+        <translation>بايت</translation>
+    </message>
+    <message>
+        <source>kB</source>
+        <translation>ك.بايت</translation>
+    </message>
+    <message>
+        <source>MB</source>
+        <translation>م.بايت</translation>
+    </message>
+    <message>
+        <source>GB</source>
+        <translation>ج.بايت</translation>
+    </message>
+    <message>
+        <source>TB</source>
+        <translation>ت.بايت</translation>
+    </message>
+    <message>
+        <source>PB</source>
+        <translation>ب.بايت</translation>
+    </message>
+    <message>
+        <source>EB</source>
+        <translation>إ.بايت</translation>
+    </message>
+    <message>
+        <source>ZB</source>
+        <translation>ز.بايت</translation>
+    </message>
+    <message>
+        <source>YB</source>
+        <translation>ي.بايت</translation>
+    </message>
+</context>
+<context>
+    <name>saveAsDlg</name>
+    <message>
+        <source>Save As</source>
+        <translation>حفظ باسم</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>إغلاق</translation>
+    </message>
+    <message>
+        <source>Save As:</source>
+        <translation>حفظ باسم:</translation>
+    </message>
+</context>
+<context>
+    <name>splash</name>
+    <message>
+        <source>© %1 %2. All rights reserved.</source>
+        <translation>© %1 %2. جميع الحقوق محفوظة.</translation>
+    </message>
+    <message>
+        <source>Version: %1</source>
+        <translation>الإصدار: %1</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,116 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="pt">
+<context>
+    <name>CMainWnd</name>
+    <message>
+        <source>Tessarine Kestrove</source>
+        <translation>Tessarine Kestrove</translation>
+    </message>
+    <message>
+        <source>Version: %1</source>
+        <translation>Versão: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileGroupLoader</name>
+    <message>
+        <source>Untitled</source>
+        <translation>Sem título</translation>
+    </message>
+</context>
+<context>
+    <name>QxLanguage</name>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Idioma</translation>
+    </message>
+</context>
+<context>
+    <name>QxSkin</name>
+    <message>
+        <source>&amp;Skin</source>
+        <translation>&amp;Aparência</translation>
+    </message>
+</context>
+<context>
+    <name>TaskList</name>
+    <message>
+        <source>Title_%1</source>
+        <translation>Título_%1</translation>
+    </message>
+    <message>
+        <source>Merge %1</source>
+        <translation>Junção %1</translation>
+    </message>
+</context>
+<context>
+    <name>Utils</name>
+    <message>
+        <source>%1x%2</source>
+        <translation>%1×%2</translation>
+    </message>
+    <message>
+        <source>B</source>
+        <translation>B</translation>
+    </message>
+    <message>
+        <source>kB</source>
+        <translation>kB</translation>
+    </message>
+    <message>
+        <source>MB</source>
+        <translation>MB</translation>
+    </message>
+    <message>
+        <source>GB</source>
+        <translation>GB</translation>
+    </message>
+    <message>
+        <source>TB</source>
+        <translation>TB</translation>
+    </message>
+    <message>
+        <source>PB</source>
+        <translation>PB</translation>
+    </message>
+    <message>
+        <source>EB</source>
+        <translation>EB</translation>
+    </message>
+    <message>
+        <source>ZB</source>
+        <translation>ZB</translation>
+    </message>
+    <message>
+        <source>YB</source>
+        <translation>YB</translation>
+    </message>
+</context>
+<context>
+    <name>saveAsDlg</name>
+    <message>
+        <source>Save As</source>
+        <translation>Guardar como</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+    <message>
+        <source>Save As:</source>
+        <translation>Guardar como:</translation>
+    </message>
+</context>
+<context>
+    <name>splash</name>
+    <message>
+        <source>© %1 %2. All rights reserved.</source>
+        <translation>© %1 %2. Todos os direitos reservados.</translation>
+    </message>
+    <message>
+        <source>Version: %1</source>
+        <translation>Versão: %1</translation>
+    </message>
+</context>
+</TS>
