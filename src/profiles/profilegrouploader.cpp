@@ -223,18 +223,19 @@ bool ProfileGroupLoader::hasProfile(const QString &key) const
     return false;
 }
 
-// The key of the first or the last profile of the first or the last group.
+// The key of the first or the last profile of the catalogue; empty groups
+// at either end ("User Defined" before the user saves one) are passed over.
 static QString endProfile(const QList<QDomNode> &groupList, bool last)
 {
-    if (groupList.isEmpty())
-        return QString();
-    const QDomNode node = last ? groupList.last() : groupList.first();
-    const QDomNodeList entries = node.toElement().elementsByTagName(QStringLiteral("Profile"));
-    if (entries.isEmpty())
-        return QString();
-    return ProfileGroupLoader::profileKey(
-        groupField(node, QStringLiteral("Id")),
-        childValue(entries.at(last ? entries.size() - 1 : 0), QStringLiteral("Id")));
+    for (int g = 0; g < groupList.size(); ++g) {
+        const QDomNode node = groupList.at(last ? groupList.size() - 1 - g : g);
+        const QDomNodeList entries = node.toElement().elementsByTagName(QStringLiteral("Profile"));
+        if (!entries.isEmpty())
+            return ProfileGroupLoader::profileKey(
+                groupField(node, QStringLiteral("Id")),
+                childValue(entries.at(last ? entries.size() - 1 : 0), QStringLiteral("Id")));
+    }
+    return QString();
 }
 
 QString ProfileGroupLoader::firstProfile() const

@@ -214,7 +214,7 @@ void TestProfileGroupLoader::noUserFile()
     QCOMPARE(catalogue.groups().size(), 16);
     QCOMPARE(catalogue.defaultProfile(), QStringLiteral("1,68"));
     QCOMPARE(catalogue.profiles(catalogue.group(QStringLiteral("0"))).size(), 0);
-    QCOMPARE(catalogue.firstProfile(), QString());
+    QCOMPARE(catalogue.firstProfile(), QStringLiteral("1,12")); // past the empty "User Defined"
     QCOMPARE(catalogue.lastProfile(), QStringLiteral("24,121"));
     QCOMPARE(field(catalogue.group(QStringLiteral("99")), "Name"), QStringLiteral("User Defined"));
     QCOMPARE(ProfileGroupLoader::instance()->defaultProfile(), QStringLiteral("1,68"));
