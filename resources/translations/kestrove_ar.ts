@@ -13,10 +13,66 @@
     </message>
 </context>
 <context>
+    <name>CProfileCombo</name>
+    <message>
+        <source>Profile</source>
+        <translation>ملف التعريف</translation>
+    </message>
+</context>
+<context>
+    <name>CProfileMenu</name>
+    <message>
+        <source>Recommended</source>
+        <translation>موصى به</translation>
+    </message>
+</context>
+<context>
+    <name>CSearchLineEdit</name>
+    <message>
+        <source>Clear the search</source>
+        <translation>مسح البحث</translation>
+    </message>
+</context>
+<context>
     <name>ProfileGroupLoader</name>
     <message>
         <source>Untitled</source>
         <translation>بلا عنوان</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileMenu</name>
+    <message>
+        <source>Previous group</source>
+        <translation>المجموعة السابقة</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>المجموعات</translation>
+    </message>
+    <message>
+        <source>Next group</source>
+        <translation>المجموعة التالية</translation>
+    </message>
+    <message>
+        <source>Search profiles</source>
+        <translation>البحث في ملفات التعريف</translation>
+    </message>
+    <message>
+        <source>Previous profile</source>
+        <translation>ملف التعريف السابق</translation>
+    </message>
+    <message>
+        <source>Profiles</source>
+        <translation>ملفات التعريف</translation>
+    </message>
+    <message>
+        <source>Next profile</source>
+        <translation>ملف التعريف التالي</translation>
+    </message>
+    <message>
+        <source>Search Profile...</source>
+        <translation>البحث عن ملف تعريف...</translation>
     </message>
 </context>
 <context>

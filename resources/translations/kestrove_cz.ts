@@ -13,10 +13,66 @@
     </message>
 </context>
 <context>
+    <name>CProfileCombo</name>
+    <message>
+        <source>Profile</source>
+        <translation>Profil</translation>
+    </message>
+</context>
+<context>
+    <name>CProfileMenu</name>
+    <message>
+        <source>Recommended</source>
+        <translation>Doporučeno</translation>
+    </message>
+</context>
+<context>
+    <name>CSearchLineEdit</name>
+    <message>
+        <source>Clear the search</source>
+        <translation>Vymazat hledání</translation>
+    </message>
+</context>
+<context>
     <name>ProfileGroupLoader</name>
     <message>
         <source>Untitled</source>
         <translation>Bez názvu</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileMenu</name>
+    <message>
+        <source>Previous group</source>
+        <translation>Předchozí skupina</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>Skupiny</translation>
+    </message>
+    <message>
+        <source>Next group</source>
+        <translation>Další skupina</translation>
+    </message>
+    <message>
+        <source>Search profiles</source>
+        <translation>Hledat profily</translation>
+    </message>
+    <message>
+        <source>Previous profile</source>
+        <translation>Předchozí profil</translation>
+    </message>
+    <message>
+        <source>Profiles</source>
+        <translation>Profily</translation>
+    </message>
+    <message>
+        <source>Next profile</source>
+        <translation>Další profil</translation>
+    </message>
+    <message>
+        <source>Search Profile...</source>
+        <translation>Hledat profil...</translation>
     </message>
 </context>
 <context>

@@ -13,10 +13,66 @@
     </message>
 </context>
 <context>
+    <name>CProfileCombo</name>
+    <message>
+        <source>Profile</source>
+        <translation>Profil</translation>
+    </message>
+</context>
+<context>
+    <name>CProfileMenu</name>
+    <message>
+        <source>Recommended</source>
+        <translation>Empfohlen</translation>
+    </message>
+</context>
+<context>
+    <name>CSearchLineEdit</name>
+    <message>
+        <source>Clear the search</source>
+        <translation>Suche leeren</translation>
+    </message>
+</context>
+<context>
     <name>ProfileGroupLoader</name>
     <message>
         <source>Untitled</source>
         <translation>Unbenannt</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileMenu</name>
+    <message>
+        <source>Previous group</source>
+        <translation>Vorherige Gruppe</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>Gruppen</translation>
+    </message>
+    <message>
+        <source>Next group</source>
+        <translation>Nächste Gruppe</translation>
+    </message>
+    <message>
+        <source>Search profiles</source>
+        <translation>Profile suchen</translation>
+    </message>
+    <message>
+        <source>Previous profile</source>
+        <translation>Vorheriges Profil</translation>
+    </message>
+    <message>
+        <source>Profiles</source>
+        <translation>Profile</translation>
+    </message>
+    <message>
+        <source>Next profile</source>
+        <translation>Nächstes Profil</translation>
+    </message>
+    <message>
+        <source>Search Profile...</source>
+        <translation>Profil suchen...</translation>
     </message>
 </context>
 <context>

@@ -13,9 +13,65 @@
     </message>
 </context>
 <context>
+    <name>CProfileCombo</name>
+    <message>
+        <source>Profile</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>CProfileMenu</name>
+    <message>
+        <source>Recommended</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>CSearchLineEdit</name>
+    <message>
+        <source>Clear the search</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ProfileGroupLoader</name>
     <message>
         <source>Untitled</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ProfileMenu</name>
+    <message>
+        <source>Previous group</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Next group</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search profiles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Previous profile</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Profiles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Next profile</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search Profile...</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

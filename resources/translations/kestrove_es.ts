@@ -13,10 +13,66 @@
     </message>
 </context>
 <context>
+    <name>CProfileCombo</name>
+    <message>
+        <source>Profile</source>
+        <translation>Perfil</translation>
+    </message>
+</context>
+<context>
+    <name>CProfileMenu</name>
+    <message>
+        <source>Recommended</source>
+        <translation>Recomendado</translation>
+    </message>
+</context>
+<context>
+    <name>CSearchLineEdit</name>
+    <message>
+        <source>Clear the search</source>
+        <translation>Borrar la búsqueda</translation>
+    </message>
+</context>
+<context>
     <name>ProfileGroupLoader</name>
     <message>
         <source>Untitled</source>
         <translation>Sin título</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileMenu</name>
+    <message>
+        <source>Previous group</source>
+        <translation>Grupo anterior</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>Grupos</translation>
+    </message>
+    <message>
+        <source>Next group</source>
+        <translation>Grupo siguiente</translation>
+    </message>
+    <message>
+        <source>Search profiles</source>
+        <translation>Buscar perfiles</translation>
+    </message>
+    <message>
+        <source>Previous profile</source>
+        <translation>Perfil anterior</translation>
+    </message>
+    <message>
+        <source>Profiles</source>
+        <translation>Perfiles</translation>
+    </message>
+    <message>
+        <source>Next profile</source>
+        <translation>Perfil siguiente</translation>
+    </message>
+    <message>
+        <source>Search Profile...</source>
+        <translation>Buscar perfil...</translation>
     </message>
 </context>
 <context>

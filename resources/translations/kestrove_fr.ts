@@ -13,10 +13,66 @@
     </message>
 </context>
 <context>
+    <name>CProfileCombo</name>
+    <message>
+        <source>Profile</source>
+        <translation>Profil</translation>
+    </message>
+</context>
+<context>
+    <name>CProfileMenu</name>
+    <message>
+        <source>Recommended</source>
+        <translation>Recommandé</translation>
+    </message>
+</context>
+<context>
+    <name>CSearchLineEdit</name>
+    <message>
+        <source>Clear the search</source>
+        <translation>Effacer la recherche</translation>
+    </message>
+</context>
+<context>
     <name>ProfileGroupLoader</name>
     <message>
         <source>Untitled</source>
         <translation>Sans titre</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileMenu</name>
+    <message>
+        <source>Previous group</source>
+        <translation>Groupe précédent</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>Groupes</translation>
+    </message>
+    <message>
+        <source>Next group</source>
+        <translation>Groupe suivant</translation>
+    </message>
+    <message>
+        <source>Search profiles</source>
+        <translation>Rechercher des profils</translation>
+    </message>
+    <message>
+        <source>Previous profile</source>
+        <translation>Profil précédent</translation>
+    </message>
+    <message>
+        <source>Profiles</source>
+        <translation>Profils</translation>
+    </message>
+    <message>
+        <source>Next profile</source>
+        <translation>Profil suivant</translation>
+    </message>
+    <message>
+        <source>Search Profile...</source>
+        <translation>Rechercher un profil...</translation>
     </message>
 </context>
 <context>

@@ -13,10 +13,66 @@
     </message>
 </context>
 <context>
+    <name>CProfileCombo</name>
+    <message>
+        <source>Profile</source>
+        <translation>Profilo</translation>
+    </message>
+</context>
+<context>
+    <name>CProfileMenu</name>
+    <message>
+        <source>Recommended</source>
+        <translation>Consigliato</translation>
+    </message>
+</context>
+<context>
+    <name>CSearchLineEdit</name>
+    <message>
+        <source>Clear the search</source>
+        <translation>Cancella la ricerca</translation>
+    </message>
+</context>
+<context>
     <name>ProfileGroupLoader</name>
     <message>
         <source>Untitled</source>
         <translation>Senza titolo</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileMenu</name>
+    <message>
+        <source>Previous group</source>
+        <translation>Gruppo precedente</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>Gruppi</translation>
+    </message>
+    <message>
+        <source>Next group</source>
+        <translation>Gruppo successivo</translation>
+    </message>
+    <message>
+        <source>Search profiles</source>
+        <translation>Cerca profili</translation>
+    </message>
+    <message>
+        <source>Previous profile</source>
+        <translation>Profilo precedente</translation>
+    </message>
+    <message>
+        <source>Profiles</source>
+        <translation>Profili</translation>
+    </message>
+    <message>
+        <source>Next profile</source>
+        <translation>Profilo successivo</translation>
+    </message>
+    <message>
+        <source>Search Profile...</source>
+        <translation>Cerca profilo...</translation>
     </message>
 </context>
 <context>

@@ -13,10 +13,66 @@
     </message>
 </context>
 <context>
+    <name>CProfileCombo</name>
+    <message>
+        <source>Profile</source>
+        <translation>プロファイル</translation>
+    </message>
+</context>
+<context>
+    <name>CProfileMenu</name>
+    <message>
+        <source>Recommended</source>
+        <translation>おすすめ</translation>
+    </message>
+</context>
+<context>
+    <name>CSearchLineEdit</name>
+    <message>
+        <source>Clear the search</source>
+        <translation>検索をクリア</translation>
+    </message>
+</context>
+<context>
     <name>ProfileGroupLoader</name>
     <message>
         <source>Untitled</source>
         <translation>無題</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileMenu</name>
+    <message>
+        <source>Previous group</source>
+        <translation>前のグループ</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>グループ</translation>
+    </message>
+    <message>
+        <source>Next group</source>
+        <translation>次のグループ</translation>
+    </message>
+    <message>
+        <source>Search profiles</source>
+        <translation>プロファイルを検索</translation>
+    </message>
+    <message>
+        <source>Previous profile</source>
+        <translation>前のプロファイル</translation>
+    </message>
+    <message>
+        <source>Profiles</source>
+        <translation>プロファイル一覧</translation>
+    </message>
+    <message>
+        <source>Next profile</source>
+        <translation>次のプロファイル</translation>
+    </message>
+    <message>
+        <source>Search Profile...</source>
+        <translation>プロファイルを検索...</translation>
     </message>
 </context>
 <context>

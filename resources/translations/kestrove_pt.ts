@@ -13,10 +13,66 @@
     </message>
 </context>
 <context>
+    <name>CProfileCombo</name>
+    <message>
+        <source>Profile</source>
+        <translation>Perfil</translation>
+    </message>
+</context>
+<context>
+    <name>CProfileMenu</name>
+    <message>
+        <source>Recommended</source>
+        <translation>Recomendado</translation>
+    </message>
+</context>
+<context>
+    <name>CSearchLineEdit</name>
+    <message>
+        <source>Clear the search</source>
+        <translation>Limpar a pesquisa</translation>
+    </message>
+</context>
+<context>
     <name>ProfileGroupLoader</name>
     <message>
         <source>Untitled</source>
         <translation>Sem título</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileMenu</name>
+    <message>
+        <source>Previous group</source>
+        <translation>Grupo anterior</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>Grupos</translation>
+    </message>
+    <message>
+        <source>Next group</source>
+        <translation>Grupo seguinte</translation>
+    </message>
+    <message>
+        <source>Search profiles</source>
+        <translation>Pesquisar perfis</translation>
+    </message>
+    <message>
+        <source>Previous profile</source>
+        <translation>Perfil anterior</translation>
+    </message>
+    <message>
+        <source>Profiles</source>
+        <translation>Perfis</translation>
+    </message>
+    <message>
+        <source>Next profile</source>
+        <translation>Perfil seguinte</translation>
+    </message>
+    <message>
+        <source>Search Profile...</source>
+        <translation>Pesquisar perfil...</translation>
     </message>
 </context>
 <context>

@@ -13,10 +13,66 @@
     </message>
 </context>
 <context>
+    <name>CProfileCombo</name>
+    <message>
+        <source>Profile</source>
+        <translation>配置文件</translation>
+    </message>
+</context>
+<context>
+    <name>CProfileMenu</name>
+    <message>
+        <source>Recommended</source>
+        <translation>推荐</translation>
+    </message>
+</context>
+<context>
+    <name>CSearchLineEdit</name>
+    <message>
+        <source>Clear the search</source>
+        <translation>清除搜索</translation>
+    </message>
+</context>
+<context>
     <name>ProfileGroupLoader</name>
     <message>
         <source>Untitled</source>
         <translation>未命名</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileMenu</name>
+    <message>
+        <source>Previous group</source>
+        <translation>上一个分组</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>分组</translation>
+    </message>
+    <message>
+        <source>Next group</source>
+        <translation>下一个分组</translation>
+    </message>
+    <message>
+        <source>Search profiles</source>
+        <translation>搜索配置文件</translation>
+    </message>
+    <message>
+        <source>Previous profile</source>
+        <translation>上一个配置文件</translation>
+    </message>
+    <message>
+        <source>Profiles</source>
+        <translation>配置文件列表</translation>
+    </message>
+    <message>
+        <source>Next profile</source>
+        <translation>下一个配置文件</translation>
+    </message>
+    <message>
+        <source>Search Profile...</source>
+        <translation>搜索配置文件...</translation>
     </message>
 </context>
 <context>

@@ -13,10 +13,66 @@
     </message>
 </context>
 <context>
+    <name>CProfileCombo</name>
+    <message>
+        <source>Profile</source>
+        <translation>設定檔</translation>
+    </message>
+</context>
+<context>
+    <name>CProfileMenu</name>
+    <message>
+        <source>Recommended</source>
+        <translation>推薦</translation>
+    </message>
+</context>
+<context>
+    <name>CSearchLineEdit</name>
+    <message>
+        <source>Clear the search</source>
+        <translation>清除搜尋</translation>
+    </message>
+</context>
+<context>
     <name>ProfileGroupLoader</name>
     <message>
         <source>Untitled</source>
         <translation>未命名</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileMenu</name>
+    <message>
+        <source>Previous group</source>
+        <translation>上一個群組</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>群組</translation>
+    </message>
+    <message>
+        <source>Next group</source>
+        <translation>下一個群組</translation>
+    </message>
+    <message>
+        <source>Search profiles</source>
+        <translation>搜尋設定檔</translation>
+    </message>
+    <message>
+        <source>Previous profile</source>
+        <translation>上一個設定檔</translation>
+    </message>
+    <message>
+        <source>Profiles</source>
+        <translation>設定檔清單</translation>
+    </message>
+    <message>
+        <source>Next profile</source>
+        <translation>下一個設定檔</translation>
+    </message>
+    <message>
+        <source>Search Profile...</source>
+        <translation>搜尋設定檔...</translation>
     </message>
 </context>
 <context>
