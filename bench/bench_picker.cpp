@@ -64,7 +64,8 @@ int main(int argc, char *argv[])
         combo->setGeometry(10, 10, 300, 30);
         combo->selectProfile(QStringLiteral("1"), QStringLiteral("68"));
         window.show();
-        QTest::qWaitForWindowExposed(&window);
+        if (!QTest::qWaitForWindowExposed(&window))
+            return 1;
         CProfileMenu *menu = combo->profileMenu();
         open.push_back(untilPainted(menu->profileList()->viewport(), [combo] { combo->showPopup(); }));
         menu->searchField()->setFocus();
