@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
 """Draws the catalogue's icons: the group icons, the small profile icons and
 the recommended mark, as SVG under src/icons, rendered to PNG beside the
-documents with rsvg-convert (Debian's librsvg2-bin). The PNGs are committed;
+documents with rsvg-convert (Debian's librsvg2-bin), each also at twice its
+size as "@2x" for HiDPI screens. The PNGs are committed;
 building needs neither this script nor rsvg-convert.
 
     python3 resources/profiles/src/make_icons.py
@@ -155,8 +156,10 @@ def render(svg_text, name, png, size):
     source = SVG / (name + ".svg")
     source.write_text(svg_text, encoding="utf-8")
     png.parent.mkdir(exist_ok=True)
-    subprocess.run(["rsvg-convert", "-w", str(size), "-h", str(size), "-o", str(png),
-                    str(source)], check=True)
+    # Twice the size beside it, for HiDPI screens.
+    for scale, target in ((1, png), (2, png.with_name(png.stem + "@2x.png"))):
+        subprocess.run(["rsvg-convert", "-w", str(size * scale), "-h", str(size * scale),
+                        "-o", str(target), str(source)], check=True)
 
 
 def main():
