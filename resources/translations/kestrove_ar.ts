@@ -16,675 +16,675 @@
     <name>Profile</name>
     <message>
         <source>User Defined</source>
-        <translation type="unfinished"></translation>
+        <translation>مخصص</translation>
     </message>
     <message>
         <source>General Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو عام</translation>
     </message>
     <message>
         <source>General Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>صوت عام</translation>
     </message>
     <message>
         <source>Android</source>
-        <translation type="unfinished"></translation>
+        <translation>Android</translation>
     </message>
     <message>
         <source>Apple TV</source>
-        <translation type="unfinished"></translation>
+        <translation>Apple TV</translation>
     </message>
     <message>
         <source>HD Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو عالي الدقة</translation>
     </message>
     <message>
         <source>iPad</source>
-        <translation type="unfinished"></translation>
+        <translation>iPad</translation>
     </message>
     <message>
         <source>iPhone</source>
-        <translation type="unfinished"></translation>
+        <translation>iPhone</translation>
     </message>
     <message>
         <source>iPod</source>
-        <translation type="unfinished"></translation>
+        <translation>iPod</translation>
     </message>
     <message>
         <source>Mobile Phone</source>
-        <translation type="unfinished"></translation>
+        <translation>الهاتف المحمول</translation>
     </message>
     <message>
         <source>Picture and Animation</source>
-        <translation type="unfinished"></translation>
+        <translation>الصور والرسوم المتحركة</translation>
     </message>
     <message>
         <source>Portable Multimedia Device</source>
-        <translation type="unfinished"></translation>
+        <translation>جهاز وسائط متعددة محمول</translation>
     </message>
     <message>
         <source>PS3</source>
-        <translation type="unfinished"></translation>
+        <translation>PS3</translation>
     </message>
     <message>
         <source>PSP</source>
-        <translation type="unfinished"></translation>
+        <translation>PSP</translation>
     </message>
     <message>
         <source>Xbox HD Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو Xbox عالي الدقة</translation>
     </message>
     <message>
         <source>Zune</source>
-        <translation type="unfinished"></translation>
+        <translation>Zune</translation>
     </message>
     <message>
         <source>ASF - Advanced Streaming Format</source>
-        <translation type="unfinished"></translation>
+        <translation>ASF - Advanced Streaming Format</translation>
     </message>
     <message>
         <source>Advanced Streaming Format, a Windows Media container.</source>
-        <translation type="unfinished"></translation>
+        <translation>Advanced Streaming Format، حاوية من Windows Media.</translation>
     </message>
     <message>
         <source>AVI - Audio-Video Interleaved</source>
-        <translation type="unfinished"></translation>
+        <translation>AVI - Audio-Video Interleaved</translation>
     </message>
     <message>
         <source>Audio-Video Interleaved, the classic Windows video format.</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio-Video Interleaved، تنسيق الفيديو التقليدي في Windows.</translation>
     </message>
     <message>
         <source>DivX Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو DivX</translation>
     </message>
     <message>
         <source>DivX video in an AVI container.</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو DivX داخل حاوية AVI.</translation>
     </message>
     <message>
         <source>DV - Digital Video format</source>
-        <translation type="unfinished"></translation>
+        <translation>DV - تنسيق الفيديو الرقمي</translation>
     </message>
     <message>
         <source>Digital Video format of camcorders.</source>
-        <translation type="unfinished"></translation>
+        <translation>تنسيق الفيديو الرقمي الخاص بكاميرات الفيديو.</translation>
     </message>
     <message>
         <source>DVD Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو DVD</translation>
     </message>
     <message>
         <source>MPEG-2 video for DVD players.</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو MPEG-2 لمشغلات DVD.</translation>
     </message>
     <message>
         <source>MOV - QuickTime</source>
-        <translation type="unfinished"></translation>
+        <translation>MOV - QuickTime</translation>
     </message>
     <message>
         <source>QuickTime movie format.</source>
-        <translation type="unfinished"></translation>
+        <translation>تنسيق أفلام QuickTime.</translation>
     </message>
     <message>
         <source>MPEG4 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو MPEG4</translation>
     </message>
     <message>
         <source>MPEG-4 video format.</source>
-        <translation type="unfinished"></translation>
+        <translation>تنسيق فيديو MPEG-4.</translation>
     </message>
     <message>
         <source>MPEG1 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو MPEG1</translation>
     </message>
     <message>
         <source>MPEG-1 video format.</source>
-        <translation type="unfinished"></translation>
+        <translation>تنسيق فيديو MPEG-1.</translation>
     </message>
     <message>
         <source>MPEG2 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو MPEG2</translation>
     </message>
     <message>
         <source>MPEG-2 video format.</source>
-        <translation type="unfinished"></translation>
+        <translation>تنسيق فيديو MPEG-2.</translation>
     </message>
     <message>
         <source>H.264/MPEG-4 AVC Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو H.264/MPEG-4 AVC</translation>
     </message>
     <message>
         <source>H.264/MPEG-4 AVC video format.</source>
-        <translation type="unfinished"></translation>
+        <translation>تنسيق فيديو H.264/MPEG-4 AVC.</translation>
     </message>
     <message>
         <source>RM - Real Video</source>
-        <translation type="unfinished"></translation>
+        <translation>RM - Real Video</translation>
     </message>
     <message>
         <source>RealVideo streaming format.</source>
-        <translation type="unfinished"></translation>
+        <translation>تنسيق RealVideo للبث المتدفق.</translation>
     </message>
     <message>
         <source>VCD Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو VCD</translation>
     </message>
     <message>
         <source>MPEG-1 video for Video CD players.</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو MPEG-1 لمشغلات Video CD.</translation>
     </message>
     <message>
         <source>WMV - Windows Media Video</source>
-        <translation type="unfinished"></translation>
+        <translation>WMV - Windows Media Video</translation>
     </message>
     <message>
         <source>Windows Media Video format.</source>
-        <translation type="unfinished"></translation>
+        <translation>تنسيق Windows Media Video.</translation>
     </message>
     <message>
         <source>Xvid Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو Xvid</translation>
     </message>
     <message>
         <source>Xvid video in an AVI container.</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو Xvid داخل حاوية AVI.</translation>
     </message>
     <message>
         <source>Matroska Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو Matroska</translation>
     </message>
     <message>
         <source>Matroska video format.</source>
-        <translation type="unfinished"></translation>
+        <translation>تنسيق فيديو Matroska.</translation>
     </message>
     <message>
         <source>WebM Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو WebM</translation>
     </message>
     <message>
         <source>WebM video format for the web.</source>
-        <translation type="unfinished"></translation>
+        <translation>تنسيق فيديو WebM للويب.</translation>
     </message>
     <message>
         <source>AC3 - Dolby Digital AC-3</source>
-        <translation type="unfinished"></translation>
+        <translation>AC3 - Dolby Digital AC-3</translation>
     </message>
     <message>
         <source>Dolby Digital AC-3 audio format.</source>
-        <translation type="unfinished"></translation>
+        <translation>تنسيق صوت Dolby Digital AC-3.</translation>
     </message>
     <message>
         <source>AIFF - Audio Interchange File Format</source>
-        <translation type="unfinished"></translation>
+        <translation>AIFF - Audio Interchange File Format</translation>
     </message>
     <message>
         <source>Audio Interchange File Format, uncompressed audio.</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio Interchange File Format، صوت غير مضغوط.</translation>
     </message>
     <message>
         <source>ALAC - Apple Lossless Audio Codec</source>
-        <translation type="unfinished"></translation>
+        <translation>ALAC - Apple Lossless Audio Codec</translation>
     </message>
     <message>
         <source>Apple Lossless audio format.</source>
-        <translation type="unfinished"></translation>
+        <translation>تنسيق صوت Apple Lossless.</translation>
     </message>
     <message>
         <source>FLAC - Free Lossless Audio Codec</source>
-        <translation type="unfinished"></translation>
+        <translation>FLAC - Free Lossless Audio Codec</translation>
     </message>
     <message>
         <source>Free Lossless Audio Codec format.</source>
-        <translation type="unfinished"></translation>
+        <translation>تنسيق الصوت عديم الفقد Free Lossless Audio Codec.</translation>
     </message>
     <message>
         <source>SUN AU Format</source>
-        <translation type="unfinished"></translation>
+        <translation>تنسيق SUN AU</translation>
     </message>
     <message>
         <source>Sun AU audio format.</source>
-        <translation type="unfinished"></translation>
+        <translation>تنسيق صوت Sun AU.</translation>
     </message>
     <message>
         <source>M4A - MPEG-4 Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>M4A - صوت MPEG-4</translation>
     </message>
     <message>
         <source>MPEG-4 Audio format.</source>
-        <translation type="unfinished"></translation>
+        <translation>تنسيق صوت MPEG-4.</translation>
     </message>
     <message>
         <source>MP2 - MPEG Layer-2 Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>MP2 - صوت MPEG Layer-2</translation>
     </message>
     <message>
         <source>MPEG Layer-2 audio format.</source>
-        <translation type="unfinished"></translation>
+        <translation>تنسيق صوت MPEG Layer-2.</translation>
     </message>
     <message>
         <source>MP3 - MPEG Layer-3 Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>MP3 - صوت MPEG Layer-3</translation>
     </message>
     <message>
         <source>MPEG Layer-3 audio format.</source>
-        <translation type="unfinished"></translation>
+        <translation>تنسيق صوت MPEG Layer-3.</translation>
     </message>
     <message>
         <source>OGG - Ogg Vorbis Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>OGG - صوت Ogg Vorbis</translation>
     </message>
     <message>
         <source>Ogg Vorbis audio format.</source>
-        <translation type="unfinished"></translation>
+        <translation>تنسيق صوت Ogg Vorbis.</translation>
     </message>
     <message>
         <source>RA - RealAudio</source>
-        <translation type="unfinished"></translation>
+        <translation>RA - RealAudio</translation>
     </message>
     <message>
         <source>RealAudio streaming format.</source>
-        <translation type="unfinished"></translation>
+        <translation>تنسيق RealAudio للبث المتدفق.</translation>
     </message>
     <message>
         <source>WAV - Waveform Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>WAV - صوت Waveform</translation>
     </message>
     <message>
         <source>Waveform audio format, uncompressed.</source>
-        <translation type="unfinished"></translation>
+        <translation>تنسيق صوت Waveform، غير مضغوط.</translation>
     </message>
     <message>
         <source>WMA - Windows Media Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>WMA - Windows Media Audio</translation>
     </message>
     <message>
         <source>Windows Media Audio format.</source>
-        <translation type="unfinished"></translation>
+        <translation>تنسيق Windows Media Audio.</translation>
     </message>
     <message>
         <source>Android MPEG4 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو MPEG4 لأجهزة Android</translation>
     </message>
     <message>
         <source>MPEG4 profile optimized for Android</source>
-        <translation type="unfinished"></translation>
+        <translation>ملف تعريف MPEG4 مُحسَّن لأجهزة Android</translation>
     </message>
     <message>
         <source>Samsung Galaxy S3 H.264 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو H.264 لجهاز Samsung Galaxy S3</translation>
     </message>
     <message>
         <source>H.264/MPEG-4 AVC profile optimized for Galaxy S3</source>
-        <translation type="unfinished"></translation>
+        <translation>ملف تعريف H.264/MPEG-4 AVC مُحسَّن لجهاز Galaxy S3</translation>
     </message>
     <message>
         <source>Samsung Galaxy Tab MPEG4 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو MPEG4 لجهاز Samsung Galaxy Tab</translation>
     </message>
     <message>
         <source>MPEG4 profile optimized for Galaxy Tab</source>
-        <translation type="unfinished"></translation>
+        <translation>ملف تعريف MPEG4 مُحسَّن لجهاز Galaxy Tab</translation>
     </message>
     <message>
         <source>Apple TV H.264 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو H.264 لجهاز Apple TV</translation>
     </message>
     <message>
         <source>H.264/MPEG-4 AVC profile optimized for Apple TV</source>
-        <translation type="unfinished"></translation>
+        <translation>ملف تعريف H.264/MPEG-4 AVC مُحسَّن لجهاز Apple TV</translation>
     </message>
     <message>
         <source>Apple TV H.264 HD Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو H.264 عالي الدقة لجهاز Apple TV</translation>
     </message>
     <message>
         <source>H.264/MPEG-4 AVC profile optimized for Apple TV HD</source>
-        <translation type="unfinished"></translation>
+        <translation>ملف تعريف H.264/MPEG-4 AVC مُحسَّن لجهاز Apple TV HD</translation>
     </message>
     <message>
         <source>Apple TV 3 H.264 1080P Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو H.264 1080P لجهاز Apple TV 3</translation>
     </message>
     <message>
         <source>Apple TV MPEG4 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو MPEG4 لجهاز Apple TV</translation>
     </message>
     <message>
         <source>MPEG4 profile optimized for Apple TV</source>
-        <translation type="unfinished"></translation>
+        <translation>ملف تعريف MPEG4 مُحسَّن لجهاز Apple TV</translation>
     </message>
     <message>
         <source>HD ASF Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو ASF عالي الدقة</translation>
     </message>
     <message>
         <source>ASF profile optimized for HD players</source>
-        <translation type="unfinished"></translation>
+        <translation>ملف تعريف ASF مُحسَّن لمشغلات الفيديو عالية الدقة</translation>
     </message>
     <message>
         <source>HD AVI Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو AVI عالي الدقة</translation>
     </message>
     <message>
         <source>MPEG4 AVI profile optimized for HD players</source>
-        <translation type="unfinished"></translation>
+        <translation>ملف تعريف MPEG4 AVI مُحسَّن لمشغلات الفيديو عالية الدقة</translation>
     </message>
     <message>
         <source>HD H.264/MPEG-4 AVC Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو H.264/MPEG-4 AVC عالي الدقة</translation>
     </message>
     <message>
         <source>H.264/MPEG-4 AVC profile optimized for HD players</source>
-        <translation type="unfinished"></translation>
+        <translation>ملف تعريف H.264/MPEG-4 AVC مُحسَّن لمشغلات الفيديو عالية الدقة</translation>
     </message>
     <message>
         <source>HD Quick Time Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو QuickTime عالي الدقة</translation>
     </message>
     <message>
         <source>MPEG4 profile optimized for HD players</source>
-        <translation type="unfinished"></translation>
+        <translation>ملف تعريف MPEG4 مُحسَّن لمشغلات الفيديو عالية الدقة</translation>
     </message>
     <message>
         <source>MPEG2-PS HD Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو MPEG2-PS عالي الدقة</translation>
     </message>
     <message>
         <source>MPEG2 profile optimized for HD players</source>
-        <translation type="unfinished"></translation>
+        <translation>ملف تعريف MPEG2 مُحسَّن لمشغلات الفيديو عالية الدقة</translation>
     </message>
     <message>
         <source>MPEG2-TS HD Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو MPEG2-TS عالي الدقة</translation>
     </message>
     <message>
         <source>MPEG4 HD Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو MPEG4 عالي الدقة</translation>
     </message>
     <message>
         <source>RM HD Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو RM عالي الدقة</translation>
     </message>
     <message>
         <source>RealVideo profile optimized for HD players</source>
-        <translation type="unfinished"></translation>
+        <translation>ملف تعريف RealVideo مُحسَّن لمشغلات الفيديو عالية الدقة</translation>
     </message>
     <message>
         <source>HD WMV Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو WMV عالي الدقة</translation>
     </message>
     <message>
         <source>WMV profile optimized for HD players</source>
-        <translation type="unfinished"></translation>
+        <translation>ملف تعريف WMV مُحسَّن لمشغلات الفيديو عالية الدقة</translation>
     </message>
     <message>
         <source>XVID HD Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو XVID عالي الدقة</translation>
     </message>
     <message>
         <source>Xvid profile optimized for HD players</source>
-        <translation type="unfinished"></translation>
+        <translation>ملف تعريف Xvid مُحسَّن لمشغلات الفيديو عالية الدقة</translation>
     </message>
     <message>
         <source>iPad H.264 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو H.264 لجهاز iPad</translation>
     </message>
     <message>
         <source>H.264/MPEG-4 AVC profile optimized for iPad</source>
-        <translation type="unfinished"></translation>
+        <translation>ملف تعريف H.264/MPEG-4 AVC مُحسَّن لجهاز iPad</translation>
     </message>
     <message>
         <source>iPad H.264 HD Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو H.264 عالي الدقة لجهاز iPad</translation>
     </message>
     <message>
         <source>iPad MPEG4 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو MPEG4 لجهاز iPad</translation>
     </message>
     <message>
         <source>MPEG4 profile optimized for iPad</source>
-        <translation type="unfinished"></translation>
+        <translation>ملف تعريف MPEG4 مُحسَّن لجهاز iPad</translation>
     </message>
     <message>
         <source>iPad 2 H.264 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو H.264 لجهاز iPad 2</translation>
     </message>
     <message>
         <source>iPad 2 H.264 HD Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو H.264 عالي الدقة لجهاز iPad 2</translation>
     </message>
     <message>
         <source>iPad 2 MPEG4 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو MPEG4 لجهاز iPad 2</translation>
     </message>
     <message>
         <source>iPad 3 1080P Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو 1080P لجهاز iPad 3</translation>
     </message>
     <message>
         <source>iPad mini H.264 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو H.264 لجهاز iPad mini</translation>
     </message>
     <message>
         <source>iPhone H.264 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو H.264 لجهاز iPhone</translation>
     </message>
     <message>
         <source>H.264/MPEG-4 AVC profile optimized for iPhone</source>
-        <translation type="unfinished"></translation>
+        <translation>ملف تعريف H.264/MPEG-4 AVC مُحسَّن لجهاز iPhone</translation>
     </message>
     <message>
         <source>iPhone MPEG4 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو MPEG4 لجهاز iPhone</translation>
     </message>
     <message>
         <source>MPEG4 profile optimized for iPhone</source>
-        <translation type="unfinished"></translation>
+        <translation>ملف تعريف MPEG4 مُحسَّن لجهاز iPhone</translation>
     </message>
     <message>
         <source>iPhone 4 H.264 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو H.264 لجهاز iPhone 4</translation>
     </message>
     <message>
         <source>iPhone 4 MPEG4 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو MPEG4 لجهاز iPhone 4</translation>
     </message>
     <message>
         <source>iPhone 5 H.264 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو H.264 لجهاز iPhone 5</translation>
     </message>
     <message>
         <source>iPod H.264 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو H.264 لجهاز iPod</translation>
     </message>
     <message>
         <source>H.264/MPEG-4 AVC profile optimized for iPod</source>
-        <translation type="unfinished"></translation>
+        <translation>ملف تعريف H.264/MPEG-4 AVC مُحسَّن لجهاز iPod</translation>
     </message>
     <message>
         <source>iPod MPEG4 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو MPEG4 لجهاز iPod</translation>
     </message>
     <message>
         <source>MPEG4 profile optimized for iPod</source>
-        <translation type="unfinished"></translation>
+        <translation>ملف تعريف MPEG4 مُحسَّن لجهاز iPod</translation>
     </message>
     <message>
         <source>iPod touch H.264 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو H.264 لجهاز iPod touch</translation>
     </message>
     <message>
         <source>H.264/MPEG-4 AVC profile optimized for iPod touch</source>
-        <translation type="unfinished"></translation>
+        <translation>ملف تعريف H.264/MPEG-4 AVC مُحسَّن لجهاز iPod touch</translation>
     </message>
     <message>
         <source>iPod touch MPEG4 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو MPEG4 لجهاز iPod touch</translation>
     </message>
     <message>
         <source>MPEG4 profile optimized for iPod touch</source>
-        <translation type="unfinished"></translation>
+        <translation>ملف تعريف MPEG4 مُحسَّن لجهاز iPod touch</translation>
     </message>
     <message>
         <source>iPod touch 4 H.264 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو H.264 لجهاز iPod touch 4</translation>
     </message>
     <message>
         <source>iPod touch 4 MPEG4 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو MPEG4 لجهاز iPod touch 4</translation>
     </message>
     <message>
         <source>Mobile Phone 3GP Video - Stereo</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو 3GP للهاتف المحمول - ستيريو</translation>
     </message>
     <message>
         <source>3GP profile optimized for mobile phones</source>
-        <translation type="unfinished"></translation>
+        <translation>ملف تعريف 3GP مُحسَّن للهواتف المحمولة</translation>
     </message>
     <message>
         <source>Mobile Phone 3GP Video - Mono</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو 3GP للهاتف المحمول - أحادي</translation>
     </message>
     <message>
         <source>BlackBerry 3GP Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو 3GP لجهاز BlackBerry</translation>
     </message>
     <message>
         <source>BlackBerry AVI Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو AVI لجهاز BlackBerry</translation>
     </message>
     <message>
         <source>MPEG4 AVI profile optimized for mobile phones</source>
-        <translation type="unfinished"></translation>
+        <translation>ملف تعريف MPEG4 AVI مُحسَّن للهواتف المحمولة</translation>
     </message>
     <message>
         <source>BlackBerry MPEG4 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو MPEG4 لجهاز BlackBerry</translation>
     </message>
     <message>
         <source>MPEG4 profile optimized for mobile phones</source>
-        <translation type="unfinished"></translation>
+        <translation>ملف تعريف MPEG4 مُحسَّن للهواتف المحمولة</translation>
     </message>
     <message>
         <source>WMV Video for Mobile Phone</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو WMV للهاتف المحمول</translation>
     </message>
     <message>
         <source>WMV profile optimized for mobile phones</source>
-        <translation type="unfinished"></translation>
+        <translation>ملف تعريف WMV مُحسَّن للهواتف المحمولة</translation>
     </message>
     <message>
         <source>FLV - Flash Video Format</source>
-        <translation type="unfinished"></translation>
+        <translation>FLV - تنسيق فيديو Flash</translation>
     </message>
     <message>
         <source>Flash video format for web pages.</source>
-        <translation type="unfinished"></translation>
+        <translation>تنسيق فيديو Flash لصفحات الويب.</translation>
     </message>
     <message>
         <source>Picture - BMP format</source>
-        <translation type="unfinished"></translation>
+        <translation>صورة - تنسيق BMP</translation>
     </message>
     <message>
         <source>Pictures captured from the video as BMP files.</source>
-        <translation type="unfinished"></translation>
+        <translation>صور ملتقطة من الفيديو تُحفظ كملفات BMP.</translation>
     </message>
     <message>
         <source>Picture - GIF Animation format</source>
-        <translation type="unfinished"></translation>
+        <translation>صورة - تنسيق GIF المتحرك</translation>
     </message>
     <message>
         <source>An animated GIF picture made from the video.</source>
-        <translation type="unfinished"></translation>
+        <translation>صورة GIF متحركة تُنشأ من الفيديو.</translation>
     </message>
     <message>
         <source>Picture - JPEG format</source>
-        <translation type="unfinished"></translation>
+        <translation>صورة - تنسيق JPEG</translation>
     </message>
     <message>
         <source>Pictures captured from the video as JPEG files.</source>
-        <translation type="unfinished"></translation>
+        <translation>صور ملتقطة من الفيديو تُحفظ كملفات JPEG.</translation>
     </message>
     <message>
         <source>Picture - PNG format</source>
-        <translation type="unfinished"></translation>
+        <translation>صورة - تنسيق PNG</translation>
     </message>
     <message>
         <source>Pictures captured from the video as PNG files.</source>
-        <translation type="unfinished"></translation>
+        <translation>صور ملتقطة من الفيديو تُحفظ كملفات PNG.</translation>
     </message>
     <message>
         <source>SWF - SWF Format</source>
-        <translation type="unfinished"></translation>
+        <translation>SWF - تنسيق SWF</translation>
     </message>
     <message>
         <source>Shockwave Flash animation format.</source>
-        <translation type="unfinished"></translation>
+        <translation>تنسيق رسوم Shockwave Flash المتحركة.</translation>
     </message>
     <message>
         <source>Archos MPEG4</source>
-        <translation type="unfinished"></translation>
+        <translation>Archos MPEG4</translation>
     </message>
     <message>
         <source>MPEG4 profile optimized for portable players</source>
-        <translation type="unfinished"></translation>
+        <translation>ملف تعريف MPEG4 مُحسَّن للمشغلات المحمولة</translation>
     </message>
     <message>
         <source>Creative ZEN MPEG4 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو MPEG4 لجهاز Creative ZEN</translation>
     </message>
     <message>
         <source>iRiver MPEG4 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو MPEG4 لجهاز iRiver</translation>
     </message>
     <message>
         <source>PS3 H.264 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو H.264 لجهاز PS3</translation>
     </message>
     <message>
         <source>H.264/MPEG-4 AVC profile optimized for PS3</source>
-        <translation type="unfinished"></translation>
+        <translation>ملف تعريف H.264/MPEG-4 AVC مُحسَّن لجهاز PS3</translation>
     </message>
     <message>
         <source>PSP MPEG-4 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو MPEG-4 لجهاز PSP</translation>
     </message>
     <message>
         <source>MPEG4 profile optimized for PSP</source>
-        <translation type="unfinished"></translation>
+        <translation>ملف تعريف MPEG4 مُحسَّن لجهاز PSP</translation>
     </message>
     <message>
         <source>Xbox360 H.264 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو H.264 لجهاز Xbox360</translation>
     </message>
     <message>
         <source>H.264/MPEG-4 AVC profile optimized for Xbox360</source>
-        <translation type="unfinished"></translation>
+        <translation>ملف تعريف H.264/MPEG-4 AVC مُحسَّن لجهاز Xbox360</translation>
     </message>
     <message>
         <source>Xbox360 MPEG4 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو MPEG4 لجهاز Xbox360</translation>
     </message>
     <message>
         <source>MPEG4 profile optimized for Xbox360</source>
-        <translation type="unfinished"></translation>
+        <translation>ملف تعريف MPEG4 مُحسَّن لجهاز Xbox360</translation>
     </message>
     <message>
         <source>Xbox360 WMV Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو WMV لجهاز Xbox360</translation>
     </message>
     <message>
         <source>WMV profile optimized for Xbox360</source>
-        <translation type="unfinished"></translation>
+        <translation>ملف تعريف WMV مُحسَّن لجهاز Xbox360</translation>
     </message>
     <message>
         <source>Zune MPEG4 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو MPEG4 لجهاز Zune</translation>
     </message>
     <message>
         <source>MPEG4 profile optimized for Zune</source>
-        <translation type="unfinished"></translation>
+        <translation>ملف تعريف MPEG4 مُحسَّن لجهاز Zune</translation>
     </message>
 </context>
 <context>
@@ -712,219 +712,219 @@
     <name>SettingsWindow</name>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>عام</translation>
     </message>
     <message>
         <source>Picture Format</source>
-        <translation type="unfinished"></translation>
+        <translation>تنسيق الصور</translation>
     </message>
     <message>
         <source>Picture format.</source>
-        <translation type="unfinished"></translation>
+        <translation>تنسيق ملفات الصور الملتقطة.</translation>
     </message>
     <message>
         <source>Interval</source>
-        <translation type="unfinished"></translation>
+        <translation>الفاصل الزمني</translation>
     </message>
     <message>
         <source>Select how many seconds to capture one picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>يحدد عدد الثواني بين كل صورة ملتقطة والتي تليها.</translation>
     </message>
     <message>
         <source>Video</source>
-        <translation type="unfinished"></translation>
+        <translation>الفيديو</translation>
     </message>
     <message>
         <source>Video options</source>
-        <translation type="unfinished"></translation>
+        <translation>خيارات الفيديو</translation>
     </message>
     <message>
         <source>Video Codec</source>
-        <translation type="unfinished"></translation>
+        <translation>ترميز الفيديو</translation>
     </message>
     <message>
         <source>Set the video codec (methods of compression for digital videos, e.g., MPEG-4, H.264 or WMV) which the encoding engine uses. Usually it is related to the output format you choose.</source>
-        <translation type="unfinished"></translation>
+        <translation>يحدد برنامج ترميز الفيديو (طريقة ضغط الفيديو الرقمي، مثل MPEG-4 أو H.264 أو WMV) الذي يستخدمه محرك الترميز. ويرتبط عادةً بتنسيق الإخراج الذي تختاره.</translation>
     </message>
     <message>
         <source>Video Size</source>
-        <translation type="unfinished"></translation>
+        <translation>أبعاد الفيديو</translation>
     </message>
     <message>
         <source>Set frame size. The format is &apos;width x height&apos; like 320x240, 640x480 or 1920x1080 pixels. You can choose an similar size for your playback device screen resolution.</source>
-        <translation type="unfinished"></translation>
+        <translation>يحدد أبعاد الإطار بالصيغة &quot;العرض x الارتفاع&quot;، مثل 320x240 أو 640x480 أو 1920x1080 بكسل. يمكنك اختيار أبعاد قريبة من دقة شاشة جهاز التشغيل لديك.</translation>
     </message>
     <message>
         <source>Video Bitrate</source>
-        <translation type="unfinished"></translation>
+        <translation>معدل بت الفيديو</translation>
     </message>
     <message>
         <source>Set the video bit rate in kilobit per second. This is the key factor that is related to the output file size and video quality -- the larger the bit rate, the better the video quality and the bigger the output file you will get, and vice versa.</source>
-        <translation type="unfinished"></translation>
+        <translation>يحدد معدل بت الفيديو بالكيلوبت في الثانية. وهو العامل الأساسي الذي يحدد حجم ملف الإخراج وجودة الفيديو؛ فكلما زاد معدل البت تحسنت جودة الفيديو وكبر حجم ملف الإخراج، والعكس صحيح.</translation>
     </message>
     <message>
         <source>Frame Rate</source>
-        <translation type="unfinished"></translation>
+        <translation>معدل الإطارات</translation>
     </message>
     <message>
         <source>Set how many frames should be displayed per second (FPS). Higher frame rate increases the smoothness when played back, and usually 25--30 frame per second can provide you with a very good viewing experience.</source>
-        <translation type="unfinished"></translation>
+        <translation>يحدد عدد الإطارات المعروضة في الثانية (FPS). كلما ارتفع معدل الإطارات زادت سلاسة التشغيل، وعادةً ما يوفر معدل 25 إلى 30 إطارًا في الثانية تجربة مشاهدة جيدة جدًا.</translation>
     </message>
     <message>
         <source>Aspect Ratio</source>
-        <translation type="unfinished"></translation>
+        <translation>نسبة الأبعاد</translation>
     </message>
     <message>
         <source>Set width to height ratio according to the screen aspect of your playback device . (4:3, 16:9 or 1.3333, 1.7777).</source>
-        <translation type="unfinished"></translation>
+        <translation>يحدد نسبة العرض إلى الارتفاع وفقًا لأبعاد شاشة جهاز التشغيل لديك (4:3 أو 16:9 أو 1.3333 أو 1.7777).</translation>
     </message>
     <message>
         <source>Same Quality</source>
-        <translation type="unfinished"></translation>
+        <translation>جودة المصدر</translation>
     </message>
     <message>
         <source>This function enables you to get good output video quality as the source. (Sometimes this function may bring you a large output file, or make the converting time pretty long.)</source>
-        <translation type="unfinished"></translation>
+        <translation>تتيح لك هذه الميزة الحصول على فيديو إخراج بجودة مماثلة لجودة المصدر. (قد ينتج عنها أحيانًا ملف إخراج كبير الحجم، أو تطول مدة التحويل كثيرًا.)</translation>
     </message>
     <message>
         <source>Zoom</source>
-        <translation type="unfinished"></translation>
+        <translation>التكبير</translation>
     </message>
     <message>
         <source>Select zoom mode, that is how to deal with the blank edge when the aspect of the source and the destination is different.</source>
-        <translation type="unfinished"></translation>
+        <translation>يحدد وضع التكبير، أي كيفية التعامل مع الحواف الفارغة عندما تختلف نسبة أبعاد المصدر عن نسبة أبعاد الوجهة.</translation>
     </message>
     <message>
         <source>Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>الصوت</translation>
     </message>
     <message>
         <source>Audio options</source>
-        <translation type="unfinished"></translation>
+        <translation>خيارات الصوت</translation>
     </message>
     <message>
         <source>Audio Codec</source>
-        <translation type="unfinished"></translation>
+        <translation>ترميز الصوت</translation>
     </message>
     <message>
         <source>Set the audio codec (methods of compression for digital audio, e.g., MP3, PCM or AC3) which the encoding engine uses. Usually it is related to the output format you choose.</source>
-        <translation type="unfinished"></translation>
+        <translation>يحدد برنامج ترميز الصوت (طريقة ضغط الصوت الرقمي، مثل MP3 أو PCM أو AC3) الذي يستخدمه محرك الترميز. ويرتبط عادةً بتنسيق الإخراج الذي تختاره.</translation>
     </message>
     <message>
         <source>Audio Bitrate</source>
-        <translation type="unfinished"></translation>
+        <translation>معدل بت الصوت</translation>
     </message>
     <message>
         <source>Set audio bitrate (in kbit/s)</source>
-        <translation type="unfinished"></translation>
+        <translation>يحدد معدل بت الصوت (بوحدة kbit/s)</translation>
     </message>
     <message>
         <source>Sample Rate</source>
-        <translation type="unfinished"></translation>
+        <translation>معدل العينات</translation>
     </message>
     <message>
         <source>Set the audio sampling frequency (the number of samples per second) (default = 44100 Hz).</source>
-        <translation type="unfinished"></translation>
+        <translation>يحدد تردد أخذ العينات للصوت، أي عدد العينات في الثانية (الافتراضي = 44100 هرتز).</translation>
     </message>
     <message>
         <source>Channels</source>
-        <translation type="unfinished"></translation>
+        <translation>القنوات</translation>
     </message>
     <message>
         <source>Set number of audio channels, 1(Mono), 2(Stereo) and 5.1(Dolby Digital) are commonly used for general digital audio.</source>
-        <translation type="unfinished"></translation>
+        <translation>يحدد عدد قنوات الصوت؛ والقيم الشائعة في الصوت الرقمي هي 1 (أحادي) و2 (ستيريو) و5.1 (Dolby Digital).</translation>
     </message>
     <message>
         <source>Volume</source>
-        <translation type="unfinished"></translation>
+        <translation>مستوى الصوت</translation>
     </message>
     <message>
         <source>Set the output volume.</source>
-        <translation type="unfinished"></translation>
+        <translation>يحدد مستوى صوت الإخراج.</translation>
     </message>
     <message>
         <source>Disable Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>تعطيل الصوت</translation>
     </message>
     <message>
         <source>Disable audio</source>
-        <translation type="unfinished"></translation>
+        <translation>ينشئ الإخراج دون مسار صوتي</translation>
     </message>
     <message>
         <source>Summary</source>
-        <translation type="unfinished"></translation>
+        <translation>الملخص</translation>
     </message>
     <message>
         <source>Summary of the file</source>
-        <translation type="unfinished"></translation>
+        <translation>معلومات ملخصة عن الملف</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>العنوان</translation>
     </message>
     <message>
         <source>Set the title</source>
-        <translation type="unfinished"></translation>
+        <translation>يحدد العنوان</translation>
     </message>
     <message>
         <source>Author</source>
-        <translation type="unfinished"></translation>
+        <translation>المؤلف</translation>
     </message>
     <message>
         <source>Set the author</source>
-        <translation type="unfinished"></translation>
+        <translation>يحدد المؤلف</translation>
     </message>
     <message>
         <source>Copyright</source>
-        <translation type="unfinished"></translation>
+        <translation>حقوق النشر</translation>
     </message>
     <message>
         <source>Set the copyright</source>
-        <translation type="unfinished"></translation>
+        <translation>يحدد بيان حقوق النشر</translation>
     </message>
     <message>
         <source>Comments</source>
-        <translation type="unfinished"></translation>
+        <translation>التعليقات</translation>
     </message>
     <message>
         <source>Set the comment</source>
-        <translation type="unfinished"></translation>
+        <translation>يحدد التعليق</translation>
     </message>
     <message>
         <source>Album</source>
-        <translation type="unfinished"></translation>
+        <translation>الألبوم</translation>
     </message>
     <message>
         <source>Genre</source>
-        <translation type="unfinished"></translation>
+        <translation>النوع</translation>
     </message>
     <message>
         <source>Composer</source>
-        <translation type="unfinished"></translation>
+        <translation>الملحن</translation>
     </message>
     <message>
         <source>Orig. Artist</source>
-        <translation type="unfinished"></translation>
+        <translation>الفنان الأصلي</translation>
     </message>
     <message>
         <source>Encoded by</source>
-        <translation type="unfinished"></translation>
+        <translation>رُمِّز بواسطة</translation>
     </message>
     <message>
         <source>Url</source>
-        <translation type="unfinished"></translation>
+        <translation>عنوان URL</translation>
     </message>
     <message>
         <source>Year</source>
-        <translation type="unfinished"></translation>
+        <translation>السنة</translation>
     </message>
     <message>
         <source>Expert</source>
-        <translation type="unfinished"></translation>
+        <translation>متقدم</translation>
     </message>
     <message>
         <source>Expert options</source>
-        <translation type="unfinished"></translation>
+        <translation>خيارات متقدمة</translation>
     </message>
 </context>
 <context>

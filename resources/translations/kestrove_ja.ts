@@ -16,675 +16,675 @@
     <name>Profile</name>
     <message>
         <source>User Defined</source>
-        <translation type="unfinished"></translation>
+        <translation>ユーザー定義</translation>
     </message>
     <message>
         <source>General Video</source>
-        <translation type="unfinished"></translation>
+        <translation>一般ビデオ</translation>
     </message>
     <message>
         <source>General Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>一般オーディオ</translation>
     </message>
     <message>
         <source>Android</source>
-        <translation type="unfinished"></translation>
+        <translation>Android</translation>
     </message>
     <message>
         <source>Apple TV</source>
-        <translation type="unfinished"></translation>
+        <translation>Apple TV</translation>
     </message>
     <message>
         <source>HD Video</source>
-        <translation type="unfinished"></translation>
+        <translation>HD ビデオ</translation>
     </message>
     <message>
         <source>iPad</source>
-        <translation type="unfinished"></translation>
+        <translation>iPad</translation>
     </message>
     <message>
         <source>iPhone</source>
-        <translation type="unfinished"></translation>
+        <translation>iPhone</translation>
     </message>
     <message>
         <source>iPod</source>
-        <translation type="unfinished"></translation>
+        <translation>iPod</translation>
     </message>
     <message>
         <source>Mobile Phone</source>
-        <translation type="unfinished"></translation>
+        <translation>携帯電話</translation>
     </message>
     <message>
         <source>Picture and Animation</source>
-        <translation type="unfinished"></translation>
+        <translation>画像とアニメーション</translation>
     </message>
     <message>
         <source>Portable Multimedia Device</source>
-        <translation type="unfinished"></translation>
+        <translation>ポータブルマルチメディア機器</translation>
     </message>
     <message>
         <source>PS3</source>
-        <translation type="unfinished"></translation>
+        <translation>PS3</translation>
     </message>
     <message>
         <source>PSP</source>
-        <translation type="unfinished"></translation>
+        <translation>PSP</translation>
     </message>
     <message>
         <source>Xbox HD Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Xbox HD ビデオ</translation>
     </message>
     <message>
         <source>Zune</source>
-        <translation type="unfinished"></translation>
+        <translation>Zune</translation>
     </message>
     <message>
         <source>ASF - Advanced Streaming Format</source>
-        <translation type="unfinished"></translation>
+        <translation>ASF - Advanced Streaming Format</translation>
     </message>
     <message>
         <source>Advanced Streaming Format, a Windows Media container.</source>
-        <translation type="unfinished"></translation>
+        <translation>Advanced Streaming Format。Windows Media のコンテナー形式です。</translation>
     </message>
     <message>
         <source>AVI - Audio-Video Interleaved</source>
-        <translation type="unfinished"></translation>
+        <translation>AVI - Audio-Video Interleaved</translation>
     </message>
     <message>
         <source>Audio-Video Interleaved, the classic Windows video format.</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio-Video Interleaved。Windows の定番のビデオ形式です。</translation>
     </message>
     <message>
         <source>DivX Video</source>
-        <translation type="unfinished"></translation>
+        <translation>DivX ビデオ</translation>
     </message>
     <message>
         <source>DivX video in an AVI container.</source>
-        <translation type="unfinished"></translation>
+        <translation>AVI コンテナーに格納した DivX ビデオ。</translation>
     </message>
     <message>
         <source>DV - Digital Video format</source>
-        <translation type="unfinished"></translation>
+        <translation>DV - デジタルビデオ形式</translation>
     </message>
     <message>
         <source>Digital Video format of camcorders.</source>
-        <translation type="unfinished"></translation>
+        <translation>ビデオカメラで使われるデジタルビデオ形式。</translation>
     </message>
     <message>
         <source>DVD Video</source>
-        <translation type="unfinished"></translation>
+        <translation>DVD ビデオ</translation>
     </message>
     <message>
         <source>MPEG-2 video for DVD players.</source>
-        <translation type="unfinished"></translation>
+        <translation>DVD プレーヤー用の MPEG-2 ビデオ。</translation>
     </message>
     <message>
         <source>MOV - QuickTime</source>
-        <translation type="unfinished"></translation>
+        <translation>MOV - QuickTime</translation>
     </message>
     <message>
         <source>QuickTime movie format.</source>
-        <translation type="unfinished"></translation>
+        <translation>QuickTime ムービー形式。</translation>
     </message>
     <message>
         <source>MPEG4 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>MPEG4 ビデオ</translation>
     </message>
     <message>
         <source>MPEG-4 video format.</source>
-        <translation type="unfinished"></translation>
+        <translation>MPEG-4 ビデオ形式。</translation>
     </message>
     <message>
         <source>MPEG1 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>MPEG1 ビデオ</translation>
     </message>
     <message>
         <source>MPEG-1 video format.</source>
-        <translation type="unfinished"></translation>
+        <translation>MPEG-1 ビデオ形式。</translation>
     </message>
     <message>
         <source>MPEG2 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>MPEG2 ビデオ</translation>
     </message>
     <message>
         <source>MPEG-2 video format.</source>
-        <translation type="unfinished"></translation>
+        <translation>MPEG-2 ビデオ形式。</translation>
     </message>
     <message>
         <source>H.264/MPEG-4 AVC Video</source>
-        <translation type="unfinished"></translation>
+        <translation>H.264/MPEG-4 AVC ビデオ</translation>
     </message>
     <message>
         <source>H.264/MPEG-4 AVC video format.</source>
-        <translation type="unfinished"></translation>
+        <translation>H.264/MPEG-4 AVC ビデオ形式。</translation>
     </message>
     <message>
         <source>RM - Real Video</source>
-        <translation type="unfinished"></translation>
+        <translation>RM - Real Video</translation>
     </message>
     <message>
         <source>RealVideo streaming format.</source>
-        <translation type="unfinished"></translation>
+        <translation>RealVideo ストリーミング形式。</translation>
     </message>
     <message>
         <source>VCD Video</source>
-        <translation type="unfinished"></translation>
+        <translation>VCD ビデオ</translation>
     </message>
     <message>
         <source>MPEG-1 video for Video CD players.</source>
-        <translation type="unfinished"></translation>
+        <translation>ビデオ CD プレーヤー用の MPEG-1 ビデオ。</translation>
     </message>
     <message>
         <source>WMV - Windows Media Video</source>
-        <translation type="unfinished"></translation>
+        <translation>WMV - Windows Media Video</translation>
     </message>
     <message>
         <source>Windows Media Video format.</source>
-        <translation type="unfinished"></translation>
+        <translation>Windows Media Video 形式。</translation>
     </message>
     <message>
         <source>Xvid Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Xvid ビデオ</translation>
     </message>
     <message>
         <source>Xvid video in an AVI container.</source>
-        <translation type="unfinished"></translation>
+        <translation>AVI コンテナーに格納した Xvid ビデオ。</translation>
     </message>
     <message>
         <source>Matroska Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Matroska ビデオ</translation>
     </message>
     <message>
         <source>Matroska video format.</source>
-        <translation type="unfinished"></translation>
+        <translation>Matroska ビデオ形式。</translation>
     </message>
     <message>
         <source>WebM Video</source>
-        <translation type="unfinished"></translation>
+        <translation>WebM ビデオ</translation>
     </message>
     <message>
         <source>WebM video format for the web.</source>
-        <translation type="unfinished"></translation>
+        <translation>Web 向けの WebM ビデオ形式。</translation>
     </message>
     <message>
         <source>AC3 - Dolby Digital AC-3</source>
-        <translation type="unfinished"></translation>
+        <translation>AC3 - Dolby Digital AC-3</translation>
     </message>
     <message>
         <source>Dolby Digital AC-3 audio format.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dolby Digital AC-3 オーディオ形式。</translation>
     </message>
     <message>
         <source>AIFF - Audio Interchange File Format</source>
-        <translation type="unfinished"></translation>
+        <translation>AIFF - Audio Interchange File Format</translation>
     </message>
     <message>
         <source>Audio Interchange File Format, uncompressed audio.</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio Interchange File Format。非圧縮のオーディオです。</translation>
     </message>
     <message>
         <source>ALAC - Apple Lossless Audio Codec</source>
-        <translation type="unfinished"></translation>
+        <translation>ALAC - Apple Lossless Audio Codec</translation>
     </message>
     <message>
         <source>Apple Lossless audio format.</source>
-        <translation type="unfinished"></translation>
+        <translation>Apple Lossless オーディオ形式。</translation>
     </message>
     <message>
         <source>FLAC - Free Lossless Audio Codec</source>
-        <translation type="unfinished"></translation>
+        <translation>FLAC - Free Lossless Audio Codec</translation>
     </message>
     <message>
         <source>Free Lossless Audio Codec format.</source>
-        <translation type="unfinished"></translation>
+        <translation>Free Lossless Audio Codec 形式 (可逆圧縮)。</translation>
     </message>
     <message>
         <source>SUN AU Format</source>
-        <translation type="unfinished"></translation>
+        <translation>SUN AU 形式</translation>
     </message>
     <message>
         <source>Sun AU audio format.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sun AU オーディオ形式。</translation>
     </message>
     <message>
         <source>M4A - MPEG-4 Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>M4A - MPEG-4 オーディオ</translation>
     </message>
     <message>
         <source>MPEG-4 Audio format.</source>
-        <translation type="unfinished"></translation>
+        <translation>MPEG-4 オーディオ形式。</translation>
     </message>
     <message>
         <source>MP2 - MPEG Layer-2 Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>MP2 - MPEG Layer-2 オーディオ</translation>
     </message>
     <message>
         <source>MPEG Layer-2 audio format.</source>
-        <translation type="unfinished"></translation>
+        <translation>MPEG Layer-2 オーディオ形式。</translation>
     </message>
     <message>
         <source>MP3 - MPEG Layer-3 Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>MP3 - MPEG Layer-3 オーディオ</translation>
     </message>
     <message>
         <source>MPEG Layer-3 audio format.</source>
-        <translation type="unfinished"></translation>
+        <translation>MPEG Layer-3 オーディオ形式。</translation>
     </message>
     <message>
         <source>OGG - Ogg Vorbis Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>OGG - Ogg Vorbis オーディオ</translation>
     </message>
     <message>
         <source>Ogg Vorbis audio format.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ogg Vorbis オーディオ形式。</translation>
     </message>
     <message>
         <source>RA - RealAudio</source>
-        <translation type="unfinished"></translation>
+        <translation>RA - RealAudio</translation>
     </message>
     <message>
         <source>RealAudio streaming format.</source>
-        <translation type="unfinished"></translation>
+        <translation>RealAudio ストリーミング形式。</translation>
     </message>
     <message>
         <source>WAV - Waveform Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>WAV - Waveform オーディオ</translation>
     </message>
     <message>
         <source>Waveform audio format, uncompressed.</source>
-        <translation type="unfinished"></translation>
+        <translation>非圧縮の Waveform オーディオ形式。</translation>
     </message>
     <message>
         <source>WMA - Windows Media Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>WMA - Windows Media Audio</translation>
     </message>
     <message>
         <source>Windows Media Audio format.</source>
-        <translation type="unfinished"></translation>
+        <translation>Windows Media Audio 形式。</translation>
     </message>
     <message>
         <source>Android MPEG4 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Android MPEG4 ビデオ</translation>
     </message>
     <message>
         <source>MPEG4 profile optimized for Android</source>
-        <translation type="unfinished"></translation>
+        <translation>Android 向けに最適化した MPEG4 プロファイル</translation>
     </message>
     <message>
         <source>Samsung Galaxy S3 H.264 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Samsung Galaxy S3 H.264 ビデオ</translation>
     </message>
     <message>
         <source>H.264/MPEG-4 AVC profile optimized for Galaxy S3</source>
-        <translation type="unfinished"></translation>
+        <translation>Galaxy S3 向けに最適化した H.264/MPEG-4 AVC プロファイル</translation>
     </message>
     <message>
         <source>Samsung Galaxy Tab MPEG4 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Samsung Galaxy Tab MPEG4 ビデオ</translation>
     </message>
     <message>
         <source>MPEG4 profile optimized for Galaxy Tab</source>
-        <translation type="unfinished"></translation>
+        <translation>Galaxy Tab 向けに最適化した MPEG4 プロファイル</translation>
     </message>
     <message>
         <source>Apple TV H.264 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Apple TV H.264 ビデオ</translation>
     </message>
     <message>
         <source>H.264/MPEG-4 AVC profile optimized for Apple TV</source>
-        <translation type="unfinished"></translation>
+        <translation>Apple TV 向けに最適化した H.264/MPEG-4 AVC プロファイル</translation>
     </message>
     <message>
         <source>Apple TV H.264 HD Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Apple TV H.264 HD ビデオ</translation>
     </message>
     <message>
         <source>H.264/MPEG-4 AVC profile optimized for Apple TV HD</source>
-        <translation type="unfinished"></translation>
+        <translation>Apple TV HD 向けに最適化した H.264/MPEG-4 AVC プロファイル</translation>
     </message>
     <message>
         <source>Apple TV 3 H.264 1080P Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Apple TV 3 H.264 1080P ビデオ</translation>
     </message>
     <message>
         <source>Apple TV MPEG4 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Apple TV MPEG4 ビデオ</translation>
     </message>
     <message>
         <source>MPEG4 profile optimized for Apple TV</source>
-        <translation type="unfinished"></translation>
+        <translation>Apple TV 向けに最適化した MPEG4 プロファイル</translation>
     </message>
     <message>
         <source>HD ASF Video</source>
-        <translation type="unfinished"></translation>
+        <translation>HD ASF ビデオ</translation>
     </message>
     <message>
         <source>ASF profile optimized for HD players</source>
-        <translation type="unfinished"></translation>
+        <translation>HD プレーヤー向けに最適化した ASF プロファイル</translation>
     </message>
     <message>
         <source>HD AVI Video</source>
-        <translation type="unfinished"></translation>
+        <translation>HD AVI ビデオ</translation>
     </message>
     <message>
         <source>MPEG4 AVI profile optimized for HD players</source>
-        <translation type="unfinished"></translation>
+        <translation>HD プレーヤー向けに最適化した MPEG4 AVI プロファイル</translation>
     </message>
     <message>
         <source>HD H.264/MPEG-4 AVC Video</source>
-        <translation type="unfinished"></translation>
+        <translation>HD H.264/MPEG-4 AVC ビデオ</translation>
     </message>
     <message>
         <source>H.264/MPEG-4 AVC profile optimized for HD players</source>
-        <translation type="unfinished"></translation>
+        <translation>HD プレーヤー向けに最適化した H.264/MPEG-4 AVC プロファイル</translation>
     </message>
     <message>
         <source>HD Quick Time Video</source>
-        <translation type="unfinished"></translation>
+        <translation>HD QuickTime ビデオ</translation>
     </message>
     <message>
         <source>MPEG4 profile optimized for HD players</source>
-        <translation type="unfinished"></translation>
+        <translation>HD プレーヤー向けに最適化した MPEG4 プロファイル</translation>
     </message>
     <message>
         <source>MPEG2-PS HD Video</source>
-        <translation type="unfinished"></translation>
+        <translation>MPEG2-PS HD ビデオ</translation>
     </message>
     <message>
         <source>MPEG2 profile optimized for HD players</source>
-        <translation type="unfinished"></translation>
+        <translation>HD プレーヤー向けに最適化した MPEG2 プロファイル</translation>
     </message>
     <message>
         <source>MPEG2-TS HD Video</source>
-        <translation type="unfinished"></translation>
+        <translation>MPEG2-TS HD ビデオ</translation>
     </message>
     <message>
         <source>MPEG4 HD Video</source>
-        <translation type="unfinished"></translation>
+        <translation>MPEG4 HD ビデオ</translation>
     </message>
     <message>
         <source>RM HD Video</source>
-        <translation type="unfinished"></translation>
+        <translation>RM HD ビデオ</translation>
     </message>
     <message>
         <source>RealVideo profile optimized for HD players</source>
-        <translation type="unfinished"></translation>
+        <translation>HD プレーヤー向けに最適化した RealVideo プロファイル</translation>
     </message>
     <message>
         <source>HD WMV Video</source>
-        <translation type="unfinished"></translation>
+        <translation>HD WMV ビデオ</translation>
     </message>
     <message>
         <source>WMV profile optimized for HD players</source>
-        <translation type="unfinished"></translation>
+        <translation>HD プレーヤー向けに最適化した WMV プロファイル</translation>
     </message>
     <message>
         <source>XVID HD Video</source>
-        <translation type="unfinished"></translation>
+        <translation>XVID HD ビデオ</translation>
     </message>
     <message>
         <source>Xvid profile optimized for HD players</source>
-        <translation type="unfinished"></translation>
+        <translation>HD プレーヤー向けに最適化した Xvid プロファイル</translation>
     </message>
     <message>
         <source>iPad H.264 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>iPad H.264 ビデオ</translation>
     </message>
     <message>
         <source>H.264/MPEG-4 AVC profile optimized for iPad</source>
-        <translation type="unfinished"></translation>
+        <translation>iPad 向けに最適化した H.264/MPEG-4 AVC プロファイル</translation>
     </message>
     <message>
         <source>iPad H.264 HD Video</source>
-        <translation type="unfinished"></translation>
+        <translation>iPad H.264 HD ビデオ</translation>
     </message>
     <message>
         <source>iPad MPEG4 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>iPad MPEG4 ビデオ</translation>
     </message>
     <message>
         <source>MPEG4 profile optimized for iPad</source>
-        <translation type="unfinished"></translation>
+        <translation>iPad 向けに最適化した MPEG4 プロファイル</translation>
     </message>
     <message>
         <source>iPad 2 H.264 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>iPad 2 H.264 ビデオ</translation>
     </message>
     <message>
         <source>iPad 2 H.264 HD Video</source>
-        <translation type="unfinished"></translation>
+        <translation>iPad 2 H.264 HD ビデオ</translation>
     </message>
     <message>
         <source>iPad 2 MPEG4 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>iPad 2 MPEG4 ビデオ</translation>
     </message>
     <message>
         <source>iPad 3 1080P Video</source>
-        <translation type="unfinished"></translation>
+        <translation>iPad 3 1080P ビデオ</translation>
     </message>
     <message>
         <source>iPad mini H.264 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>iPad mini H.264 ビデオ</translation>
     </message>
     <message>
         <source>iPhone H.264 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>iPhone H.264 ビデオ</translation>
     </message>
     <message>
         <source>H.264/MPEG-4 AVC profile optimized for iPhone</source>
-        <translation type="unfinished"></translation>
+        <translation>iPhone 向けに最適化した H.264/MPEG-4 AVC プロファイル</translation>
     </message>
     <message>
         <source>iPhone MPEG4 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>iPhone MPEG4 ビデオ</translation>
     </message>
     <message>
         <source>MPEG4 profile optimized for iPhone</source>
-        <translation type="unfinished"></translation>
+        <translation>iPhone 向けに最適化した MPEG4 プロファイル</translation>
     </message>
     <message>
         <source>iPhone 4 H.264 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>iPhone 4 H.264 ビデオ</translation>
     </message>
     <message>
         <source>iPhone 4 MPEG4 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>iPhone 4 MPEG4 ビデオ</translation>
     </message>
     <message>
         <source>iPhone 5 H.264 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>iPhone 5 H.264 ビデオ</translation>
     </message>
     <message>
         <source>iPod H.264 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>iPod H.264 ビデオ</translation>
     </message>
     <message>
         <source>H.264/MPEG-4 AVC profile optimized for iPod</source>
-        <translation type="unfinished"></translation>
+        <translation>iPod 向けに最適化した H.264/MPEG-4 AVC プロファイル</translation>
     </message>
     <message>
         <source>iPod MPEG4 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>iPod MPEG4 ビデオ</translation>
     </message>
     <message>
         <source>MPEG4 profile optimized for iPod</source>
-        <translation type="unfinished"></translation>
+        <translation>iPod 向けに最適化した MPEG4 プロファイル</translation>
     </message>
     <message>
         <source>iPod touch H.264 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>iPod touch H.264 ビデオ</translation>
     </message>
     <message>
         <source>H.264/MPEG-4 AVC profile optimized for iPod touch</source>
-        <translation type="unfinished"></translation>
+        <translation>iPod touch 向けに最適化した H.264/MPEG-4 AVC プロファイル</translation>
     </message>
     <message>
         <source>iPod touch MPEG4 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>iPod touch MPEG4 ビデオ</translation>
     </message>
     <message>
         <source>MPEG4 profile optimized for iPod touch</source>
-        <translation type="unfinished"></translation>
+        <translation>iPod touch 向けに最適化した MPEG4 プロファイル</translation>
     </message>
     <message>
         <source>iPod touch 4 H.264 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>iPod touch 4 H.264 ビデオ</translation>
     </message>
     <message>
         <source>iPod touch 4 MPEG4 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>iPod touch 4 MPEG4 ビデオ</translation>
     </message>
     <message>
         <source>Mobile Phone 3GP Video - Stereo</source>
-        <translation type="unfinished"></translation>
+        <translation>携帯電話用 3GP ビデオ - ステレオ</translation>
     </message>
     <message>
         <source>3GP profile optimized for mobile phones</source>
-        <translation type="unfinished"></translation>
+        <translation>携帯電話向けに最適化した 3GP プロファイル</translation>
     </message>
     <message>
         <source>Mobile Phone 3GP Video - Mono</source>
-        <translation type="unfinished"></translation>
+        <translation>携帯電話用 3GP ビデオ - モノラル</translation>
     </message>
     <message>
         <source>BlackBerry 3GP Video</source>
-        <translation type="unfinished"></translation>
+        <translation>BlackBerry 3GP ビデオ</translation>
     </message>
     <message>
         <source>BlackBerry AVI Video</source>
-        <translation type="unfinished"></translation>
+        <translation>BlackBerry AVI ビデオ</translation>
     </message>
     <message>
         <source>MPEG4 AVI profile optimized for mobile phones</source>
-        <translation type="unfinished"></translation>
+        <translation>携帯電話向けに最適化した MPEG4 AVI プロファイル</translation>
     </message>
     <message>
         <source>BlackBerry MPEG4 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>BlackBerry MPEG4 ビデオ</translation>
     </message>
     <message>
         <source>MPEG4 profile optimized for mobile phones</source>
-        <translation type="unfinished"></translation>
+        <translation>携帯電話向けに最適化した MPEG4 プロファイル</translation>
     </message>
     <message>
         <source>WMV Video for Mobile Phone</source>
-        <translation type="unfinished"></translation>
+        <translation>携帯電話用 WMV ビデオ</translation>
     </message>
     <message>
         <source>WMV profile optimized for mobile phones</source>
-        <translation type="unfinished"></translation>
+        <translation>携帯電話向けに最適化した WMV プロファイル</translation>
     </message>
     <message>
         <source>FLV - Flash Video Format</source>
-        <translation type="unfinished"></translation>
+        <translation>FLV - Flash ビデオ形式</translation>
     </message>
     <message>
         <source>Flash video format for web pages.</source>
-        <translation type="unfinished"></translation>
+        <translation>Web ページ用の Flash ビデオ形式。</translation>
     </message>
     <message>
         <source>Picture - BMP format</source>
-        <translation type="unfinished"></translation>
+        <translation>画像 - BMP 形式</translation>
     </message>
     <message>
         <source>Pictures captured from the video as BMP files.</source>
-        <translation type="unfinished"></translation>
+        <translation>ビデオから取り込んだ画像を BMP ファイルとして保存します。</translation>
     </message>
     <message>
         <source>Picture - GIF Animation format</source>
-        <translation type="unfinished"></translation>
+        <translation>画像 - GIF アニメーション形式</translation>
     </message>
     <message>
         <source>An animated GIF picture made from the video.</source>
-        <translation type="unfinished"></translation>
+        <translation>ビデオから作成するアニメーション GIF 画像。</translation>
     </message>
     <message>
         <source>Picture - JPEG format</source>
-        <translation type="unfinished"></translation>
+        <translation>画像 - JPEG 形式</translation>
     </message>
     <message>
         <source>Pictures captured from the video as JPEG files.</source>
-        <translation type="unfinished"></translation>
+        <translation>ビデオから取り込んだ画像を JPEG ファイルとして保存します。</translation>
     </message>
     <message>
         <source>Picture - PNG format</source>
-        <translation type="unfinished"></translation>
+        <translation>画像 - PNG 形式</translation>
     </message>
     <message>
         <source>Pictures captured from the video as PNG files.</source>
-        <translation type="unfinished"></translation>
+        <translation>ビデオから取り込んだ画像を PNG ファイルとして保存します。</translation>
     </message>
     <message>
         <source>SWF - SWF Format</source>
-        <translation type="unfinished"></translation>
+        <translation>SWF - SWF 形式</translation>
     </message>
     <message>
         <source>Shockwave Flash animation format.</source>
-        <translation type="unfinished"></translation>
+        <translation>Shockwave Flash アニメーション形式。</translation>
     </message>
     <message>
         <source>Archos MPEG4</source>
-        <translation type="unfinished"></translation>
+        <translation>Archos MPEG4</translation>
     </message>
     <message>
         <source>MPEG4 profile optimized for portable players</source>
-        <translation type="unfinished"></translation>
+        <translation>ポータブルプレーヤー向けに最適化した MPEG4 プロファイル</translation>
     </message>
     <message>
         <source>Creative ZEN MPEG4 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Creative ZEN MPEG4 ビデオ</translation>
     </message>
     <message>
         <source>iRiver MPEG4 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>iRiver MPEG4 ビデオ</translation>
     </message>
     <message>
         <source>PS3 H.264 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>PS3 H.264 ビデオ</translation>
     </message>
     <message>
         <source>H.264/MPEG-4 AVC profile optimized for PS3</source>
-        <translation type="unfinished"></translation>
+        <translation>PS3 向けに最適化した H.264/MPEG-4 AVC プロファイル</translation>
     </message>
     <message>
         <source>PSP MPEG-4 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>PSP MPEG-4 ビデオ</translation>
     </message>
     <message>
         <source>MPEG4 profile optimized for PSP</source>
-        <translation type="unfinished"></translation>
+        <translation>PSP 向けに最適化した MPEG4 プロファイル</translation>
     </message>
     <message>
         <source>Xbox360 H.264 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Xbox360 H.264 ビデオ</translation>
     </message>
     <message>
         <source>H.264/MPEG-4 AVC profile optimized for Xbox360</source>
-        <translation type="unfinished"></translation>
+        <translation>Xbox360 向けに最適化した H.264/MPEG-4 AVC プロファイル</translation>
     </message>
     <message>
         <source>Xbox360 MPEG4 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Xbox360 MPEG4 ビデオ</translation>
     </message>
     <message>
         <source>MPEG4 profile optimized for Xbox360</source>
-        <translation type="unfinished"></translation>
+        <translation>Xbox360 向けに最適化した MPEG4 プロファイル</translation>
     </message>
     <message>
         <source>Xbox360 WMV Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Xbox360 WMV ビデオ</translation>
     </message>
     <message>
         <source>WMV profile optimized for Xbox360</source>
-        <translation type="unfinished"></translation>
+        <translation>Xbox360 向けに最適化した WMV プロファイル</translation>
     </message>
     <message>
         <source>Zune MPEG4 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Zune MPEG4 ビデオ</translation>
     </message>
     <message>
         <source>MPEG4 profile optimized for Zune</source>
-        <translation type="unfinished"></translation>
+        <translation>Zune 向けに最適化した MPEG4 プロファイル</translation>
     </message>
 </context>
 <context>
@@ -712,219 +712,219 @@
     <name>SettingsWindow</name>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>全般</translation>
     </message>
     <message>
         <source>Picture Format</source>
-        <translation type="unfinished"></translation>
+        <translation>画像形式</translation>
     </message>
     <message>
         <source>Picture format.</source>
-        <translation type="unfinished"></translation>
+        <translation>取り込んだ画像のファイル形式。</translation>
     </message>
     <message>
         <source>Interval</source>
-        <translation type="unfinished"></translation>
+        <translation>間隔</translation>
     </message>
     <message>
         <source>Select how many seconds to capture one picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>何秒ごとに画像を 1 枚取り込むかを指定します。</translation>
     </message>
     <message>
         <source>Video</source>
-        <translation type="unfinished"></translation>
+        <translation>ビデオ</translation>
     </message>
     <message>
         <source>Video options</source>
-        <translation type="unfinished"></translation>
+        <translation>ビデオのオプション</translation>
     </message>
     <message>
         <source>Video Codec</source>
-        <translation type="unfinished"></translation>
+        <translation>ビデオコーデック</translation>
     </message>
     <message>
         <source>Set the video codec (methods of compression for digital videos, e.g., MPEG-4, H.264 or WMV) which the encoding engine uses. Usually it is related to the output format you choose.</source>
-        <translation type="unfinished"></translation>
+        <translation>エンコードエンジンが使用するビデオコーデック (デジタルビデオの圧縮方式。MPEG-4、H.264、WMV など) を設定します。通常は選択した出力形式によって決まります。</translation>
     </message>
     <message>
         <source>Video Size</source>
-        <translation type="unfinished"></translation>
+        <translation>ビデオサイズ</translation>
     </message>
     <message>
         <source>Set frame size. The format is &apos;width x height&apos; like 320x240, 640x480 or 1920x1080 pixels. You can choose an similar size for your playback device screen resolution.</source>
-        <translation type="unfinished"></translation>
+        <translation>フレームサイズを設定します。「幅 x 高さ」の形式で、320x240、640x480、1920x1080 ピクセルのように指定します。再生デバイスの画面解像度に近いサイズを選んでください。</translation>
     </message>
     <message>
         <source>Video Bitrate</source>
-        <translation type="unfinished"></translation>
+        <translation>ビデオビットレート</translation>
     </message>
     <message>
         <source>Set the video bit rate in kilobit per second. This is the key factor that is related to the output file size and video quality -- the larger the bit rate, the better the video quality and the bigger the output file you will get, and vice versa.</source>
-        <translation type="unfinished"></translation>
+        <translation>ビデオのビットレートをキロビット毎秒で設定します。出力ファイルのサイズと画質を左右する最も重要な要素で、ビットレートが大きいほど画質は向上し、出力ファイルも大きくなります。小さくするとその逆になります。</translation>
     </message>
     <message>
         <source>Frame Rate</source>
-        <translation type="unfinished"></translation>
+        <translation>フレームレート</translation>
     </message>
     <message>
         <source>Set how many frames should be displayed per second (FPS). Higher frame rate increases the smoothness when played back, and usually 25--30 frame per second can provide you with a very good viewing experience.</source>
-        <translation type="unfinished"></translation>
+        <translation>1 秒間に表示するフレーム数 (FPS) を設定します。フレームレートが高いほど再生が滑らかになります。通常は 25～30 フレーム/秒で十分に快適に視聴できます。</translation>
     </message>
     <message>
         <source>Aspect Ratio</source>
-        <translation type="unfinished"></translation>
+        <translation>アスペクト比</translation>
     </message>
     <message>
         <source>Set width to height ratio according to the screen aspect of your playback device . (4:3, 16:9 or 1.3333, 1.7777).</source>
-        <translation type="unfinished"></translation>
+        <translation>再生デバイスの画面に合わせて、幅と高さの比率を設定します (4:3、16:9 または 1.3333、1.7777)。</translation>
     </message>
     <message>
         <source>Same Quality</source>
-        <translation type="unfinished"></translation>
+        <translation>ソースと同画質</translation>
     </message>
     <message>
         <source>This function enables you to get good output video quality as the source. (Sometimes this function may bring you a large output file, or make the converting time pretty long.)</source>
-        <translation type="unfinished"></translation>
+        <translation>ソースと同等の画質でビデオを出力します。(出力ファイルが大きくなったり、変換にかなり時間がかかったりする場合があります。)</translation>
     </message>
     <message>
         <source>Zoom</source>
-        <translation type="unfinished"></translation>
+        <translation>ズーム</translation>
     </message>
     <message>
         <source>Select zoom mode, that is how to deal with the blank edge when the aspect of the source and the destination is different.</source>
-        <translation type="unfinished"></translation>
+        <translation>ズームモードを選択します。ソースと出力先のアスペクト比が異なるときに生じる余白の扱い方を決めます。</translation>
     </message>
     <message>
         <source>Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>音声</translation>
     </message>
     <message>
         <source>Audio options</source>
-        <translation type="unfinished"></translation>
+        <translation>音声のオプション</translation>
     </message>
     <message>
         <source>Audio Codec</source>
-        <translation type="unfinished"></translation>
+        <translation>音声コーデック</translation>
     </message>
     <message>
         <source>Set the audio codec (methods of compression for digital audio, e.g., MP3, PCM or AC3) which the encoding engine uses. Usually it is related to the output format you choose.</source>
-        <translation type="unfinished"></translation>
+        <translation>エンコードエンジンが使用する音声コーデック (デジタル音声の圧縮方式。MP3、PCM、AC3 など) を設定します。通常は選択した出力形式によって決まります。</translation>
     </message>
     <message>
         <source>Audio Bitrate</source>
-        <translation type="unfinished"></translation>
+        <translation>音声ビットレート</translation>
     </message>
     <message>
         <source>Set audio bitrate (in kbit/s)</source>
-        <translation type="unfinished"></translation>
+        <translation>音声のビットレートを設定します (kbit/s 単位)</translation>
     </message>
     <message>
         <source>Sample Rate</source>
-        <translation type="unfinished"></translation>
+        <translation>サンプルレート</translation>
     </message>
     <message>
         <source>Set the audio sampling frequency (the number of samples per second) (default = 44100 Hz).</source>
-        <translation type="unfinished"></translation>
+        <translation>音声のサンプリング周波数 (1 秒あたりのサンプル数) を設定します (既定値 = 44100 Hz)。</translation>
     </message>
     <message>
         <source>Channels</source>
-        <translation type="unfinished"></translation>
+        <translation>チャンネル</translation>
     </message>
     <message>
         <source>Set number of audio channels, 1(Mono), 2(Stereo) and 5.1(Dolby Digital) are commonly used for general digital audio.</source>
-        <translation type="unfinished"></translation>
+        <translation>音声のチャンネル数を設定します。一般的なデジタル音声では 1 (モノラル)、2 (ステレオ)、5.1 (Dolby Digital) がよく使われます。</translation>
     </message>
     <message>
         <source>Volume</source>
-        <translation type="unfinished"></translation>
+        <translation>音量</translation>
     </message>
     <message>
         <source>Set the output volume.</source>
-        <translation type="unfinished"></translation>
+        <translation>出力の音量を設定します。</translation>
     </message>
     <message>
         <source>Disable Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>音声を無効化</translation>
     </message>
     <message>
         <source>Disable audio</source>
-        <translation type="unfinished"></translation>
+        <translation>音声トラックなしで出力します</translation>
     </message>
     <message>
         <source>Summary</source>
-        <translation type="unfinished"></translation>
+        <translation>概要</translation>
     </message>
     <message>
         <source>Summary of the file</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルの概要情報</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>タイトル</translation>
     </message>
     <message>
         <source>Set the title</source>
-        <translation type="unfinished"></translation>
+        <translation>タイトルを設定します</translation>
     </message>
     <message>
         <source>Author</source>
-        <translation type="unfinished"></translation>
+        <translation>作成者</translation>
     </message>
     <message>
         <source>Set the author</source>
-        <translation type="unfinished"></translation>
+        <translation>作成者を設定します</translation>
     </message>
     <message>
         <source>Copyright</source>
-        <translation type="unfinished"></translation>
+        <translation>著作権</translation>
     </message>
     <message>
         <source>Set the copyright</source>
-        <translation type="unfinished"></translation>
+        <translation>著作権情報を設定します</translation>
     </message>
     <message>
         <source>Comments</source>
-        <translation type="unfinished"></translation>
+        <translation>コメント</translation>
     </message>
     <message>
         <source>Set the comment</source>
-        <translation type="unfinished"></translation>
+        <translation>コメントを設定します</translation>
     </message>
     <message>
         <source>Album</source>
-        <translation type="unfinished"></translation>
+        <translation>アルバム</translation>
     </message>
     <message>
         <source>Genre</source>
-        <translation type="unfinished"></translation>
+        <translation>ジャンル</translation>
     </message>
     <message>
         <source>Composer</source>
-        <translation type="unfinished"></translation>
+        <translation>作曲者</translation>
     </message>
     <message>
         <source>Orig. Artist</source>
-        <translation type="unfinished"></translation>
+        <translation>オリジナルアーティスト</translation>
     </message>
     <message>
         <source>Encoded by</source>
-        <translation type="unfinished"></translation>
+        <translation>エンコード者</translation>
     </message>
     <message>
         <source>Url</source>
-        <translation type="unfinished"></translation>
+        <translation>URL</translation>
     </message>
     <message>
         <source>Year</source>
-        <translation type="unfinished"></translation>
+        <translation>年</translation>
     </message>
     <message>
         <source>Expert</source>
-        <translation type="unfinished"></translation>
+        <translation>詳細設定</translation>
     </message>
     <message>
         <source>Expert options</source>
-        <translation type="unfinished"></translation>
+        <translation>上級者向けのオプション</translation>
     </message>
 </context>
 <context>
