@@ -34,6 +34,681 @@
     </message>
 </context>
 <context>
+    <name>Profile</name>
+    <message>
+        <source>User Defined</source>
+        <translation>مخصص</translation>
+    </message>
+    <message>
+        <source>General Video</source>
+        <translation>فيديو عام</translation>
+    </message>
+    <message>
+        <source>General Audio</source>
+        <translation>صوت عام</translation>
+    </message>
+    <message>
+        <source>Android</source>
+        <translation>Android</translation>
+    </message>
+    <message>
+        <source>Apple TV</source>
+        <translation>Apple TV</translation>
+    </message>
+    <message>
+        <source>HD Video</source>
+        <translation>فيديو عالي الدقة</translation>
+    </message>
+    <message>
+        <source>iPad</source>
+        <translation>iPad</translation>
+    </message>
+    <message>
+        <source>iPhone</source>
+        <translation>iPhone</translation>
+    </message>
+    <message>
+        <source>iPod</source>
+        <translation>iPod</translation>
+    </message>
+    <message>
+        <source>Mobile Phone</source>
+        <translation>الهاتف المحمول</translation>
+    </message>
+    <message>
+        <source>Picture and Animation</source>
+        <translation>الصور والرسوم المتحركة</translation>
+    </message>
+    <message>
+        <source>Portable Multimedia Device</source>
+        <translation>جهاز وسائط متعددة محمول</translation>
+    </message>
+    <message>
+        <source>PS3</source>
+        <translation>PS3</translation>
+    </message>
+    <message>
+        <source>PSP</source>
+        <translation>PSP</translation>
+    </message>
+    <message>
+        <source>Xbox HD Video</source>
+        <translation>فيديو Xbox عالي الدقة</translation>
+    </message>
+    <message>
+        <source>Zune</source>
+        <translation>Zune</translation>
+    </message>
+    <message>
+        <source>ASF - Advanced Streaming Format</source>
+        <translation>ASF - Advanced Streaming Format</translation>
+    </message>
+    <message>
+        <source>Advanced Streaming Format, a Windows Media container.</source>
+        <translation>Advanced Streaming Format، حاوية من Windows Media.</translation>
+    </message>
+    <message>
+        <source>AVI - Audio-Video Interleaved</source>
+        <translation>AVI - Audio-Video Interleaved</translation>
+    </message>
+    <message>
+        <source>Audio-Video Interleaved, the classic Windows video format.</source>
+        <translation>Audio-Video Interleaved، تنسيق الفيديو التقليدي في Windows.</translation>
+    </message>
+    <message>
+        <source>DivX Video</source>
+        <translation>فيديو DivX</translation>
+    </message>
+    <message>
+        <source>DivX video in an AVI container.</source>
+        <translation>فيديو DivX داخل حاوية AVI.</translation>
+    </message>
+    <message>
+        <source>DV - Digital Video format</source>
+        <translation>DV - تنسيق الفيديو الرقمي</translation>
+    </message>
+    <message>
+        <source>Digital Video format of camcorders.</source>
+        <translation>تنسيق الفيديو الرقمي الخاص بكاميرات الفيديو.</translation>
+    </message>
+    <message>
+        <source>DVD Video</source>
+        <translation>فيديو DVD</translation>
+    </message>
+    <message>
+        <source>MPEG-2 video for DVD players.</source>
+        <translation>فيديو MPEG-2 لمشغلات DVD.</translation>
+    </message>
+    <message>
+        <source>MOV - QuickTime</source>
+        <translation>MOV - QuickTime</translation>
+    </message>
+    <message>
+        <source>QuickTime movie format.</source>
+        <translation>تنسيق أفلام QuickTime.</translation>
+    </message>
+    <message>
+        <source>MPEG4 Video</source>
+        <translation>فيديو MPEG4</translation>
+    </message>
+    <message>
+        <source>MPEG-4 video format.</source>
+        <translation>تنسيق فيديو MPEG-4.</translation>
+    </message>
+    <message>
+        <source>MPEG1 Video</source>
+        <translation>فيديو MPEG1</translation>
+    </message>
+    <message>
+        <source>MPEG-1 video format.</source>
+        <translation>تنسيق فيديو MPEG-1.</translation>
+    </message>
+    <message>
+        <source>MPEG2 Video</source>
+        <translation>فيديو MPEG2</translation>
+    </message>
+    <message>
+        <source>MPEG-2 video format.</source>
+        <translation>تنسيق فيديو MPEG-2.</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC Video</source>
+        <translation>فيديو H.264/MPEG-4 AVC</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC video format.</source>
+        <translation>تنسيق فيديو H.264/MPEG-4 AVC.</translation>
+    </message>
+    <message>
+        <source>RM - Real Video</source>
+        <translation>RM - Real Video</translation>
+    </message>
+    <message>
+        <source>RealVideo streaming format.</source>
+        <translation>تنسيق RealVideo للبث المتدفق.</translation>
+    </message>
+    <message>
+        <source>VCD Video</source>
+        <translation>فيديو VCD</translation>
+    </message>
+    <message>
+        <source>MPEG-1 video for Video CD players.</source>
+        <translation>فيديو MPEG-1 لمشغلات Video CD.</translation>
+    </message>
+    <message>
+        <source>WMV - Windows Media Video</source>
+        <translation>WMV - Windows Media Video</translation>
+    </message>
+    <message>
+        <source>Windows Media Video format.</source>
+        <translation>تنسيق Windows Media Video.</translation>
+    </message>
+    <message>
+        <source>Xvid Video</source>
+        <translation>فيديو Xvid</translation>
+    </message>
+    <message>
+        <source>Xvid video in an AVI container.</source>
+        <translation>فيديو Xvid داخل حاوية AVI.</translation>
+    </message>
+    <message>
+        <source>Matroska Video</source>
+        <translation>فيديو Matroska</translation>
+    </message>
+    <message>
+        <source>Matroska video format.</source>
+        <translation>تنسيق فيديو Matroska.</translation>
+    </message>
+    <message>
+        <source>WebM Video</source>
+        <translation>فيديو WebM</translation>
+    </message>
+    <message>
+        <source>WebM video format for the web.</source>
+        <translation>تنسيق فيديو WebM للويب.</translation>
+    </message>
+    <message>
+        <source>AC3 - Dolby Digital AC-3</source>
+        <translation>AC3 - Dolby Digital AC-3</translation>
+    </message>
+    <message>
+        <source>Dolby Digital AC-3 audio format.</source>
+        <translation>تنسيق صوت Dolby Digital AC-3.</translation>
+    </message>
+    <message>
+        <source>AIFF - Audio Interchange File Format</source>
+        <translation>AIFF - Audio Interchange File Format</translation>
+    </message>
+    <message>
+        <source>Audio Interchange File Format, uncompressed audio.</source>
+        <translation>Audio Interchange File Format، صوت غير مضغوط.</translation>
+    </message>
+    <message>
+        <source>ALAC - Apple Lossless Audio Codec</source>
+        <translation>ALAC - Apple Lossless Audio Codec</translation>
+    </message>
+    <message>
+        <source>Apple Lossless audio format.</source>
+        <translation>تنسيق صوت Apple Lossless.</translation>
+    </message>
+    <message>
+        <source>FLAC - Free Lossless Audio Codec</source>
+        <translation>FLAC - Free Lossless Audio Codec</translation>
+    </message>
+    <message>
+        <source>Free Lossless Audio Codec format.</source>
+        <translation>تنسيق الصوت عديم الفقد Free Lossless Audio Codec.</translation>
+    </message>
+    <message>
+        <source>SUN AU Format</source>
+        <translation>تنسيق SUN AU</translation>
+    </message>
+    <message>
+        <source>Sun AU audio format.</source>
+        <translation>تنسيق صوت Sun AU.</translation>
+    </message>
+    <message>
+        <source>M4A - MPEG-4 Audio</source>
+        <translation>M4A - صوت MPEG-4</translation>
+    </message>
+    <message>
+        <source>MPEG-4 Audio format.</source>
+        <translation>تنسيق صوت MPEG-4.</translation>
+    </message>
+    <message>
+        <source>MP2 - MPEG Layer-2 Audio</source>
+        <translation>MP2 - صوت MPEG Layer-2</translation>
+    </message>
+    <message>
+        <source>MPEG Layer-2 audio format.</source>
+        <translation>تنسيق صوت MPEG Layer-2.</translation>
+    </message>
+    <message>
+        <source>MP3 - MPEG Layer-3 Audio</source>
+        <translation>MP3 - صوت MPEG Layer-3</translation>
+    </message>
+    <message>
+        <source>MPEG Layer-3 audio format.</source>
+        <translation>تنسيق صوت MPEG Layer-3.</translation>
+    </message>
+    <message>
+        <source>OGG - Ogg Vorbis Audio</source>
+        <translation>OGG - صوت Ogg Vorbis</translation>
+    </message>
+    <message>
+        <source>Ogg Vorbis audio format.</source>
+        <translation>تنسيق صوت Ogg Vorbis.</translation>
+    </message>
+    <message>
+        <source>RA - RealAudio</source>
+        <translation>RA - RealAudio</translation>
+    </message>
+    <message>
+        <source>RealAudio streaming format.</source>
+        <translation>تنسيق RealAudio للبث المتدفق.</translation>
+    </message>
+    <message>
+        <source>WAV - Waveform Audio</source>
+        <translation>WAV - صوت Waveform</translation>
+    </message>
+    <message>
+        <source>Waveform audio format, uncompressed.</source>
+        <translation>تنسيق صوت Waveform، غير مضغوط.</translation>
+    </message>
+    <message>
+        <source>WMA - Windows Media Audio</source>
+        <translation>WMA - Windows Media Audio</translation>
+    </message>
+    <message>
+        <source>Windows Media Audio format.</source>
+        <translation>تنسيق Windows Media Audio.</translation>
+    </message>
+    <message>
+        <source>Android MPEG4 Video</source>
+        <translation>فيديو MPEG4 لأجهزة Android</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for Android</source>
+        <translation>ملف تعريف MPEG4 مُحسَّن لأجهزة Android</translation>
+    </message>
+    <message>
+        <source>Samsung Galaxy S3 H.264 Video</source>
+        <translation>فيديو H.264 لجهاز Samsung Galaxy S3</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for Galaxy S3</source>
+        <translation>ملف تعريف H.264/MPEG-4 AVC مُحسَّن لجهاز Galaxy S3</translation>
+    </message>
+    <message>
+        <source>Samsung Galaxy Tab MPEG4 Video</source>
+        <translation>فيديو MPEG4 لجهاز Samsung Galaxy Tab</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for Galaxy Tab</source>
+        <translation>ملف تعريف MPEG4 مُحسَّن لجهاز Galaxy Tab</translation>
+    </message>
+    <message>
+        <source>Apple TV H.264 Video</source>
+        <translation>فيديو H.264 لجهاز Apple TV</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for Apple TV</source>
+        <translation>ملف تعريف H.264/MPEG-4 AVC مُحسَّن لجهاز Apple TV</translation>
+    </message>
+    <message>
+        <source>Apple TV H.264 HD Video</source>
+        <translation>فيديو H.264 عالي الدقة لجهاز Apple TV</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for Apple TV HD</source>
+        <translation>ملف تعريف H.264/MPEG-4 AVC مُحسَّن لجهاز Apple TV HD</translation>
+    </message>
+    <message>
+        <source>Apple TV 3 H.264 1080P Video</source>
+        <translation>فيديو H.264 1080P لجهاز Apple TV 3</translation>
+    </message>
+    <message>
+        <source>Apple TV MPEG4 Video</source>
+        <translation>فيديو MPEG4 لجهاز Apple TV</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for Apple TV</source>
+        <translation>ملف تعريف MPEG4 مُحسَّن لجهاز Apple TV</translation>
+    </message>
+    <message>
+        <source>HD ASF Video</source>
+        <translation>فيديو ASF عالي الدقة</translation>
+    </message>
+    <message>
+        <source>ASF profile optimized for HD players</source>
+        <translation>ملف تعريف ASF مُحسَّن لمشغلات الفيديو عالية الدقة</translation>
+    </message>
+    <message>
+        <source>HD AVI Video</source>
+        <translation>فيديو AVI عالي الدقة</translation>
+    </message>
+    <message>
+        <source>MPEG4 AVI profile optimized for HD players</source>
+        <translation>ملف تعريف MPEG4 AVI مُحسَّن لمشغلات الفيديو عالية الدقة</translation>
+    </message>
+    <message>
+        <source>HD H.264/MPEG-4 AVC Video</source>
+        <translation>فيديو H.264/MPEG-4 AVC عالي الدقة</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for HD players</source>
+        <translation>ملف تعريف H.264/MPEG-4 AVC مُحسَّن لمشغلات الفيديو عالية الدقة</translation>
+    </message>
+    <message>
+        <source>HD Quick Time Video</source>
+        <translation>فيديو QuickTime عالي الدقة</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for HD players</source>
+        <translation>ملف تعريف MPEG4 مُحسَّن لمشغلات الفيديو عالية الدقة</translation>
+    </message>
+    <message>
+        <source>MPEG2-PS HD Video</source>
+        <translation>فيديو MPEG2-PS عالي الدقة</translation>
+    </message>
+    <message>
+        <source>MPEG2 profile optimized for HD players</source>
+        <translation>ملف تعريف MPEG2 مُحسَّن لمشغلات الفيديو عالية الدقة</translation>
+    </message>
+    <message>
+        <source>MPEG2-TS HD Video</source>
+        <translation>فيديو MPEG2-TS عالي الدقة</translation>
+    </message>
+    <message>
+        <source>MPEG4 HD Video</source>
+        <translation>فيديو MPEG4 عالي الدقة</translation>
+    </message>
+    <message>
+        <source>RM HD Video</source>
+        <translation>فيديو RM عالي الدقة</translation>
+    </message>
+    <message>
+        <source>RealVideo profile optimized for HD players</source>
+        <translation>ملف تعريف RealVideo مُحسَّن لمشغلات الفيديو عالية الدقة</translation>
+    </message>
+    <message>
+        <source>HD WMV Video</source>
+        <translation>فيديو WMV عالي الدقة</translation>
+    </message>
+    <message>
+        <source>WMV profile optimized for HD players</source>
+        <translation>ملف تعريف WMV مُحسَّن لمشغلات الفيديو عالية الدقة</translation>
+    </message>
+    <message>
+        <source>XVID HD Video</source>
+        <translation>فيديو XVID عالي الدقة</translation>
+    </message>
+    <message>
+        <source>Xvid profile optimized for HD players</source>
+        <translation>ملف تعريف Xvid مُحسَّن لمشغلات الفيديو عالية الدقة</translation>
+    </message>
+    <message>
+        <source>iPad H.264 Video</source>
+        <translation>فيديو H.264 لجهاز iPad</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for iPad</source>
+        <translation>ملف تعريف H.264/MPEG-4 AVC مُحسَّن لجهاز iPad</translation>
+    </message>
+    <message>
+        <source>iPad H.264 HD Video</source>
+        <translation>فيديو H.264 عالي الدقة لجهاز iPad</translation>
+    </message>
+    <message>
+        <source>iPad MPEG4 Video</source>
+        <translation>فيديو MPEG4 لجهاز iPad</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for iPad</source>
+        <translation>ملف تعريف MPEG4 مُحسَّن لجهاز iPad</translation>
+    </message>
+    <message>
+        <source>iPad 2 H.264 Video</source>
+        <translation>فيديو H.264 لجهاز iPad 2</translation>
+    </message>
+    <message>
+        <source>iPad 2 H.264 HD Video</source>
+        <translation>فيديو H.264 عالي الدقة لجهاز iPad 2</translation>
+    </message>
+    <message>
+        <source>iPad 2 MPEG4 Video</source>
+        <translation>فيديو MPEG4 لجهاز iPad 2</translation>
+    </message>
+    <message>
+        <source>iPad 3 1080P Video</source>
+        <translation>فيديو 1080P لجهاز iPad 3</translation>
+    </message>
+    <message>
+        <source>iPad mini H.264 Video</source>
+        <translation>فيديو H.264 لجهاز iPad mini</translation>
+    </message>
+    <message>
+        <source>iPhone H.264 Video</source>
+        <translation>فيديو H.264 لجهاز iPhone</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for iPhone</source>
+        <translation>ملف تعريف H.264/MPEG-4 AVC مُحسَّن لجهاز iPhone</translation>
+    </message>
+    <message>
+        <source>iPhone MPEG4 Video</source>
+        <translation>فيديو MPEG4 لجهاز iPhone</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for iPhone</source>
+        <translation>ملف تعريف MPEG4 مُحسَّن لجهاز iPhone</translation>
+    </message>
+    <message>
+        <source>iPhone 4 H.264 Video</source>
+        <translation>فيديو H.264 لجهاز iPhone 4</translation>
+    </message>
+    <message>
+        <source>iPhone 4 MPEG4 Video</source>
+        <translation>فيديو MPEG4 لجهاز iPhone 4</translation>
+    </message>
+    <message>
+        <source>iPhone 5 H.264 Video</source>
+        <translation>فيديو H.264 لجهاز iPhone 5</translation>
+    </message>
+    <message>
+        <source>iPod H.264 Video</source>
+        <translation>فيديو H.264 لجهاز iPod</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for iPod</source>
+        <translation>ملف تعريف H.264/MPEG-4 AVC مُحسَّن لجهاز iPod</translation>
+    </message>
+    <message>
+        <source>iPod MPEG4 Video</source>
+        <translation>فيديو MPEG4 لجهاز iPod</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for iPod</source>
+        <translation>ملف تعريف MPEG4 مُحسَّن لجهاز iPod</translation>
+    </message>
+    <message>
+        <source>iPod touch H.264 Video</source>
+        <translation>فيديو H.264 لجهاز iPod touch</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for iPod touch</source>
+        <translation>ملف تعريف H.264/MPEG-4 AVC مُحسَّن لجهاز iPod touch</translation>
+    </message>
+    <message>
+        <source>iPod touch MPEG4 Video</source>
+        <translation>فيديو MPEG4 لجهاز iPod touch</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for iPod touch</source>
+        <translation>ملف تعريف MPEG4 مُحسَّن لجهاز iPod touch</translation>
+    </message>
+    <message>
+        <source>iPod touch 4 H.264 Video</source>
+        <translation>فيديو H.264 لجهاز iPod touch 4</translation>
+    </message>
+    <message>
+        <source>iPod touch 4 MPEG4 Video</source>
+        <translation>فيديو MPEG4 لجهاز iPod touch 4</translation>
+    </message>
+    <message>
+        <source>Mobile Phone 3GP Video - Stereo</source>
+        <translation>فيديو 3GP للهاتف المحمول - ستيريو</translation>
+    </message>
+    <message>
+        <source>3GP profile optimized for mobile phones</source>
+        <translation>ملف تعريف 3GP مُحسَّن للهواتف المحمولة</translation>
+    </message>
+    <message>
+        <source>Mobile Phone 3GP Video - Mono</source>
+        <translation>فيديو 3GP للهاتف المحمول - أحادي</translation>
+    </message>
+    <message>
+        <source>BlackBerry 3GP Video</source>
+        <translation>فيديو 3GP لجهاز BlackBerry</translation>
+    </message>
+    <message>
+        <source>BlackBerry AVI Video</source>
+        <translation>فيديو AVI لجهاز BlackBerry</translation>
+    </message>
+    <message>
+        <source>MPEG4 AVI profile optimized for mobile phones</source>
+        <translation>ملف تعريف MPEG4 AVI مُحسَّن للهواتف المحمولة</translation>
+    </message>
+    <message>
+        <source>BlackBerry MPEG4 Video</source>
+        <translation>فيديو MPEG4 لجهاز BlackBerry</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for mobile phones</source>
+        <translation>ملف تعريف MPEG4 مُحسَّن للهواتف المحمولة</translation>
+    </message>
+    <message>
+        <source>WMV Video for Mobile Phone</source>
+        <translation>فيديو WMV للهاتف المحمول</translation>
+    </message>
+    <message>
+        <source>WMV profile optimized for mobile phones</source>
+        <translation>ملف تعريف WMV مُحسَّن للهواتف المحمولة</translation>
+    </message>
+    <message>
+        <source>FLV - Flash Video Format</source>
+        <translation>FLV - تنسيق فيديو Flash</translation>
+    </message>
+    <message>
+        <source>Flash video format for web pages.</source>
+        <translation>تنسيق فيديو Flash لصفحات الويب.</translation>
+    </message>
+    <message>
+        <source>Picture - BMP format</source>
+        <translation>صورة - تنسيق BMP</translation>
+    </message>
+    <message>
+        <source>Pictures captured from the video as BMP files.</source>
+        <translation>صور ملتقطة من الفيديو تُحفظ كملفات BMP.</translation>
+    </message>
+    <message>
+        <source>Picture - GIF Animation format</source>
+        <translation>صورة - تنسيق GIF المتحرك</translation>
+    </message>
+    <message>
+        <source>An animated GIF picture made from the video.</source>
+        <translation>صورة GIF متحركة تُنشأ من الفيديو.</translation>
+    </message>
+    <message>
+        <source>Picture - JPEG format</source>
+        <translation>صورة - تنسيق JPEG</translation>
+    </message>
+    <message>
+        <source>Pictures captured from the video as JPEG files.</source>
+        <translation>صور ملتقطة من الفيديو تُحفظ كملفات JPEG.</translation>
+    </message>
+    <message>
+        <source>Picture - PNG format</source>
+        <translation>صورة - تنسيق PNG</translation>
+    </message>
+    <message>
+        <source>Pictures captured from the video as PNG files.</source>
+        <translation>صور ملتقطة من الفيديو تُحفظ كملفات PNG.</translation>
+    </message>
+    <message>
+        <source>SWF - SWF Format</source>
+        <translation>SWF - تنسيق SWF</translation>
+    </message>
+    <message>
+        <source>Shockwave Flash animation format.</source>
+        <translation>تنسيق رسوم Shockwave Flash المتحركة.</translation>
+    </message>
+    <message>
+        <source>Archos MPEG4</source>
+        <translation>Archos MPEG4</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for portable players</source>
+        <translation>ملف تعريف MPEG4 مُحسَّن للمشغلات المحمولة</translation>
+    </message>
+    <message>
+        <source>Creative ZEN MPEG4 Video</source>
+        <translation>فيديو MPEG4 لجهاز Creative ZEN</translation>
+    </message>
+    <message>
+        <source>iRiver MPEG4 Video</source>
+        <translation>فيديو MPEG4 لجهاز iRiver</translation>
+    </message>
+    <message>
+        <source>PS3 H.264 Video</source>
+        <translation>فيديو H.264 لجهاز PS3</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for PS3</source>
+        <translation>ملف تعريف H.264/MPEG-4 AVC مُحسَّن لجهاز PS3</translation>
+    </message>
+    <message>
+        <source>PSP MPEG-4 Video</source>
+        <translation>فيديو MPEG-4 لجهاز PSP</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for PSP</source>
+        <translation>ملف تعريف MPEG4 مُحسَّن لجهاز PSP</translation>
+    </message>
+    <message>
+        <source>Xbox360 H.264 Video</source>
+        <translation>فيديو H.264 لجهاز Xbox360</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for Xbox360</source>
+        <translation>ملف تعريف H.264/MPEG-4 AVC مُحسَّن لجهاز Xbox360</translation>
+    </message>
+    <message>
+        <source>Xbox360 MPEG4 Video</source>
+        <translation>فيديو MPEG4 لجهاز Xbox360</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for Xbox360</source>
+        <translation>ملف تعريف MPEG4 مُحسَّن لجهاز Xbox360</translation>
+    </message>
+    <message>
+        <source>Xbox360 WMV Video</source>
+        <translation>فيديو WMV لجهاز Xbox360</translation>
+    </message>
+    <message>
+        <source>WMV profile optimized for Xbox360</source>
+        <translation>ملف تعريف WMV مُحسَّن لجهاز Xbox360</translation>
+    </message>
+    <message>
+        <source>Zune MPEG4 Video</source>
+        <translation>فيديو MPEG4 لجهاز Zune</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for Zune</source>
+        <translation>ملف تعريف MPEG4 مُحسَّن لجهاز Zune</translation>
+    </message>
+</context>
+<context>
     <name>ProfileGroupLoader</name>
     <message>
         <source>Untitled</source>
@@ -76,6 +751,21 @@
     </message>
 </context>
 <context>
+    <name>QtTreePropertyBrowser</name>
+    <message>
+        <source>Property</source>
+        <translation>الخاصية</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>القيمة</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>الخصائص</translation>
+    </message>
+</context>
+<context>
     <name>QxLanguage</name>
     <message>
         <source>&amp;Language</source>
@@ -87,6 +777,280 @@
     <message>
         <source>&amp;Skin</source>
         <translation>ال&amp;مظهر</translation>
+    </message>
+</context>
+<context>
+    <name>SettingDialog</name>
+    <message>
+        <source>Advanced Settings</source>
+        <translation>إعدادات متقدمة</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>إغلاق</translation>
+    </message>
+    <message>
+        <source>Simple</source>
+        <translation>بسيط</translation>
+    </message>
+    <message>
+        <source>Video Size:</source>
+        <translation>حجم الفيديو:</translation>
+    </message>
+    <message>
+        <source>Video Size</source>
+        <translation>حجم الفيديو</translation>
+    </message>
+    <message>
+        <source>Video Quality:</source>
+        <translation>جودة الفيديو:</translation>
+    </message>
+    <message>
+        <source>Video Quality</source>
+        <translation>جودة الفيديو</translation>
+    </message>
+    <message>
+        <source>Audio Quality:</source>
+        <translation>جودة الصوت:</translation>
+    </message>
+    <message>
+        <source>Audio Quality</source>
+        <translation>جودة الصوت</translation>
+    </message>
+    <message>
+        <source>Advanced</source>
+        <translation>متقدم</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>الوصف</translation>
+    </message>
+    <message>
+        <source>Apply To All</source>
+        <translation>تطبيق على الكل</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsWindow</name>
+    <message>
+        <source>General</source>
+        <translation>عام</translation>
+    </message>
+    <message>
+        <source>Picture Format</source>
+        <translation>تنسيق الصور</translation>
+    </message>
+    <message>
+        <source>Picture format.</source>
+        <translation>تنسيق ملفات الصور الملتقطة.</translation>
+    </message>
+    <message>
+        <source>Interval</source>
+        <translation>الفاصل الزمني</translation>
+    </message>
+    <message>
+        <source>Select how many seconds to capture one picture.</source>
+        <translation>يحدد عدد الثواني بين كل صورة ملتقطة والتي تليها.</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>الفيديو</translation>
+    </message>
+    <message>
+        <source>Video options</source>
+        <translation>خيارات الفيديو</translation>
+    </message>
+    <message>
+        <source>Video Codec</source>
+        <translation>ترميز الفيديو</translation>
+    </message>
+    <message>
+        <source>Set the video codec (methods of compression for digital videos, e.g., MPEG-4, H.264 or WMV) which the encoding engine uses. Usually it is related to the output format you choose.</source>
+        <translation>يحدد برنامج ترميز الفيديو (طريقة ضغط الفيديو الرقمي، مثل MPEG-4 أو H.264 أو WMV) الذي يستخدمه محرك الترميز. ويرتبط عادةً بتنسيق الإخراج الذي تختاره.</translation>
+    </message>
+    <message>
+        <source>Video Size</source>
+        <translation>أبعاد الفيديو</translation>
+    </message>
+    <message>
+        <source>Set frame size. The format is &apos;width x height&apos; like 320x240, 640x480 or 1920x1080 pixels. You can choose an similar size for your playback device screen resolution.</source>
+        <translation>يحدد أبعاد الإطار بالصيغة &quot;العرض x الارتفاع&quot;، مثل 320x240 أو 640x480 أو 1920x1080 بكسل. يمكنك اختيار أبعاد قريبة من دقة شاشة جهاز التشغيل لديك.</translation>
+    </message>
+    <message>
+        <source>Video Bitrate</source>
+        <translation>معدل بت الفيديو</translation>
+    </message>
+    <message>
+        <source>Set the video bit rate in kilobit per second. This is the key factor that is related to the output file size and video quality -- the larger the bit rate, the better the video quality and the bigger the output file you will get, and vice versa.</source>
+        <translation>يحدد معدل بت الفيديو بالكيلوبت في الثانية. وهو العامل الأساسي الذي يحدد حجم ملف الإخراج وجودة الفيديو؛ فكلما زاد معدل البت تحسنت جودة الفيديو وكبر حجم ملف الإخراج، والعكس صحيح.</translation>
+    </message>
+    <message>
+        <source>Frame Rate</source>
+        <translation>معدل الإطارات</translation>
+    </message>
+    <message>
+        <source>Set how many frames should be displayed per second (FPS). Higher frame rate increases the smoothness when played back, and usually 25--30 frame per second can provide you with a very good viewing experience.</source>
+        <translation>يحدد عدد الإطارات المعروضة في الثانية (FPS). كلما ارتفع معدل الإطارات زادت سلاسة التشغيل، وعادةً ما يوفر معدل 25 إلى 30 إطارًا في الثانية تجربة مشاهدة جيدة جدًا.</translation>
+    </message>
+    <message>
+        <source>Aspect Ratio</source>
+        <translation>نسبة الأبعاد</translation>
+    </message>
+    <message>
+        <source>Set width to height ratio according to the screen aspect of your playback device . (4:3, 16:9 or 1.3333, 1.7777).</source>
+        <translation>يحدد نسبة العرض إلى الارتفاع وفقًا لأبعاد شاشة جهاز التشغيل لديك (4:3 أو 16:9 أو 1.3333 أو 1.7777).</translation>
+    </message>
+    <message>
+        <source>Same Quality</source>
+        <translation>جودة المصدر</translation>
+    </message>
+    <message>
+        <source>This function enables you to get good output video quality as the source. (Sometimes this function may bring you a large output file, or make the converting time pretty long.)</source>
+        <translation>تتيح لك هذه الميزة الحصول على فيديو إخراج بجودة مماثلة لجودة المصدر. (قد ينتج عنها أحيانًا ملف إخراج كبير الحجم، أو تطول مدة التحويل كثيرًا.)</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>التكبير</translation>
+    </message>
+    <message>
+        <source>Select zoom mode, that is how to deal with the blank edge when the aspect of the source and the destination is different.</source>
+        <translation>يحدد وضع التكبير، أي كيفية التعامل مع الحواف الفارغة عندما تختلف نسبة أبعاد المصدر عن نسبة أبعاد الوجهة.</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>الصوت</translation>
+    </message>
+    <message>
+        <source>Audio options</source>
+        <translation>خيارات الصوت</translation>
+    </message>
+    <message>
+        <source>Audio Codec</source>
+        <translation>ترميز الصوت</translation>
+    </message>
+    <message>
+        <source>Set the audio codec (methods of compression for digital audio, e.g., MP3, PCM or AC3) which the encoding engine uses. Usually it is related to the output format you choose.</source>
+        <translation>يحدد برنامج ترميز الصوت (طريقة ضغط الصوت الرقمي، مثل MP3 أو PCM أو AC3) الذي يستخدمه محرك الترميز. ويرتبط عادةً بتنسيق الإخراج الذي تختاره.</translation>
+    </message>
+    <message>
+        <source>Audio Bitrate</source>
+        <translation>معدل بت الصوت</translation>
+    </message>
+    <message>
+        <source>Set audio bitrate (in kbit/s)</source>
+        <translation>يحدد معدل بت الصوت (بوحدة kbit/s)</translation>
+    </message>
+    <message>
+        <source>Sample Rate</source>
+        <translation>معدل العينات</translation>
+    </message>
+    <message>
+        <source>Set the audio sampling frequency (the number of samples per second) (default = 44100 Hz).</source>
+        <translation>يحدد تردد أخذ العينات للصوت، أي عدد العينات في الثانية (الافتراضي = 44100 هرتز).</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>القنوات</translation>
+    </message>
+    <message>
+        <source>Set number of audio channels, 1(Mono), 2(Stereo) and 5.1(Dolby Digital) are commonly used for general digital audio.</source>
+        <translation>يحدد عدد قنوات الصوت؛ والقيم الشائعة في الصوت الرقمي هي 1 (أحادي) و2 (ستيريو) و5.1 (Dolby Digital).</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>مستوى الصوت</translation>
+    </message>
+    <message>
+        <source>Set the output volume.</source>
+        <translation>يحدد مستوى صوت الإخراج.</translation>
+    </message>
+    <message>
+        <source>Disable Audio</source>
+        <translation>تعطيل الصوت</translation>
+    </message>
+    <message>
+        <source>Disable audio</source>
+        <translation>ينشئ الإخراج دون مسار صوتي</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>الملخص</translation>
+    </message>
+    <message>
+        <source>Summary of the file</source>
+        <translation>معلومات ملخصة عن الملف</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>العنوان</translation>
+    </message>
+    <message>
+        <source>Set the title</source>
+        <translation>يحدد العنوان</translation>
+    </message>
+    <message>
+        <source>Author</source>
+        <translation>المؤلف</translation>
+    </message>
+    <message>
+        <source>Set the author</source>
+        <translation>يحدد المؤلف</translation>
+    </message>
+    <message>
+        <source>Copyright</source>
+        <translation>حقوق النشر</translation>
+    </message>
+    <message>
+        <source>Set the copyright</source>
+        <translation>يحدد بيان حقوق النشر</translation>
+    </message>
+    <message>
+        <source>Comments</source>
+        <translation>التعليقات</translation>
+    </message>
+    <message>
+        <source>Set the comment</source>
+        <translation>يحدد التعليق</translation>
+    </message>
+    <message>
+        <source>Album</source>
+        <translation>الألبوم</translation>
+    </message>
+    <message>
+        <source>Genre</source>
+        <translation>النوع</translation>
+    </message>
+    <message>
+        <source>Composer</source>
+        <translation>الملحن</translation>
+    </message>
+    <message>
+        <source>Orig. Artist</source>
+        <translation>الفنان الأصلي</translation>
+    </message>
+    <message>
+        <source>Encoded by</source>
+        <translation>رُمِّز بواسطة</translation>
+    </message>
+    <message>
+        <source>Url</source>
+        <translation>عنوان URL</translation>
+    </message>
+    <message>
+        <source>Year</source>
+        <translation>السنة</translation>
+    </message>
+    <message>
+        <source>Expert</source>
+        <translation>متقدم</translation>
+    </message>
+    <message>
+        <source>Expert options</source>
+        <translation>خيارات متقدمة</translation>
+    </message>
+    <message>
+        <source>Parameters</source>
+        <translation>المعلمات</translation>
     </message>
 </context>
 <context>

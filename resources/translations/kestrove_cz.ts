@@ -34,6 +34,681 @@
     </message>
 </context>
 <context>
+    <name>Profile</name>
+    <message>
+        <source>User Defined</source>
+        <translation>Vlastní</translation>
+    </message>
+    <message>
+        <source>General Video</source>
+        <translation>Obecné video</translation>
+    </message>
+    <message>
+        <source>General Audio</source>
+        <translation>Obecné audio</translation>
+    </message>
+    <message>
+        <source>Android</source>
+        <translation>Android</translation>
+    </message>
+    <message>
+        <source>Apple TV</source>
+        <translation>Apple TV</translation>
+    </message>
+    <message>
+        <source>HD Video</source>
+        <translation>HD video</translation>
+    </message>
+    <message>
+        <source>iPad</source>
+        <translation>iPad</translation>
+    </message>
+    <message>
+        <source>iPhone</source>
+        <translation>iPhone</translation>
+    </message>
+    <message>
+        <source>iPod</source>
+        <translation>iPod</translation>
+    </message>
+    <message>
+        <source>Mobile Phone</source>
+        <translation>Mobilní telefon</translation>
+    </message>
+    <message>
+        <source>Picture and Animation</source>
+        <translation>Obrázky a animace</translation>
+    </message>
+    <message>
+        <source>Portable Multimedia Device</source>
+        <translation>Přenosné multimediální zařízení</translation>
+    </message>
+    <message>
+        <source>PS3</source>
+        <translation>PS3</translation>
+    </message>
+    <message>
+        <source>PSP</source>
+        <translation>PSP</translation>
+    </message>
+    <message>
+        <source>Xbox HD Video</source>
+        <translation>HD video pro Xbox</translation>
+    </message>
+    <message>
+        <source>Zune</source>
+        <translation>Zune</translation>
+    </message>
+    <message>
+        <source>ASF - Advanced Streaming Format</source>
+        <translation>ASF - Advanced Streaming Format</translation>
+    </message>
+    <message>
+        <source>Advanced Streaming Format, a Windows Media container.</source>
+        <translation>Advanced Streaming Format, kontejner Windows Media.</translation>
+    </message>
+    <message>
+        <source>AVI - Audio-Video Interleaved</source>
+        <translation>AVI - Audio-Video Interleaved</translation>
+    </message>
+    <message>
+        <source>Audio-Video Interleaved, the classic Windows video format.</source>
+        <translation>Audio-Video Interleaved, klasický formát videa ve Windows.</translation>
+    </message>
+    <message>
+        <source>DivX Video</source>
+        <translation>Video DivX</translation>
+    </message>
+    <message>
+        <source>DivX video in an AVI container.</source>
+        <translation>Video DivX v kontejneru AVI.</translation>
+    </message>
+    <message>
+        <source>DV - Digital Video format</source>
+        <translation>DV - Formát digitálního videa</translation>
+    </message>
+    <message>
+        <source>Digital Video format of camcorders.</source>
+        <translation>Formát digitálního videa z videokamer.</translation>
+    </message>
+    <message>
+        <source>DVD Video</source>
+        <translation>Video DVD</translation>
+    </message>
+    <message>
+        <source>MPEG-2 video for DVD players.</source>
+        <translation>Video MPEG-2 pro přehrávače DVD.</translation>
+    </message>
+    <message>
+        <source>MOV - QuickTime</source>
+        <translation>MOV - QuickTime</translation>
+    </message>
+    <message>
+        <source>QuickTime movie format.</source>
+        <translation>Filmový formát QuickTime.</translation>
+    </message>
+    <message>
+        <source>MPEG4 Video</source>
+        <translation>Video MPEG4</translation>
+    </message>
+    <message>
+        <source>MPEG-4 video format.</source>
+        <translation>Formát videa MPEG-4.</translation>
+    </message>
+    <message>
+        <source>MPEG1 Video</source>
+        <translation>Video MPEG1</translation>
+    </message>
+    <message>
+        <source>MPEG-1 video format.</source>
+        <translation>Formát videa MPEG-1.</translation>
+    </message>
+    <message>
+        <source>MPEG2 Video</source>
+        <translation>Video MPEG2</translation>
+    </message>
+    <message>
+        <source>MPEG-2 video format.</source>
+        <translation>Formát videa MPEG-2.</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC Video</source>
+        <translation>Video H.264/MPEG-4 AVC</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC video format.</source>
+        <translation>Formát videa H.264/MPEG-4 AVC.</translation>
+    </message>
+    <message>
+        <source>RM - Real Video</source>
+        <translation>RM - Real Video</translation>
+    </message>
+    <message>
+        <source>RealVideo streaming format.</source>
+        <translation>Formát pro streamování RealVideo.</translation>
+    </message>
+    <message>
+        <source>VCD Video</source>
+        <translation>Video VCD</translation>
+    </message>
+    <message>
+        <source>MPEG-1 video for Video CD players.</source>
+        <translation>Video MPEG-1 pro přehrávače Video CD.</translation>
+    </message>
+    <message>
+        <source>WMV - Windows Media Video</source>
+        <translation>WMV - Windows Media Video</translation>
+    </message>
+    <message>
+        <source>Windows Media Video format.</source>
+        <translation>Formát Windows Media Video.</translation>
+    </message>
+    <message>
+        <source>Xvid Video</source>
+        <translation>Video Xvid</translation>
+    </message>
+    <message>
+        <source>Xvid video in an AVI container.</source>
+        <translation>Video Xvid v kontejneru AVI.</translation>
+    </message>
+    <message>
+        <source>Matroska Video</source>
+        <translation>Video Matroska</translation>
+    </message>
+    <message>
+        <source>Matroska video format.</source>
+        <translation>Formát videa Matroska.</translation>
+    </message>
+    <message>
+        <source>WebM Video</source>
+        <translation>Video WebM</translation>
+    </message>
+    <message>
+        <source>WebM video format for the web.</source>
+        <translation>Formát videa WebM pro web.</translation>
+    </message>
+    <message>
+        <source>AC3 - Dolby Digital AC-3</source>
+        <translation>AC3 - Dolby Digital AC-3</translation>
+    </message>
+    <message>
+        <source>Dolby Digital AC-3 audio format.</source>
+        <translation>Zvukový formát Dolby Digital AC-3.</translation>
+    </message>
+    <message>
+        <source>AIFF - Audio Interchange File Format</source>
+        <translation>AIFF - Audio Interchange File Format</translation>
+    </message>
+    <message>
+        <source>Audio Interchange File Format, uncompressed audio.</source>
+        <translation>Audio Interchange File Format, nekomprimovaný zvuk.</translation>
+    </message>
+    <message>
+        <source>ALAC - Apple Lossless Audio Codec</source>
+        <translation>ALAC - Apple Lossless Audio Codec</translation>
+    </message>
+    <message>
+        <source>Apple Lossless audio format.</source>
+        <translation>Zvukový formát Apple Lossless.</translation>
+    </message>
+    <message>
+        <source>FLAC - Free Lossless Audio Codec</source>
+        <translation>FLAC - Free Lossless Audio Codec</translation>
+    </message>
+    <message>
+        <source>Free Lossless Audio Codec format.</source>
+        <translation>Bezeztrátový zvukový formát Free Lossless Audio Codec.</translation>
+    </message>
+    <message>
+        <source>SUN AU Format</source>
+        <translation>Formát SUN AU</translation>
+    </message>
+    <message>
+        <source>Sun AU audio format.</source>
+        <translation>Zvukový formát Sun AU.</translation>
+    </message>
+    <message>
+        <source>M4A - MPEG-4 Audio</source>
+        <translation>M4A - Zvuk MPEG-4</translation>
+    </message>
+    <message>
+        <source>MPEG-4 Audio format.</source>
+        <translation>Zvukový formát MPEG-4.</translation>
+    </message>
+    <message>
+        <source>MP2 - MPEG Layer-2 Audio</source>
+        <translation>MP2 - Zvuk MPEG Layer-2</translation>
+    </message>
+    <message>
+        <source>MPEG Layer-2 audio format.</source>
+        <translation>Zvukový formát MPEG Layer-2.</translation>
+    </message>
+    <message>
+        <source>MP3 - MPEG Layer-3 Audio</source>
+        <translation>MP3 - Zvuk MPEG Layer-3</translation>
+    </message>
+    <message>
+        <source>MPEG Layer-3 audio format.</source>
+        <translation>Zvukový formát MPEG Layer-3.</translation>
+    </message>
+    <message>
+        <source>OGG - Ogg Vorbis Audio</source>
+        <translation>OGG - Zvuk Ogg Vorbis</translation>
+    </message>
+    <message>
+        <source>Ogg Vorbis audio format.</source>
+        <translation>Zvukový formát Ogg Vorbis.</translation>
+    </message>
+    <message>
+        <source>RA - RealAudio</source>
+        <translation>RA - RealAudio</translation>
+    </message>
+    <message>
+        <source>RealAudio streaming format.</source>
+        <translation>Formát pro streamování RealAudio.</translation>
+    </message>
+    <message>
+        <source>WAV - Waveform Audio</source>
+        <translation>WAV - Waveform Audio</translation>
+    </message>
+    <message>
+        <source>Waveform audio format, uncompressed.</source>
+        <translation>Zvukový formát Waveform, nekomprimovaný.</translation>
+    </message>
+    <message>
+        <source>WMA - Windows Media Audio</source>
+        <translation>WMA - Windows Media Audio</translation>
+    </message>
+    <message>
+        <source>Windows Media Audio format.</source>
+        <translation>Formát Windows Media Audio.</translation>
+    </message>
+    <message>
+        <source>Android MPEG4 Video</source>
+        <translation>Video MPEG4 pro Android</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for Android</source>
+        <translation>Profil MPEG4 optimalizovaný pro Android</translation>
+    </message>
+    <message>
+        <source>Samsung Galaxy S3 H.264 Video</source>
+        <translation>Video H.264 pro Samsung Galaxy S3</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for Galaxy S3</source>
+        <translation>Profil H.264/MPEG-4 AVC optimalizovaný pro Galaxy S3</translation>
+    </message>
+    <message>
+        <source>Samsung Galaxy Tab MPEG4 Video</source>
+        <translation>Video MPEG4 pro Samsung Galaxy Tab</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for Galaxy Tab</source>
+        <translation>Profil MPEG4 optimalizovaný pro Galaxy Tab</translation>
+    </message>
+    <message>
+        <source>Apple TV H.264 Video</source>
+        <translation>Video H.264 pro Apple TV</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for Apple TV</source>
+        <translation>Profil H.264/MPEG-4 AVC optimalizovaný pro Apple TV</translation>
+    </message>
+    <message>
+        <source>Apple TV H.264 HD Video</source>
+        <translation>HD video H.264 pro Apple TV</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for Apple TV HD</source>
+        <translation>Profil H.264/MPEG-4 AVC optimalizovaný pro Apple TV HD</translation>
+    </message>
+    <message>
+        <source>Apple TV 3 H.264 1080P Video</source>
+        <translation>Video H.264 1080P pro Apple TV 3</translation>
+    </message>
+    <message>
+        <source>Apple TV MPEG4 Video</source>
+        <translation>Video MPEG4 pro Apple TV</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for Apple TV</source>
+        <translation>Profil MPEG4 optimalizovaný pro Apple TV</translation>
+    </message>
+    <message>
+        <source>HD ASF Video</source>
+        <translation>HD video ASF</translation>
+    </message>
+    <message>
+        <source>ASF profile optimized for HD players</source>
+        <translation>Profil ASF optimalizovaný pro HD přehrávače</translation>
+    </message>
+    <message>
+        <source>HD AVI Video</source>
+        <translation>HD video AVI</translation>
+    </message>
+    <message>
+        <source>MPEG4 AVI profile optimized for HD players</source>
+        <translation>Profil MPEG4 AVI optimalizovaný pro HD přehrávače</translation>
+    </message>
+    <message>
+        <source>HD H.264/MPEG-4 AVC Video</source>
+        <translation>HD video H.264/MPEG-4 AVC</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for HD players</source>
+        <translation>Profil H.264/MPEG-4 AVC optimalizovaný pro HD přehrávače</translation>
+    </message>
+    <message>
+        <source>HD Quick Time Video</source>
+        <translation>HD video QuickTime</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for HD players</source>
+        <translation>Profil MPEG4 optimalizovaný pro HD přehrávače</translation>
+    </message>
+    <message>
+        <source>MPEG2-PS HD Video</source>
+        <translation>HD video MPEG2-PS</translation>
+    </message>
+    <message>
+        <source>MPEG2 profile optimized for HD players</source>
+        <translation>Profil MPEG2 optimalizovaný pro HD přehrávače</translation>
+    </message>
+    <message>
+        <source>MPEG2-TS HD Video</source>
+        <translation>HD video MPEG2-TS</translation>
+    </message>
+    <message>
+        <source>MPEG4 HD Video</source>
+        <translation>HD video MPEG4</translation>
+    </message>
+    <message>
+        <source>RM HD Video</source>
+        <translation>HD video RM</translation>
+    </message>
+    <message>
+        <source>RealVideo profile optimized for HD players</source>
+        <translation>Profil RealVideo optimalizovaný pro HD přehrávače</translation>
+    </message>
+    <message>
+        <source>HD WMV Video</source>
+        <translation>HD video WMV</translation>
+    </message>
+    <message>
+        <source>WMV profile optimized for HD players</source>
+        <translation>Profil WMV optimalizovaný pro HD přehrávače</translation>
+    </message>
+    <message>
+        <source>XVID HD Video</source>
+        <translation>HD video XVID</translation>
+    </message>
+    <message>
+        <source>Xvid profile optimized for HD players</source>
+        <translation>Profil Xvid optimalizovaný pro HD přehrávače</translation>
+    </message>
+    <message>
+        <source>iPad H.264 Video</source>
+        <translation>Video H.264 pro iPad</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for iPad</source>
+        <translation>Profil H.264/MPEG-4 AVC optimalizovaný pro iPad</translation>
+    </message>
+    <message>
+        <source>iPad H.264 HD Video</source>
+        <translation>HD video H.264 pro iPad</translation>
+    </message>
+    <message>
+        <source>iPad MPEG4 Video</source>
+        <translation>Video MPEG4 pro iPad</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for iPad</source>
+        <translation>Profil MPEG4 optimalizovaný pro iPad</translation>
+    </message>
+    <message>
+        <source>iPad 2 H.264 Video</source>
+        <translation>Video H.264 pro iPad 2</translation>
+    </message>
+    <message>
+        <source>iPad 2 H.264 HD Video</source>
+        <translation>HD video H.264 pro iPad 2</translation>
+    </message>
+    <message>
+        <source>iPad 2 MPEG4 Video</source>
+        <translation>Video MPEG4 pro iPad 2</translation>
+    </message>
+    <message>
+        <source>iPad 3 1080P Video</source>
+        <translation>Video 1080P pro iPad 3</translation>
+    </message>
+    <message>
+        <source>iPad mini H.264 Video</source>
+        <translation>Video H.264 pro iPad mini</translation>
+    </message>
+    <message>
+        <source>iPhone H.264 Video</source>
+        <translation>Video H.264 pro iPhone</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for iPhone</source>
+        <translation>Profil H.264/MPEG-4 AVC optimalizovaný pro iPhone</translation>
+    </message>
+    <message>
+        <source>iPhone MPEG4 Video</source>
+        <translation>Video MPEG4 pro iPhone</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for iPhone</source>
+        <translation>Profil MPEG4 optimalizovaný pro iPhone</translation>
+    </message>
+    <message>
+        <source>iPhone 4 H.264 Video</source>
+        <translation>Video H.264 pro iPhone 4</translation>
+    </message>
+    <message>
+        <source>iPhone 4 MPEG4 Video</source>
+        <translation>Video MPEG4 pro iPhone 4</translation>
+    </message>
+    <message>
+        <source>iPhone 5 H.264 Video</source>
+        <translation>Video H.264 pro iPhone 5</translation>
+    </message>
+    <message>
+        <source>iPod H.264 Video</source>
+        <translation>Video H.264 pro iPod</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for iPod</source>
+        <translation>Profil H.264/MPEG-4 AVC optimalizovaný pro iPod</translation>
+    </message>
+    <message>
+        <source>iPod MPEG4 Video</source>
+        <translation>Video MPEG4 pro iPod</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for iPod</source>
+        <translation>Profil MPEG4 optimalizovaný pro iPod</translation>
+    </message>
+    <message>
+        <source>iPod touch H.264 Video</source>
+        <translation>Video H.264 pro iPod touch</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for iPod touch</source>
+        <translation>Profil H.264/MPEG-4 AVC optimalizovaný pro iPod touch</translation>
+    </message>
+    <message>
+        <source>iPod touch MPEG4 Video</source>
+        <translation>Video MPEG4 pro iPod touch</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for iPod touch</source>
+        <translation>Profil MPEG4 optimalizovaný pro iPod touch</translation>
+    </message>
+    <message>
+        <source>iPod touch 4 H.264 Video</source>
+        <translation>Video H.264 pro iPod touch 4</translation>
+    </message>
+    <message>
+        <source>iPod touch 4 MPEG4 Video</source>
+        <translation>Video MPEG4 pro iPod touch 4</translation>
+    </message>
+    <message>
+        <source>Mobile Phone 3GP Video - Stereo</source>
+        <translation>Video 3GP pro mobilní telefon - Stereo</translation>
+    </message>
+    <message>
+        <source>3GP profile optimized for mobile phones</source>
+        <translation>Profil 3GP optimalizovaný pro mobilní telefony</translation>
+    </message>
+    <message>
+        <source>Mobile Phone 3GP Video - Mono</source>
+        <translation>Video 3GP pro mobilní telefon - Mono</translation>
+    </message>
+    <message>
+        <source>BlackBerry 3GP Video</source>
+        <translation>Video 3GP pro BlackBerry</translation>
+    </message>
+    <message>
+        <source>BlackBerry AVI Video</source>
+        <translation>Video AVI pro BlackBerry</translation>
+    </message>
+    <message>
+        <source>MPEG4 AVI profile optimized for mobile phones</source>
+        <translation>Profil MPEG4 AVI optimalizovaný pro mobilní telefony</translation>
+    </message>
+    <message>
+        <source>BlackBerry MPEG4 Video</source>
+        <translation>Video MPEG4 pro BlackBerry</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for mobile phones</source>
+        <translation>Profil MPEG4 optimalizovaný pro mobilní telefony</translation>
+    </message>
+    <message>
+        <source>WMV Video for Mobile Phone</source>
+        <translation>Video WMV pro mobilní telefon</translation>
+    </message>
+    <message>
+        <source>WMV profile optimized for mobile phones</source>
+        <translation>Profil WMV optimalizovaný pro mobilní telefony</translation>
+    </message>
+    <message>
+        <source>FLV - Flash Video Format</source>
+        <translation>FLV - Formát Flash Video</translation>
+    </message>
+    <message>
+        <source>Flash video format for web pages.</source>
+        <translation>Formát videa Flash pro webové stránky.</translation>
+    </message>
+    <message>
+        <source>Picture - BMP format</source>
+        <translation>Obrázek - Formát BMP</translation>
+    </message>
+    <message>
+        <source>Pictures captured from the video as BMP files.</source>
+        <translation>Snímky zachycené z videa jako soubory BMP.</translation>
+    </message>
+    <message>
+        <source>Picture - GIF Animation format</source>
+        <translation>Obrázek - Animovaný GIF</translation>
+    </message>
+    <message>
+        <source>An animated GIF picture made from the video.</source>
+        <translation>Animovaný obrázek GIF vytvořený z videa.</translation>
+    </message>
+    <message>
+        <source>Picture - JPEG format</source>
+        <translation>Obrázek - Formát JPEG</translation>
+    </message>
+    <message>
+        <source>Pictures captured from the video as JPEG files.</source>
+        <translation>Snímky zachycené z videa jako soubory JPEG.</translation>
+    </message>
+    <message>
+        <source>Picture - PNG format</source>
+        <translation>Obrázek - Formát PNG</translation>
+    </message>
+    <message>
+        <source>Pictures captured from the video as PNG files.</source>
+        <translation>Snímky zachycené z videa jako soubory PNG.</translation>
+    </message>
+    <message>
+        <source>SWF - SWF Format</source>
+        <translation>SWF - Formát SWF</translation>
+    </message>
+    <message>
+        <source>Shockwave Flash animation format.</source>
+        <translation>Formát animací Shockwave Flash.</translation>
+    </message>
+    <message>
+        <source>Archos MPEG4</source>
+        <translation>Archos MPEG4</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for portable players</source>
+        <translation>Profil MPEG4 optimalizovaný pro přenosné přehrávače</translation>
+    </message>
+    <message>
+        <source>Creative ZEN MPEG4 Video</source>
+        <translation>Video MPEG4 pro Creative ZEN</translation>
+    </message>
+    <message>
+        <source>iRiver MPEG4 Video</source>
+        <translation>Video MPEG4 pro iRiver</translation>
+    </message>
+    <message>
+        <source>PS3 H.264 Video</source>
+        <translation>Video H.264 pro PS3</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for PS3</source>
+        <translation>Profil H.264/MPEG-4 AVC optimalizovaný pro PS3</translation>
+    </message>
+    <message>
+        <source>PSP MPEG-4 Video</source>
+        <translation>Video MPEG-4 pro PSP</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for PSP</source>
+        <translation>Profil MPEG4 optimalizovaný pro PSP</translation>
+    </message>
+    <message>
+        <source>Xbox360 H.264 Video</source>
+        <translation>Video H.264 pro Xbox360</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for Xbox360</source>
+        <translation>Profil H.264/MPEG-4 AVC optimalizovaný pro Xbox360</translation>
+    </message>
+    <message>
+        <source>Xbox360 MPEG4 Video</source>
+        <translation>Video MPEG4 pro Xbox360</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for Xbox360</source>
+        <translation>Profil MPEG4 optimalizovaný pro Xbox360</translation>
+    </message>
+    <message>
+        <source>Xbox360 WMV Video</source>
+        <translation>Video WMV pro Xbox360</translation>
+    </message>
+    <message>
+        <source>WMV profile optimized for Xbox360</source>
+        <translation>Profil WMV optimalizovaný pro Xbox360</translation>
+    </message>
+    <message>
+        <source>Zune MPEG4 Video</source>
+        <translation>Video MPEG4 pro Zune</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for Zune</source>
+        <translation>Profil MPEG4 optimalizovaný pro Zune</translation>
+    </message>
+</context>
+<context>
     <name>ProfileGroupLoader</name>
     <message>
         <source>Untitled</source>
@@ -76,6 +751,21 @@
     </message>
 </context>
 <context>
+    <name>QtTreePropertyBrowser</name>
+    <message>
+        <source>Property</source>
+        <translation>Vlastnost</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Hodnota</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>Vlastnosti</translation>
+    </message>
+</context>
+<context>
     <name>QxLanguage</name>
     <message>
         <source>&amp;Language</source>
@@ -87,6 +777,280 @@
     <message>
         <source>&amp;Skin</source>
         <translation>&amp;Vzhled</translation>
+    </message>
+</context>
+<context>
+    <name>SettingDialog</name>
+    <message>
+        <source>Advanced Settings</source>
+        <translation>Pokročilá nastavení</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Zavřít</translation>
+    </message>
+    <message>
+        <source>Simple</source>
+        <translation>Jednoduché</translation>
+    </message>
+    <message>
+        <source>Video Size:</source>
+        <translation>Velikost videa:</translation>
+    </message>
+    <message>
+        <source>Video Size</source>
+        <translation>Velikost videa</translation>
+    </message>
+    <message>
+        <source>Video Quality:</source>
+        <translation>Kvalita videa:</translation>
+    </message>
+    <message>
+        <source>Video Quality</source>
+        <translation>Kvalita videa</translation>
+    </message>
+    <message>
+        <source>Audio Quality:</source>
+        <translation>Kvalita zvuku:</translation>
+    </message>
+    <message>
+        <source>Audio Quality</source>
+        <translation>Kvalita zvuku</translation>
+    </message>
+    <message>
+        <source>Advanced</source>
+        <translation>Pokročilé</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Popis</translation>
+    </message>
+    <message>
+        <source>Apply To All</source>
+        <translation>Použít na vše</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsWindow</name>
+    <message>
+        <source>General</source>
+        <translation>Obecné</translation>
+    </message>
+    <message>
+        <source>Picture Format</source>
+        <translation>Formát obrázků</translation>
+    </message>
+    <message>
+        <source>Picture format.</source>
+        <translation>Formát souborů se zachycenými snímky.</translation>
+    </message>
+    <message>
+        <source>Interval</source>
+        <translation>Interval</translation>
+    </message>
+    <message>
+        <source>Select how many seconds to capture one picture.</source>
+        <translation>Určuje, po kolika sekundách se zachytí jeden snímek.</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>Video</translation>
+    </message>
+    <message>
+        <source>Video options</source>
+        <translation>Možnosti videa</translation>
+    </message>
+    <message>
+        <source>Video Codec</source>
+        <translation>Video kodek</translation>
+    </message>
+    <message>
+        <source>Set the video codec (methods of compression for digital videos, e.g., MPEG-4, H.264 or WMV) which the encoding engine uses. Usually it is related to the output format you choose.</source>
+        <translation>Nastaví video kodek (způsob komprese digitálního videa, např. MPEG-4, H.264 nebo WMV), který použije kódovací jádro. Obvykle závisí na zvoleném výstupním formátu.</translation>
+    </message>
+    <message>
+        <source>Video Size</source>
+        <translation>Velikost videa</translation>
+    </message>
+    <message>
+        <source>Set frame size. The format is &apos;width x height&apos; like 320x240, 640x480 or 1920x1080 pixels. You can choose an similar size for your playback device screen resolution.</source>
+        <translation>Nastaví velikost snímku. Zadává se jako „šířka x výška“, např. 320x240, 640x480 nebo 1920x1080 pixelů. Můžete zvolit velikost blízkou rozlišení obrazovky vašeho přehrávacího zařízení.</translation>
+    </message>
+    <message>
+        <source>Video Bitrate</source>
+        <translation>Datový tok videa</translation>
+    </message>
+    <message>
+        <source>Set the video bit rate in kilobit per second. This is the key factor that is related to the output file size and video quality -- the larger the bit rate, the better the video quality and the bigger the output file you will get, and vice versa.</source>
+        <translation>Nastaví datový tok videa v kilobitech za sekundu. Je to klíčový faktor, na kterém závisí velikost výstupního souboru a kvalita videa: čím vyšší datový tok, tím lepší kvalita videa a větší výstupní soubor, a naopak.</translation>
+    </message>
+    <message>
+        <source>Frame Rate</source>
+        <translation>Snímková frekvence</translation>
+    </message>
+    <message>
+        <source>Set how many frames should be displayed per second (FPS). Higher frame rate increases the smoothness when played back, and usually 25--30 frame per second can provide you with a very good viewing experience.</source>
+        <translation>Nastaví, kolik snímků se zobrazí za sekundu (FPS). Vyšší snímková frekvence zvyšuje plynulost přehrávání; obvykle 25–30 snímků za sekundu poskytuje velmi dobrý zážitek ze sledování.</translation>
+    </message>
+    <message>
+        <source>Aspect Ratio</source>
+        <translation>Poměr stran</translation>
+    </message>
+    <message>
+        <source>Set width to height ratio according to the screen aspect of your playback device . (4:3, 16:9 or 1.3333, 1.7777).</source>
+        <translation>Nastaví poměr šířky k výšce podle poměru stran obrazovky vašeho přehrávacího zařízení (4:3, 16:9 nebo 1.3333, 1.7777).</translation>
+    </message>
+    <message>
+        <source>Same Quality</source>
+        <translation>Stejná kvalita</translation>
+    </message>
+    <message>
+        <source>This function enables you to get good output video quality as the source. (Sometimes this function may bring you a large output file, or make the converting time pretty long.)</source>
+        <translation>Tato funkce umožňuje získat výstupní video ve stejně dobré kvalitě jako zdroj. (Někdy může vzniknout velký výstupní soubor nebo se převod značně prodlouží.)</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Select zoom mode, that is how to deal with the blank edge when the aspect of the source and the destination is different.</source>
+        <translation>Zvolte režim zoomu, tedy jak naložit s prázdnými okraji, když se poměr stran zdroje a cíle liší.</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Zvuk</translation>
+    </message>
+    <message>
+        <source>Audio options</source>
+        <translation>Možnosti zvuku</translation>
+    </message>
+    <message>
+        <source>Audio Codec</source>
+        <translation>Zvukový kodek</translation>
+    </message>
+    <message>
+        <source>Set the audio codec (methods of compression for digital audio, e.g., MP3, PCM or AC3) which the encoding engine uses. Usually it is related to the output format you choose.</source>
+        <translation>Nastaví zvukový kodek (způsob komprese digitálního zvuku, např. MP3, PCM nebo AC3), který použije kódovací jádro. Obvykle závisí na zvoleném výstupním formátu.</translation>
+    </message>
+    <message>
+        <source>Audio Bitrate</source>
+        <translation>Datový tok zvuku</translation>
+    </message>
+    <message>
+        <source>Set audio bitrate (in kbit/s)</source>
+        <translation>Nastaví datový tok zvuku (v kbit/s)</translation>
+    </message>
+    <message>
+        <source>Sample Rate</source>
+        <translation>Vzorkování</translation>
+    </message>
+    <message>
+        <source>Set the audio sampling frequency (the number of samples per second) (default = 44100 Hz).</source>
+        <translation>Nastaví vzorkovací frekvenci zvuku, tedy počet vzorků za sekundu (výchozí = 44100 Hz).</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>Kanály</translation>
+    </message>
+    <message>
+        <source>Set number of audio channels, 1(Mono), 2(Stereo) and 5.1(Dolby Digital) are commonly used for general digital audio.</source>
+        <translation>Nastaví počet zvukových kanálů; u běžného digitálního zvuku se používá 1 (mono), 2 (stereo) a 5.1 (Dolby Digital).</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Hlasitost</translation>
+    </message>
+    <message>
+        <source>Set the output volume.</source>
+        <translation>Nastaví výstupní hlasitost.</translation>
+    </message>
+    <message>
+        <source>Disable Audio</source>
+        <translation>Vypnout zvuk</translation>
+    </message>
+    <message>
+        <source>Disable audio</source>
+        <translation>Vytvoří výstup bez zvukové stopy</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Souhrn</translation>
+    </message>
+    <message>
+        <source>Summary of the file</source>
+        <translation>Souhrnné informace o souboru</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Název</translation>
+    </message>
+    <message>
+        <source>Set the title</source>
+        <translation>Nastaví název</translation>
+    </message>
+    <message>
+        <source>Author</source>
+        <translation>Autor</translation>
+    </message>
+    <message>
+        <source>Set the author</source>
+        <translation>Nastaví autora</translation>
+    </message>
+    <message>
+        <source>Copyright</source>
+        <translation>Copyright</translation>
+    </message>
+    <message>
+        <source>Set the copyright</source>
+        <translation>Nastaví informace o autorských právech</translation>
+    </message>
+    <message>
+        <source>Comments</source>
+        <translation>Komentáře</translation>
+    </message>
+    <message>
+        <source>Set the comment</source>
+        <translation>Nastaví komentář</translation>
+    </message>
+    <message>
+        <source>Album</source>
+        <translation>Album</translation>
+    </message>
+    <message>
+        <source>Genre</source>
+        <translation>Žánr</translation>
+    </message>
+    <message>
+        <source>Composer</source>
+        <translation>Skladatel</translation>
+    </message>
+    <message>
+        <source>Orig. Artist</source>
+        <translation>Původní umělec</translation>
+    </message>
+    <message>
+        <source>Encoded by</source>
+        <translation>Kódoval</translation>
+    </message>
+    <message>
+        <source>Url</source>
+        <translation>URL</translation>
+    </message>
+    <message>
+        <source>Year</source>
+        <translation>Rok</translation>
+    </message>
+    <message>
+        <source>Expert</source>
+        <translation>Pokročilé</translation>
+    </message>
+    <message>
+        <source>Expert options</source>
+        <translation>Pokročilé možnosti</translation>
+    </message>
+    <message>
+        <source>Parameters</source>
+        <translation>Parametry</translation>
     </message>
 </context>
 <context>

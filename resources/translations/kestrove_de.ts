@@ -34,6 +34,681 @@
     </message>
 </context>
 <context>
+    <name>Profile</name>
+    <message>
+        <source>User Defined</source>
+        <translation>Benutzerdefiniert</translation>
+    </message>
+    <message>
+        <source>General Video</source>
+        <translation>Allgemeines Video</translation>
+    </message>
+    <message>
+        <source>General Audio</source>
+        <translation>Allgemeines Audio</translation>
+    </message>
+    <message>
+        <source>Android</source>
+        <translation>Android</translation>
+    </message>
+    <message>
+        <source>Apple TV</source>
+        <translation>Apple TV</translation>
+    </message>
+    <message>
+        <source>HD Video</source>
+        <translation>HD-Video</translation>
+    </message>
+    <message>
+        <source>iPad</source>
+        <translation>iPad</translation>
+    </message>
+    <message>
+        <source>iPhone</source>
+        <translation>iPhone</translation>
+    </message>
+    <message>
+        <source>iPod</source>
+        <translation>iPod</translation>
+    </message>
+    <message>
+        <source>Mobile Phone</source>
+        <translation>Mobiltelefon</translation>
+    </message>
+    <message>
+        <source>Picture and Animation</source>
+        <translation>Bild und Animation</translation>
+    </message>
+    <message>
+        <source>Portable Multimedia Device</source>
+        <translation>Tragbares Multimedia-Gerät</translation>
+    </message>
+    <message>
+        <source>PS3</source>
+        <translation>PS3</translation>
+    </message>
+    <message>
+        <source>PSP</source>
+        <translation>PSP</translation>
+    </message>
+    <message>
+        <source>Xbox HD Video</source>
+        <translation>Xbox-HD-Video</translation>
+    </message>
+    <message>
+        <source>Zune</source>
+        <translation>Zune</translation>
+    </message>
+    <message>
+        <source>ASF - Advanced Streaming Format</source>
+        <translation>ASF - Advanced Streaming Format</translation>
+    </message>
+    <message>
+        <source>Advanced Streaming Format, a Windows Media container.</source>
+        <translation>Advanced Streaming Format, ein Windows-Media-Container.</translation>
+    </message>
+    <message>
+        <source>AVI - Audio-Video Interleaved</source>
+        <translation>AVI - Audio-Video Interleaved</translation>
+    </message>
+    <message>
+        <source>Audio-Video Interleaved, the classic Windows video format.</source>
+        <translation>Audio-Video Interleaved, das klassische Videoformat von Windows.</translation>
+    </message>
+    <message>
+        <source>DivX Video</source>
+        <translation>DivX-Video</translation>
+    </message>
+    <message>
+        <source>DivX video in an AVI container.</source>
+        <translation>DivX-Video in einem AVI-Container.</translation>
+    </message>
+    <message>
+        <source>DV - Digital Video format</source>
+        <translation>DV - Digital-Video-Format</translation>
+    </message>
+    <message>
+        <source>Digital Video format of camcorders.</source>
+        <translation>Digitales Videoformat von Camcordern.</translation>
+    </message>
+    <message>
+        <source>DVD Video</source>
+        <translation>DVD-Video</translation>
+    </message>
+    <message>
+        <source>MPEG-2 video for DVD players.</source>
+        <translation>MPEG-2-Video für DVD-Player.</translation>
+    </message>
+    <message>
+        <source>MOV - QuickTime</source>
+        <translation>MOV - QuickTime</translation>
+    </message>
+    <message>
+        <source>QuickTime movie format.</source>
+        <translation>QuickTime-Filmformat.</translation>
+    </message>
+    <message>
+        <source>MPEG4 Video</source>
+        <translation>MPEG4-Video</translation>
+    </message>
+    <message>
+        <source>MPEG-4 video format.</source>
+        <translation>MPEG-4-Videoformat.</translation>
+    </message>
+    <message>
+        <source>MPEG1 Video</source>
+        <translation>MPEG1-Video</translation>
+    </message>
+    <message>
+        <source>MPEG-1 video format.</source>
+        <translation>MPEG-1-Videoformat.</translation>
+    </message>
+    <message>
+        <source>MPEG2 Video</source>
+        <translation>MPEG2-Video</translation>
+    </message>
+    <message>
+        <source>MPEG-2 video format.</source>
+        <translation>MPEG-2-Videoformat.</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC Video</source>
+        <translation>H.264/MPEG-4-AVC-Video</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC video format.</source>
+        <translation>H.264/MPEG-4-AVC-Videoformat.</translation>
+    </message>
+    <message>
+        <source>RM - Real Video</source>
+        <translation>RM - Real Video</translation>
+    </message>
+    <message>
+        <source>RealVideo streaming format.</source>
+        <translation>RealVideo-Streamingformat.</translation>
+    </message>
+    <message>
+        <source>VCD Video</source>
+        <translation>VCD-Video</translation>
+    </message>
+    <message>
+        <source>MPEG-1 video for Video CD players.</source>
+        <translation>MPEG-1-Video für Video-CD-Player.</translation>
+    </message>
+    <message>
+        <source>WMV - Windows Media Video</source>
+        <translation>WMV - Windows Media Video</translation>
+    </message>
+    <message>
+        <source>Windows Media Video format.</source>
+        <translation>Windows-Media-Video-Format.</translation>
+    </message>
+    <message>
+        <source>Xvid Video</source>
+        <translation>Xvid-Video</translation>
+    </message>
+    <message>
+        <source>Xvid video in an AVI container.</source>
+        <translation>Xvid-Video in einem AVI-Container.</translation>
+    </message>
+    <message>
+        <source>Matroska Video</source>
+        <translation>Matroska-Video</translation>
+    </message>
+    <message>
+        <source>Matroska video format.</source>
+        <translation>Matroska-Videoformat.</translation>
+    </message>
+    <message>
+        <source>WebM Video</source>
+        <translation>WebM-Video</translation>
+    </message>
+    <message>
+        <source>WebM video format for the web.</source>
+        <translation>WebM-Videoformat für das Web.</translation>
+    </message>
+    <message>
+        <source>AC3 - Dolby Digital AC-3</source>
+        <translation>AC3 - Dolby Digital AC-3</translation>
+    </message>
+    <message>
+        <source>Dolby Digital AC-3 audio format.</source>
+        <translation>Audioformat Dolby Digital AC-3.</translation>
+    </message>
+    <message>
+        <source>AIFF - Audio Interchange File Format</source>
+        <translation>AIFF - Audio Interchange File Format</translation>
+    </message>
+    <message>
+        <source>Audio Interchange File Format, uncompressed audio.</source>
+        <translation>Audio Interchange File Format, unkomprimiertes Audio.</translation>
+    </message>
+    <message>
+        <source>ALAC - Apple Lossless Audio Codec</source>
+        <translation>ALAC - Apple Lossless Audio Codec</translation>
+    </message>
+    <message>
+        <source>Apple Lossless audio format.</source>
+        <translation>Audioformat Apple Lossless.</translation>
+    </message>
+    <message>
+        <source>FLAC - Free Lossless Audio Codec</source>
+        <translation>FLAC - Free Lossless Audio Codec</translation>
+    </message>
+    <message>
+        <source>Free Lossless Audio Codec format.</source>
+        <translation>Verlustfreies Audioformat Free Lossless Audio Codec.</translation>
+    </message>
+    <message>
+        <source>SUN AU Format</source>
+        <translation>SUN-AU-Format</translation>
+    </message>
+    <message>
+        <source>Sun AU audio format.</source>
+        <translation>Sun-AU-Audioformat.</translation>
+    </message>
+    <message>
+        <source>M4A - MPEG-4 Audio</source>
+        <translation>M4A - MPEG-4-Audio</translation>
+    </message>
+    <message>
+        <source>MPEG-4 Audio format.</source>
+        <translation>MPEG-4-Audioformat.</translation>
+    </message>
+    <message>
+        <source>MP2 - MPEG Layer-2 Audio</source>
+        <translation>MP2 - MPEG-Layer-2-Audio</translation>
+    </message>
+    <message>
+        <source>MPEG Layer-2 audio format.</source>
+        <translation>MPEG-Layer-2-Audioformat.</translation>
+    </message>
+    <message>
+        <source>MP3 - MPEG Layer-3 Audio</source>
+        <translation>MP3 - MPEG-Layer-3-Audio</translation>
+    </message>
+    <message>
+        <source>MPEG Layer-3 audio format.</source>
+        <translation>MPEG-Layer-3-Audioformat.</translation>
+    </message>
+    <message>
+        <source>OGG - Ogg Vorbis Audio</source>
+        <translation>OGG - Ogg-Vorbis-Audio</translation>
+    </message>
+    <message>
+        <source>Ogg Vorbis audio format.</source>
+        <translation>Ogg-Vorbis-Audioformat.</translation>
+    </message>
+    <message>
+        <source>RA - RealAudio</source>
+        <translation>RA - RealAudio</translation>
+    </message>
+    <message>
+        <source>RealAudio streaming format.</source>
+        <translation>RealAudio-Streamingformat.</translation>
+    </message>
+    <message>
+        <source>WAV - Waveform Audio</source>
+        <translation>WAV - Waveform Audio</translation>
+    </message>
+    <message>
+        <source>Waveform audio format, uncompressed.</source>
+        <translation>Waveform-Audioformat, unkomprimiert.</translation>
+    </message>
+    <message>
+        <source>WMA - Windows Media Audio</source>
+        <translation>WMA - Windows Media Audio</translation>
+    </message>
+    <message>
+        <source>Windows Media Audio format.</source>
+        <translation>Windows-Media-Audio-Format.</translation>
+    </message>
+    <message>
+        <source>Android MPEG4 Video</source>
+        <translation>MPEG4-Video für Android</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for Android</source>
+        <translation>MPEG4-Profil, optimiert für Android</translation>
+    </message>
+    <message>
+        <source>Samsung Galaxy S3 H.264 Video</source>
+        <translation>H.264-Video für Samsung Galaxy S3</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for Galaxy S3</source>
+        <translation>H.264/MPEG-4-AVC-Profil, optimiert für Galaxy S3</translation>
+    </message>
+    <message>
+        <source>Samsung Galaxy Tab MPEG4 Video</source>
+        <translation>MPEG4-Video für Samsung Galaxy Tab</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for Galaxy Tab</source>
+        <translation>MPEG4-Profil, optimiert für Galaxy Tab</translation>
+    </message>
+    <message>
+        <source>Apple TV H.264 Video</source>
+        <translation>H.264-Video für Apple TV</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for Apple TV</source>
+        <translation>H.264/MPEG-4-AVC-Profil, optimiert für Apple TV</translation>
+    </message>
+    <message>
+        <source>Apple TV H.264 HD Video</source>
+        <translation>H.264-HD-Video für Apple TV</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for Apple TV HD</source>
+        <translation>H.264/MPEG-4-AVC-Profil, optimiert für Apple TV HD</translation>
+    </message>
+    <message>
+        <source>Apple TV 3 H.264 1080P Video</source>
+        <translation>H.264-1080P-Video für Apple TV 3</translation>
+    </message>
+    <message>
+        <source>Apple TV MPEG4 Video</source>
+        <translation>MPEG4-Video für Apple TV</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for Apple TV</source>
+        <translation>MPEG4-Profil, optimiert für Apple TV</translation>
+    </message>
+    <message>
+        <source>HD ASF Video</source>
+        <translation>HD-ASF-Video</translation>
+    </message>
+    <message>
+        <source>ASF profile optimized for HD players</source>
+        <translation>ASF-Profil, optimiert für HD-Player</translation>
+    </message>
+    <message>
+        <source>HD AVI Video</source>
+        <translation>HD-AVI-Video</translation>
+    </message>
+    <message>
+        <source>MPEG4 AVI profile optimized for HD players</source>
+        <translation>MPEG4-AVI-Profil, optimiert für HD-Player</translation>
+    </message>
+    <message>
+        <source>HD H.264/MPEG-4 AVC Video</source>
+        <translation>HD-H.264/MPEG-4-AVC-Video</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for HD players</source>
+        <translation>H.264/MPEG-4-AVC-Profil, optimiert für HD-Player</translation>
+    </message>
+    <message>
+        <source>HD Quick Time Video</source>
+        <translation>HD-QuickTime-Video</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for HD players</source>
+        <translation>MPEG4-Profil, optimiert für HD-Player</translation>
+    </message>
+    <message>
+        <source>MPEG2-PS HD Video</source>
+        <translation>MPEG2-PS-HD-Video</translation>
+    </message>
+    <message>
+        <source>MPEG2 profile optimized for HD players</source>
+        <translation>MPEG2-Profil, optimiert für HD-Player</translation>
+    </message>
+    <message>
+        <source>MPEG2-TS HD Video</source>
+        <translation>MPEG2-TS-HD-Video</translation>
+    </message>
+    <message>
+        <source>MPEG4 HD Video</source>
+        <translation>MPEG4-HD-Video</translation>
+    </message>
+    <message>
+        <source>RM HD Video</source>
+        <translation>RM-HD-Video</translation>
+    </message>
+    <message>
+        <source>RealVideo profile optimized for HD players</source>
+        <translation>RealVideo-Profil, optimiert für HD-Player</translation>
+    </message>
+    <message>
+        <source>HD WMV Video</source>
+        <translation>HD-WMV-Video</translation>
+    </message>
+    <message>
+        <source>WMV profile optimized for HD players</source>
+        <translation>WMV-Profil, optimiert für HD-Player</translation>
+    </message>
+    <message>
+        <source>XVID HD Video</source>
+        <translation>XVID-HD-Video</translation>
+    </message>
+    <message>
+        <source>Xvid profile optimized for HD players</source>
+        <translation>Xvid-Profil, optimiert für HD-Player</translation>
+    </message>
+    <message>
+        <source>iPad H.264 Video</source>
+        <translation>H.264-Video für iPad</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for iPad</source>
+        <translation>H.264/MPEG-4-AVC-Profil, optimiert für iPad</translation>
+    </message>
+    <message>
+        <source>iPad H.264 HD Video</source>
+        <translation>H.264-HD-Video für iPad</translation>
+    </message>
+    <message>
+        <source>iPad MPEG4 Video</source>
+        <translation>MPEG4-Video für iPad</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for iPad</source>
+        <translation>MPEG4-Profil, optimiert für iPad</translation>
+    </message>
+    <message>
+        <source>iPad 2 H.264 Video</source>
+        <translation>H.264-Video für iPad 2</translation>
+    </message>
+    <message>
+        <source>iPad 2 H.264 HD Video</source>
+        <translation>H.264-HD-Video für iPad 2</translation>
+    </message>
+    <message>
+        <source>iPad 2 MPEG4 Video</source>
+        <translation>MPEG4-Video für iPad 2</translation>
+    </message>
+    <message>
+        <source>iPad 3 1080P Video</source>
+        <translation>1080P-Video für iPad 3</translation>
+    </message>
+    <message>
+        <source>iPad mini H.264 Video</source>
+        <translation>H.264-Video für iPad mini</translation>
+    </message>
+    <message>
+        <source>iPhone H.264 Video</source>
+        <translation>H.264-Video für iPhone</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for iPhone</source>
+        <translation>H.264/MPEG-4-AVC-Profil, optimiert für iPhone</translation>
+    </message>
+    <message>
+        <source>iPhone MPEG4 Video</source>
+        <translation>MPEG4-Video für iPhone</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for iPhone</source>
+        <translation>MPEG4-Profil, optimiert für iPhone</translation>
+    </message>
+    <message>
+        <source>iPhone 4 H.264 Video</source>
+        <translation>H.264-Video für iPhone 4</translation>
+    </message>
+    <message>
+        <source>iPhone 4 MPEG4 Video</source>
+        <translation>MPEG4-Video für iPhone 4</translation>
+    </message>
+    <message>
+        <source>iPhone 5 H.264 Video</source>
+        <translation>H.264-Video für iPhone 5</translation>
+    </message>
+    <message>
+        <source>iPod H.264 Video</source>
+        <translation>H.264-Video für iPod</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for iPod</source>
+        <translation>H.264/MPEG-4-AVC-Profil, optimiert für iPod</translation>
+    </message>
+    <message>
+        <source>iPod MPEG4 Video</source>
+        <translation>MPEG4-Video für iPod</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for iPod</source>
+        <translation>MPEG4-Profil, optimiert für iPod</translation>
+    </message>
+    <message>
+        <source>iPod touch H.264 Video</source>
+        <translation>H.264-Video für iPod touch</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for iPod touch</source>
+        <translation>H.264/MPEG-4-AVC-Profil, optimiert für iPod touch</translation>
+    </message>
+    <message>
+        <source>iPod touch MPEG4 Video</source>
+        <translation>MPEG4-Video für iPod touch</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for iPod touch</source>
+        <translation>MPEG4-Profil, optimiert für iPod touch</translation>
+    </message>
+    <message>
+        <source>iPod touch 4 H.264 Video</source>
+        <translation>H.264-Video für iPod touch 4</translation>
+    </message>
+    <message>
+        <source>iPod touch 4 MPEG4 Video</source>
+        <translation>MPEG4-Video für iPod touch 4</translation>
+    </message>
+    <message>
+        <source>Mobile Phone 3GP Video - Stereo</source>
+        <translation>3GP-Video für Mobiltelefone - Stereo</translation>
+    </message>
+    <message>
+        <source>3GP profile optimized for mobile phones</source>
+        <translation>3GP-Profil, optimiert für Mobiltelefone</translation>
+    </message>
+    <message>
+        <source>Mobile Phone 3GP Video - Mono</source>
+        <translation>3GP-Video für Mobiltelefone - Mono</translation>
+    </message>
+    <message>
+        <source>BlackBerry 3GP Video</source>
+        <translation>3GP-Video für BlackBerry</translation>
+    </message>
+    <message>
+        <source>BlackBerry AVI Video</source>
+        <translation>AVI-Video für BlackBerry</translation>
+    </message>
+    <message>
+        <source>MPEG4 AVI profile optimized for mobile phones</source>
+        <translation>MPEG4-AVI-Profil, optimiert für Mobiltelefone</translation>
+    </message>
+    <message>
+        <source>BlackBerry MPEG4 Video</source>
+        <translation>MPEG4-Video für BlackBerry</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for mobile phones</source>
+        <translation>MPEG4-Profil, optimiert für Mobiltelefone</translation>
+    </message>
+    <message>
+        <source>WMV Video for Mobile Phone</source>
+        <translation>WMV-Video für Mobiltelefone</translation>
+    </message>
+    <message>
+        <source>WMV profile optimized for mobile phones</source>
+        <translation>WMV-Profil, optimiert für Mobiltelefone</translation>
+    </message>
+    <message>
+        <source>FLV - Flash Video Format</source>
+        <translation>FLV - Flash-Video-Format</translation>
+    </message>
+    <message>
+        <source>Flash video format for web pages.</source>
+        <translation>Flash-Videoformat für Webseiten.</translation>
+    </message>
+    <message>
+        <source>Picture - BMP format</source>
+        <translation>Bild - BMP-Format</translation>
+    </message>
+    <message>
+        <source>Pictures captured from the video as BMP files.</source>
+        <translation>Aus dem Video aufgenommene Bilder als BMP-Dateien.</translation>
+    </message>
+    <message>
+        <source>Picture - GIF Animation format</source>
+        <translation>Bild - GIF-Animationsformat</translation>
+    </message>
+    <message>
+        <source>An animated GIF picture made from the video.</source>
+        <translation>Ein aus dem Video erstelltes animiertes GIF-Bild.</translation>
+    </message>
+    <message>
+        <source>Picture - JPEG format</source>
+        <translation>Bild - JPEG-Format</translation>
+    </message>
+    <message>
+        <source>Pictures captured from the video as JPEG files.</source>
+        <translation>Aus dem Video aufgenommene Bilder als JPEG-Dateien.</translation>
+    </message>
+    <message>
+        <source>Picture - PNG format</source>
+        <translation>Bild - PNG-Format</translation>
+    </message>
+    <message>
+        <source>Pictures captured from the video as PNG files.</source>
+        <translation>Aus dem Video aufgenommene Bilder als PNG-Dateien.</translation>
+    </message>
+    <message>
+        <source>SWF - SWF Format</source>
+        <translation>SWF - SWF-Format</translation>
+    </message>
+    <message>
+        <source>Shockwave Flash animation format.</source>
+        <translation>Shockwave-Flash-Animationsformat.</translation>
+    </message>
+    <message>
+        <source>Archos MPEG4</source>
+        <translation>Archos MPEG4</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for portable players</source>
+        <translation>MPEG4-Profil, optimiert für tragbare Player</translation>
+    </message>
+    <message>
+        <source>Creative ZEN MPEG4 Video</source>
+        <translation>MPEG4-Video für Creative ZEN</translation>
+    </message>
+    <message>
+        <source>iRiver MPEG4 Video</source>
+        <translation>MPEG4-Video für iRiver</translation>
+    </message>
+    <message>
+        <source>PS3 H.264 Video</source>
+        <translation>H.264-Video für PS3</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for PS3</source>
+        <translation>H.264/MPEG-4-AVC-Profil, optimiert für PS3</translation>
+    </message>
+    <message>
+        <source>PSP MPEG-4 Video</source>
+        <translation>MPEG-4-Video für PSP</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for PSP</source>
+        <translation>MPEG4-Profil, optimiert für PSP</translation>
+    </message>
+    <message>
+        <source>Xbox360 H.264 Video</source>
+        <translation>H.264-Video für Xbox360</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for Xbox360</source>
+        <translation>H.264/MPEG-4-AVC-Profil, optimiert für Xbox360</translation>
+    </message>
+    <message>
+        <source>Xbox360 MPEG4 Video</source>
+        <translation>MPEG4-Video für Xbox360</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for Xbox360</source>
+        <translation>MPEG4-Profil, optimiert für Xbox360</translation>
+    </message>
+    <message>
+        <source>Xbox360 WMV Video</source>
+        <translation>WMV-Video für Xbox360</translation>
+    </message>
+    <message>
+        <source>WMV profile optimized for Xbox360</source>
+        <translation>WMV-Profil, optimiert für Xbox360</translation>
+    </message>
+    <message>
+        <source>Zune MPEG4 Video</source>
+        <translation>MPEG4-Video für Zune</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for Zune</source>
+        <translation>MPEG4-Profil, optimiert für Zune</translation>
+    </message>
+</context>
+<context>
     <name>ProfileGroupLoader</name>
     <message>
         <source>Untitled</source>
@@ -76,6 +751,21 @@
     </message>
 </context>
 <context>
+    <name>QtTreePropertyBrowser</name>
+    <message>
+        <source>Property</source>
+        <translation>Eigenschaft</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>Eigenschaften</translation>
+    </message>
+</context>
+<context>
     <name>QxLanguage</name>
     <message>
         <source>&amp;Language</source>
@@ -87,6 +777,280 @@
     <message>
         <source>&amp;Skin</source>
         <translation>&amp;Design</translation>
+    </message>
+</context>
+<context>
+    <name>SettingDialog</name>
+    <message>
+        <source>Advanced Settings</source>
+        <translation>Erweiterte Einstellungen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Simple</source>
+        <translation>Einfach</translation>
+    </message>
+    <message>
+        <source>Video Size:</source>
+        <translation>Videogröße:</translation>
+    </message>
+    <message>
+        <source>Video Size</source>
+        <translation>Videogröße</translation>
+    </message>
+    <message>
+        <source>Video Quality:</source>
+        <translation>Videoqualität:</translation>
+    </message>
+    <message>
+        <source>Video Quality</source>
+        <translation>Videoqualität</translation>
+    </message>
+    <message>
+        <source>Audio Quality:</source>
+        <translation>Audioqualität:</translation>
+    </message>
+    <message>
+        <source>Audio Quality</source>
+        <translation>Audioqualität</translation>
+    </message>
+    <message>
+        <source>Advanced</source>
+        <translation>Erweitert</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Beschreibung</translation>
+    </message>
+    <message>
+        <source>Apply To All</source>
+        <translation>Auf alle anwenden</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsWindow</name>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>Picture Format</source>
+        <translation>Bildformat</translation>
+    </message>
+    <message>
+        <source>Picture format.</source>
+        <translation>Dateiformat der aufgenommenen Bilder.</translation>
+    </message>
+    <message>
+        <source>Interval</source>
+        <translation>Intervall</translation>
+    </message>
+    <message>
+        <source>Select how many seconds to capture one picture.</source>
+        <translation>Legt fest, nach wie vielen Sekunden jeweils ein Bild aufgenommen wird.</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>Video</translation>
+    </message>
+    <message>
+        <source>Video options</source>
+        <translation>Videooptionen</translation>
+    </message>
+    <message>
+        <source>Video Codec</source>
+        <translation>Video-Codec</translation>
+    </message>
+    <message>
+        <source>Set the video codec (methods of compression for digital videos, e.g., MPEG-4, H.264 or WMV) which the encoding engine uses. Usually it is related to the output format you choose.</source>
+        <translation>Legt den Video-Codec fest (das Kompressionsverfahren für digitales Video, z. B. MPEG-4, H.264 oder WMV), mit dem kodiert wird. Er hängt in der Regel vom gewählten Ausgabeformat ab.</translation>
+    </message>
+    <message>
+        <source>Video Size</source>
+        <translation>Bildgröße</translation>
+    </message>
+    <message>
+        <source>Set frame size. The format is &apos;width x height&apos; like 320x240, 640x480 or 1920x1080 pixels. You can choose an similar size for your playback device screen resolution.</source>
+        <translation>Legt die Bildgröße fest. Das Format ist „Breite x Höhe“, z. B. 320x240, 640x480 oder 1920x1080 Pixel. Wählen Sie eine Größe, die der Bildschirmauflösung Ihres Wiedergabegeräts nahekommt.</translation>
+    </message>
+    <message>
+        <source>Video Bitrate</source>
+        <translation>Video-Bitrate</translation>
+    </message>
+    <message>
+        <source>Set the video bit rate in kilobit per second. This is the key factor that is related to the output file size and video quality -- the larger the bit rate, the better the video quality and the bigger the output file you will get, and vice versa.</source>
+        <translation>Legt die Video-Bitrate in Kilobit pro Sekunde fest. Sie bestimmt maßgeblich die Größe der Ausgabedatei und die Videoqualität: Je höher die Bitrate, desto besser die Videoqualität und desto größer die Ausgabedatei – und umgekehrt.</translation>
+    </message>
+    <message>
+        <source>Frame Rate</source>
+        <translation>Bildrate</translation>
+    </message>
+    <message>
+        <source>Set how many frames should be displayed per second (FPS). Higher frame rate increases the smoothness when played back, and usually 25--30 frame per second can provide you with a very good viewing experience.</source>
+        <translation>Legt fest, wie viele Bilder pro Sekunde angezeigt werden (FPS). Eine höhere Bildrate sorgt für eine flüssigere Wiedergabe; meist bieten 25–30 Bilder pro Sekunde bereits ein sehr gutes Seherlebnis.</translation>
+    </message>
+    <message>
+        <source>Aspect Ratio</source>
+        <translation>Seitenverhältnis</translation>
+    </message>
+    <message>
+        <source>Set width to height ratio according to the screen aspect of your playback device . (4:3, 16:9 or 1.3333, 1.7777).</source>
+        <translation>Legt das Verhältnis von Breite zu Höhe passend zum Bildschirmformat Ihres Wiedergabegeräts fest (4:3, 16:9 bzw. 1.3333, 1.7777).</translation>
+    </message>
+    <message>
+        <source>Same Quality</source>
+        <translation>Gleiche Qualität</translation>
+    </message>
+    <message>
+        <source>This function enables you to get good output video quality as the source. (Sometimes this function may bring you a large output file, or make the converting time pretty long.)</source>
+        <translation>Mit dieser Funktion erhalten Sie ein Ausgabevideo in der Qualität der Quelle. (Dadurch kann die Ausgabedatei mitunter sehr groß werden oder die Konvertierung deutlich länger dauern.)</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Select zoom mode, that is how to deal with the blank edge when the aspect of the source and the destination is different.</source>
+        <translation>Wählt den Zoommodus, also den Umgang mit leeren Rändern, wenn sich die Seitenverhältnisse von Quelle und Ziel unterscheiden.</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Audio options</source>
+        <translation>Audiooptionen</translation>
+    </message>
+    <message>
+        <source>Audio Codec</source>
+        <translation>Audio-Codec</translation>
+    </message>
+    <message>
+        <source>Set the audio codec (methods of compression for digital audio, e.g., MP3, PCM or AC3) which the encoding engine uses. Usually it is related to the output format you choose.</source>
+        <translation>Legt den Audio-Codec fest (das Kompressionsverfahren für digitales Audio, z. B. MP3, PCM oder AC3), mit dem kodiert wird. Er hängt in der Regel vom gewählten Ausgabeformat ab.</translation>
+    </message>
+    <message>
+        <source>Audio Bitrate</source>
+        <translation>Audio-Bitrate</translation>
+    </message>
+    <message>
+        <source>Set audio bitrate (in kbit/s)</source>
+        <translation>Legt die Audio-Bitrate fest (in kbit/s)</translation>
+    </message>
+    <message>
+        <source>Sample Rate</source>
+        <translation>Abtastrate</translation>
+    </message>
+    <message>
+        <source>Set the audio sampling frequency (the number of samples per second) (default = 44100 Hz).</source>
+        <translation>Legt die Abtastrate des Audios fest, also die Anzahl der Abtastwerte pro Sekunde (Standard = 44100 Hz).</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>Kanäle</translation>
+    </message>
+    <message>
+        <source>Set number of audio channels, 1(Mono), 2(Stereo) and 5.1(Dolby Digital) are commonly used for general digital audio.</source>
+        <translation>Legt die Anzahl der Audiokanäle fest; üblich sind bei digitalem Audio 1 (Mono), 2 (Stereo) und 5.1 (Dolby Digital).</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Lautstärke</translation>
+    </message>
+    <message>
+        <source>Set the output volume.</source>
+        <translation>Legt die Lautstärke der Ausgabe fest.</translation>
+    </message>
+    <message>
+        <source>Disable Audio</source>
+        <translation>Ohne Ton</translation>
+    </message>
+    <message>
+        <source>Disable audio</source>
+        <translation>Erzeugt die Ausgabe ohne Tonspur</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Dateiinfo</translation>
+    </message>
+    <message>
+        <source>Summary of the file</source>
+        <translation>Beschreibende Angaben zur Datei</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>Set the title</source>
+        <translation>Legt den Titel fest</translation>
+    </message>
+    <message>
+        <source>Author</source>
+        <translation>Autor</translation>
+    </message>
+    <message>
+        <source>Set the author</source>
+        <translation>Legt den Autor fest</translation>
+    </message>
+    <message>
+        <source>Copyright</source>
+        <translation>Copyright</translation>
+    </message>
+    <message>
+        <source>Set the copyright</source>
+        <translation>Legt den Copyright-Vermerk fest</translation>
+    </message>
+    <message>
+        <source>Comments</source>
+        <translation>Kommentare</translation>
+    </message>
+    <message>
+        <source>Set the comment</source>
+        <translation>Legt den Kommentar fest</translation>
+    </message>
+    <message>
+        <source>Album</source>
+        <translation>Album</translation>
+    </message>
+    <message>
+        <source>Genre</source>
+        <translation>Genre</translation>
+    </message>
+    <message>
+        <source>Composer</source>
+        <translation>Komponist</translation>
+    </message>
+    <message>
+        <source>Orig. Artist</source>
+        <translation>Orig. Interpret</translation>
+    </message>
+    <message>
+        <source>Encoded by</source>
+        <translation>Kodiert von</translation>
+    </message>
+    <message>
+        <source>Url</source>
+        <translation>URL</translation>
+    </message>
+    <message>
+        <source>Year</source>
+        <translation>Jahr</translation>
+    </message>
+    <message>
+        <source>Expert</source>
+        <translation>Erweitert</translation>
+    </message>
+    <message>
+        <source>Expert options</source>
+        <translation>Erweiterte Optionen</translation>
+    </message>
+    <message>
+        <source>Parameters</source>
+        <translation>Parameter</translation>
     </message>
 </context>
 <context>

@@ -34,6 +34,681 @@
     </message>
 </context>
 <context>
+    <name>Profile</name>
+    <message>
+        <source>User Defined</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>General Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>General Audio</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Android</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Apple TV</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>HD Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>iPad</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>iPhone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>iPod</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mobile Phone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Picture and Animation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Portable Multimedia Device</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PS3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PSP</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Xbox HD Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zune</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ASF - Advanced Streaming Format</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Advanced Streaming Format, a Windows Media container.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>AVI - Audio-Video Interleaved</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Audio-Video Interleaved, the classic Windows video format.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>DivX Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>DivX video in an AVI container.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>DV - Digital Video format</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Digital Video format of camcorders.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>DVD Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MPEG-2 video for DVD players.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MOV - QuickTime</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>QuickTime movie format.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MPEG4 Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MPEG-4 video format.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MPEG1 Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MPEG-1 video format.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MPEG2 Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MPEG-2 video format.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC video format.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>RM - Real Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>RealVideo streaming format.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>VCD Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MPEG-1 video for Video CD players.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>WMV - Windows Media Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Windows Media Video format.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Xvid Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Xvid video in an AVI container.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Matroska Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Matroska video format.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>WebM Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>WebM video format for the web.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>AC3 - Dolby Digital AC-3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dolby Digital AC-3 audio format.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>AIFF - Audio Interchange File Format</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Audio Interchange File Format, uncompressed audio.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ALAC - Apple Lossless Audio Codec</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Apple Lossless audio format.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>FLAC - Free Lossless Audio Codec</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Free Lossless Audio Codec format.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SUN AU Format</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sun AU audio format.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>M4A - MPEG-4 Audio</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MPEG-4 Audio format.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MP2 - MPEG Layer-2 Audio</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MPEG Layer-2 audio format.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MP3 - MPEG Layer-3 Audio</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MPEG Layer-3 audio format.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>OGG - Ogg Vorbis Audio</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ogg Vorbis audio format.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>RA - RealAudio</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>RealAudio streaming format.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>WAV - Waveform Audio</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Waveform audio format, uncompressed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>WMA - Windows Media Audio</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Windows Media Audio format.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Android MPEG4 Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for Android</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Samsung Galaxy S3 H.264 Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for Galaxy S3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Samsung Galaxy Tab MPEG4 Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for Galaxy Tab</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Apple TV H.264 Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for Apple TV</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Apple TV H.264 HD Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for Apple TV HD</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Apple TV 3 H.264 1080P Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Apple TV MPEG4 Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for Apple TV</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>HD ASF Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ASF profile optimized for HD players</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>HD AVI Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MPEG4 AVI profile optimized for HD players</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>HD H.264/MPEG-4 AVC Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for HD players</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>HD Quick Time Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for HD players</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MPEG2-PS HD Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MPEG2 profile optimized for HD players</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MPEG2-TS HD Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MPEG4 HD Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>RM HD Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>RealVideo profile optimized for HD players</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>HD WMV Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>WMV profile optimized for HD players</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>XVID HD Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Xvid profile optimized for HD players</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>iPad H.264 Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for iPad</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>iPad H.264 HD Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>iPad MPEG4 Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for iPad</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>iPad 2 H.264 Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>iPad 2 H.264 HD Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>iPad 2 MPEG4 Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>iPad 3 1080P Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>iPad mini H.264 Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>iPhone H.264 Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for iPhone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>iPhone MPEG4 Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for iPhone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>iPhone 4 H.264 Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>iPhone 4 MPEG4 Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>iPhone 5 H.264 Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>iPod H.264 Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for iPod</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>iPod MPEG4 Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for iPod</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>iPod touch H.264 Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for iPod touch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>iPod touch MPEG4 Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for iPod touch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>iPod touch 4 H.264 Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>iPod touch 4 MPEG4 Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mobile Phone 3GP Video - Stereo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>3GP profile optimized for mobile phones</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mobile Phone 3GP Video - Mono</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>BlackBerry 3GP Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>BlackBerry AVI Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MPEG4 AVI profile optimized for mobile phones</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>BlackBerry MPEG4 Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for mobile phones</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>WMV Video for Mobile Phone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>WMV profile optimized for mobile phones</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>FLV - Flash Video Format</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Flash video format for web pages.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Picture - BMP format</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pictures captured from the video as BMP files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Picture - GIF Animation format</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An animated GIF picture made from the video.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Picture - JPEG format</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pictures captured from the video as JPEG files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Picture - PNG format</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pictures captured from the video as PNG files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SWF - SWF Format</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shockwave Flash animation format.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Archos MPEG4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for portable players</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Creative ZEN MPEG4 Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>iRiver MPEG4 Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PS3 H.264 Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for PS3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PSP MPEG-4 Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for PSP</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Xbox360 H.264 Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for Xbox360</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Xbox360 MPEG4 Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for Xbox360</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Xbox360 WMV Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>WMV profile optimized for Xbox360</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zune MPEG4 Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for Zune</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ProfileGroupLoader</name>
     <message>
         <source>Untitled</source>
@@ -76,6 +751,21 @@
     </message>
 </context>
 <context>
+    <name>QtTreePropertyBrowser</name>
+    <message>
+        <source>Property</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>QxLanguage</name>
     <message>
         <source>&amp;Language</source>
@@ -86,6 +776,280 @@
     <name>QxSkin</name>
     <message>
         <source>&amp;Skin</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SettingDialog</name>
+    <message>
+        <source>Advanced Settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Simple</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Video Size:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Video Size</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Video Quality:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Video Quality</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Audio Quality:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Audio Quality</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Advanced</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Apply To All</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SettingsWindow</name>
+    <message>
+        <source>General</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Picture Format</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Picture format.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Interval</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select how many seconds to capture one picture.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Video options</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Video Codec</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set the video codec (methods of compression for digital videos, e.g., MPEG-4, H.264 or WMV) which the encoding engine uses. Usually it is related to the output format you choose.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Video Size</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set frame size. The format is &apos;width x height&apos; like 320x240, 640x480 or 1920x1080 pixels. You can choose an similar size for your playback device screen resolution.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Video Bitrate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set the video bit rate in kilobit per second. This is the key factor that is related to the output file size and video quality -- the larger the bit rate, the better the video quality and the bigger the output file you will get, and vice versa.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Frame Rate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set how many frames should be displayed per second (FPS). Higher frame rate increases the smoothness when played back, and usually 25--30 frame per second can provide you with a very good viewing experience.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Aspect Ratio</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set width to height ratio according to the screen aspect of your playback device . (4:3, 16:9 or 1.3333, 1.7777).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Same Quality</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This function enables you to get good output video quality as the source. (Sometimes this function may bring you a large output file, or make the converting time pretty long.)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select zoom mode, that is how to deal with the blank edge when the aspect of the source and the destination is different.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Audio options</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Audio Codec</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set the audio codec (methods of compression for digital audio, e.g., MP3, PCM or AC3) which the encoding engine uses. Usually it is related to the output format you choose.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Audio Bitrate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set audio bitrate (in kbit/s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sample Rate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set the audio sampling frequency (the number of samples per second) (default = 44100 Hz).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set number of audio channels, 1(Mono), 2(Stereo) and 5.1(Dolby Digital) are commonly used for general digital audio.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set the output volume.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Disable Audio</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Disable audio</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Summary of the file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set the title</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Author</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set the author</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copyright</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set the copyright</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Comments</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set the comment</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Album</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Genre</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Composer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Orig. Artist</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Encoded by</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Url</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Year</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Expert</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Expert options</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Parameters</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -34,6 +34,681 @@
     </message>
 </context>
 <context>
+    <name>Profile</name>
+    <message>
+        <source>User Defined</source>
+        <translation>Personnalisé</translation>
+    </message>
+    <message>
+        <source>General Video</source>
+        <translation>Vidéo générale</translation>
+    </message>
+    <message>
+        <source>General Audio</source>
+        <translation>Audio général</translation>
+    </message>
+    <message>
+        <source>Android</source>
+        <translation>Android</translation>
+    </message>
+    <message>
+        <source>Apple TV</source>
+        <translation>Apple TV</translation>
+    </message>
+    <message>
+        <source>HD Video</source>
+        <translation>Vidéo HD</translation>
+    </message>
+    <message>
+        <source>iPad</source>
+        <translation>iPad</translation>
+    </message>
+    <message>
+        <source>iPhone</source>
+        <translation>iPhone</translation>
+    </message>
+    <message>
+        <source>iPod</source>
+        <translation>iPod</translation>
+    </message>
+    <message>
+        <source>Mobile Phone</source>
+        <translation>Téléphone mobile</translation>
+    </message>
+    <message>
+        <source>Picture and Animation</source>
+        <translation>Image et animation</translation>
+    </message>
+    <message>
+        <source>Portable Multimedia Device</source>
+        <translation>Appareil multimédia portable</translation>
+    </message>
+    <message>
+        <source>PS3</source>
+        <translation>PS3</translation>
+    </message>
+    <message>
+        <source>PSP</source>
+        <translation>PSP</translation>
+    </message>
+    <message>
+        <source>Xbox HD Video</source>
+        <translation>Vidéo HD Xbox</translation>
+    </message>
+    <message>
+        <source>Zune</source>
+        <translation>Zune</translation>
+    </message>
+    <message>
+        <source>ASF - Advanced Streaming Format</source>
+        <translation>ASF - Advanced Streaming Format</translation>
+    </message>
+    <message>
+        <source>Advanced Streaming Format, a Windows Media container.</source>
+        <translation>Advanced Streaming Format, un conteneur Windows Media.</translation>
+    </message>
+    <message>
+        <source>AVI - Audio-Video Interleaved</source>
+        <translation>AVI - Audio-Video Interleaved</translation>
+    </message>
+    <message>
+        <source>Audio-Video Interleaved, the classic Windows video format.</source>
+        <translation>Audio-Video Interleaved, le format vidéo classique de Windows.</translation>
+    </message>
+    <message>
+        <source>DivX Video</source>
+        <translation>Vidéo DivX</translation>
+    </message>
+    <message>
+        <source>DivX video in an AVI container.</source>
+        <translation>Vidéo DivX dans un conteneur AVI.</translation>
+    </message>
+    <message>
+        <source>DV - Digital Video format</source>
+        <translation>DV - Format vidéo numérique</translation>
+    </message>
+    <message>
+        <source>Digital Video format of camcorders.</source>
+        <translation>Format vidéo numérique des caméscopes.</translation>
+    </message>
+    <message>
+        <source>DVD Video</source>
+        <translation>Vidéo DVD</translation>
+    </message>
+    <message>
+        <source>MPEG-2 video for DVD players.</source>
+        <translation>Vidéo MPEG-2 pour lecteurs DVD.</translation>
+    </message>
+    <message>
+        <source>MOV - QuickTime</source>
+        <translation>MOV - QuickTime</translation>
+    </message>
+    <message>
+        <source>QuickTime movie format.</source>
+        <translation>Format de film QuickTime.</translation>
+    </message>
+    <message>
+        <source>MPEG4 Video</source>
+        <translation>Vidéo MPEG4</translation>
+    </message>
+    <message>
+        <source>MPEG-4 video format.</source>
+        <translation>Format vidéo MPEG-4.</translation>
+    </message>
+    <message>
+        <source>MPEG1 Video</source>
+        <translation>Vidéo MPEG1</translation>
+    </message>
+    <message>
+        <source>MPEG-1 video format.</source>
+        <translation>Format vidéo MPEG-1.</translation>
+    </message>
+    <message>
+        <source>MPEG2 Video</source>
+        <translation>Vidéo MPEG2</translation>
+    </message>
+    <message>
+        <source>MPEG-2 video format.</source>
+        <translation>Format vidéo MPEG-2.</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC Video</source>
+        <translation>Vidéo H.264/MPEG-4 AVC</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC video format.</source>
+        <translation>Format vidéo H.264/MPEG-4 AVC.</translation>
+    </message>
+    <message>
+        <source>RM - Real Video</source>
+        <translation>RM - Real Video</translation>
+    </message>
+    <message>
+        <source>RealVideo streaming format.</source>
+        <translation>Format de diffusion en continu RealVideo.</translation>
+    </message>
+    <message>
+        <source>VCD Video</source>
+        <translation>Vidéo VCD</translation>
+    </message>
+    <message>
+        <source>MPEG-1 video for Video CD players.</source>
+        <translation>Vidéo MPEG-1 pour lecteurs Vidéo CD.</translation>
+    </message>
+    <message>
+        <source>WMV - Windows Media Video</source>
+        <translation>WMV - Windows Media Video</translation>
+    </message>
+    <message>
+        <source>Windows Media Video format.</source>
+        <translation>Format Windows Media Video.</translation>
+    </message>
+    <message>
+        <source>Xvid Video</source>
+        <translation>Vidéo Xvid</translation>
+    </message>
+    <message>
+        <source>Xvid video in an AVI container.</source>
+        <translation>Vidéo Xvid dans un conteneur AVI.</translation>
+    </message>
+    <message>
+        <source>Matroska Video</source>
+        <translation>Vidéo Matroska</translation>
+    </message>
+    <message>
+        <source>Matroska video format.</source>
+        <translation>Format vidéo Matroska.</translation>
+    </message>
+    <message>
+        <source>WebM Video</source>
+        <translation>Vidéo WebM</translation>
+    </message>
+    <message>
+        <source>WebM video format for the web.</source>
+        <translation>Format vidéo WebM pour le Web.</translation>
+    </message>
+    <message>
+        <source>AC3 - Dolby Digital AC-3</source>
+        <translation>AC3 - Dolby Digital AC-3</translation>
+    </message>
+    <message>
+        <source>Dolby Digital AC-3 audio format.</source>
+        <translation>Format audio Dolby Digital AC-3.</translation>
+    </message>
+    <message>
+        <source>AIFF - Audio Interchange File Format</source>
+        <translation>AIFF - Audio Interchange File Format</translation>
+    </message>
+    <message>
+        <source>Audio Interchange File Format, uncompressed audio.</source>
+        <translation>Audio Interchange File Format, audio non compressé.</translation>
+    </message>
+    <message>
+        <source>ALAC - Apple Lossless Audio Codec</source>
+        <translation>ALAC - Apple Lossless Audio Codec</translation>
+    </message>
+    <message>
+        <source>Apple Lossless audio format.</source>
+        <translation>Format audio Apple Lossless.</translation>
+    </message>
+    <message>
+        <source>FLAC - Free Lossless Audio Codec</source>
+        <translation>FLAC - Free Lossless Audio Codec</translation>
+    </message>
+    <message>
+        <source>Free Lossless Audio Codec format.</source>
+        <translation>Format audio sans perte Free Lossless Audio Codec.</translation>
+    </message>
+    <message>
+        <source>SUN AU Format</source>
+        <translation>Format SUN AU</translation>
+    </message>
+    <message>
+        <source>Sun AU audio format.</source>
+        <translation>Format audio Sun AU.</translation>
+    </message>
+    <message>
+        <source>M4A - MPEG-4 Audio</source>
+        <translation>M4A - Audio MPEG-4</translation>
+    </message>
+    <message>
+        <source>MPEG-4 Audio format.</source>
+        <translation>Format audio MPEG-4.</translation>
+    </message>
+    <message>
+        <source>MP2 - MPEG Layer-2 Audio</source>
+        <translation>MP2 - Audio MPEG Layer-2</translation>
+    </message>
+    <message>
+        <source>MPEG Layer-2 audio format.</source>
+        <translation>Format audio MPEG Layer-2.</translation>
+    </message>
+    <message>
+        <source>MP3 - MPEG Layer-3 Audio</source>
+        <translation>MP3 - Audio MPEG Layer-3</translation>
+    </message>
+    <message>
+        <source>MPEG Layer-3 audio format.</source>
+        <translation>Format audio MPEG Layer-3.</translation>
+    </message>
+    <message>
+        <source>OGG - Ogg Vorbis Audio</source>
+        <translation>OGG - Audio Ogg Vorbis</translation>
+    </message>
+    <message>
+        <source>Ogg Vorbis audio format.</source>
+        <translation>Format audio Ogg Vorbis.</translation>
+    </message>
+    <message>
+        <source>RA - RealAudio</source>
+        <translation>RA - RealAudio</translation>
+    </message>
+    <message>
+        <source>RealAudio streaming format.</source>
+        <translation>Format de diffusion en continu RealAudio.</translation>
+    </message>
+    <message>
+        <source>WAV - Waveform Audio</source>
+        <translation>WAV - Waveform Audio</translation>
+    </message>
+    <message>
+        <source>Waveform audio format, uncompressed.</source>
+        <translation>Format audio Waveform, non compressé.</translation>
+    </message>
+    <message>
+        <source>WMA - Windows Media Audio</source>
+        <translation>WMA - Windows Media Audio</translation>
+    </message>
+    <message>
+        <source>Windows Media Audio format.</source>
+        <translation>Format Windows Media Audio.</translation>
+    </message>
+    <message>
+        <source>Android MPEG4 Video</source>
+        <translation>Vidéo MPEG4 pour Android</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for Android</source>
+        <translation>Profil MPEG4 optimisé pour Android</translation>
+    </message>
+    <message>
+        <source>Samsung Galaxy S3 H.264 Video</source>
+        <translation>Vidéo H.264 pour Samsung Galaxy S3</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for Galaxy S3</source>
+        <translation>Profil H.264/MPEG-4 AVC optimisé pour Galaxy S3</translation>
+    </message>
+    <message>
+        <source>Samsung Galaxy Tab MPEG4 Video</source>
+        <translation>Vidéo MPEG4 pour Samsung Galaxy Tab</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for Galaxy Tab</source>
+        <translation>Profil MPEG4 optimisé pour Galaxy Tab</translation>
+    </message>
+    <message>
+        <source>Apple TV H.264 Video</source>
+        <translation>Vidéo H.264 pour Apple TV</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for Apple TV</source>
+        <translation>Profil H.264/MPEG-4 AVC optimisé pour Apple TV</translation>
+    </message>
+    <message>
+        <source>Apple TV H.264 HD Video</source>
+        <translation>Vidéo HD H.264 pour Apple TV</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for Apple TV HD</source>
+        <translation>Profil H.264/MPEG-4 AVC optimisé pour Apple TV HD</translation>
+    </message>
+    <message>
+        <source>Apple TV 3 H.264 1080P Video</source>
+        <translation>Vidéo H.264 1080P pour Apple TV 3</translation>
+    </message>
+    <message>
+        <source>Apple TV MPEG4 Video</source>
+        <translation>Vidéo MPEG4 pour Apple TV</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for Apple TV</source>
+        <translation>Profil MPEG4 optimisé pour Apple TV</translation>
+    </message>
+    <message>
+        <source>HD ASF Video</source>
+        <translation>Vidéo HD ASF</translation>
+    </message>
+    <message>
+        <source>ASF profile optimized for HD players</source>
+        <translation>Profil ASF optimisé pour les lecteurs HD</translation>
+    </message>
+    <message>
+        <source>HD AVI Video</source>
+        <translation>Vidéo HD AVI</translation>
+    </message>
+    <message>
+        <source>MPEG4 AVI profile optimized for HD players</source>
+        <translation>Profil MPEG4 AVI optimisé pour les lecteurs HD</translation>
+    </message>
+    <message>
+        <source>HD H.264/MPEG-4 AVC Video</source>
+        <translation>Vidéo HD H.264/MPEG-4 AVC</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for HD players</source>
+        <translation>Profil H.264/MPEG-4 AVC optimisé pour les lecteurs HD</translation>
+    </message>
+    <message>
+        <source>HD Quick Time Video</source>
+        <translation>Vidéo HD QuickTime</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for HD players</source>
+        <translation>Profil MPEG4 optimisé pour les lecteurs HD</translation>
+    </message>
+    <message>
+        <source>MPEG2-PS HD Video</source>
+        <translation>Vidéo HD MPEG2-PS</translation>
+    </message>
+    <message>
+        <source>MPEG2 profile optimized for HD players</source>
+        <translation>Profil MPEG2 optimisé pour les lecteurs HD</translation>
+    </message>
+    <message>
+        <source>MPEG2-TS HD Video</source>
+        <translation>Vidéo HD MPEG2-TS</translation>
+    </message>
+    <message>
+        <source>MPEG4 HD Video</source>
+        <translation>Vidéo HD MPEG4</translation>
+    </message>
+    <message>
+        <source>RM HD Video</source>
+        <translation>Vidéo HD RM</translation>
+    </message>
+    <message>
+        <source>RealVideo profile optimized for HD players</source>
+        <translation>Profil RealVideo optimisé pour les lecteurs HD</translation>
+    </message>
+    <message>
+        <source>HD WMV Video</source>
+        <translation>Vidéo HD WMV</translation>
+    </message>
+    <message>
+        <source>WMV profile optimized for HD players</source>
+        <translation>Profil WMV optimisé pour les lecteurs HD</translation>
+    </message>
+    <message>
+        <source>XVID HD Video</source>
+        <translation>Vidéo HD XVID</translation>
+    </message>
+    <message>
+        <source>Xvid profile optimized for HD players</source>
+        <translation>Profil Xvid optimisé pour les lecteurs HD</translation>
+    </message>
+    <message>
+        <source>iPad H.264 Video</source>
+        <translation>Vidéo H.264 pour iPad</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for iPad</source>
+        <translation>Profil H.264/MPEG-4 AVC optimisé pour iPad</translation>
+    </message>
+    <message>
+        <source>iPad H.264 HD Video</source>
+        <translation>Vidéo HD H.264 pour iPad</translation>
+    </message>
+    <message>
+        <source>iPad MPEG4 Video</source>
+        <translation>Vidéo MPEG4 pour iPad</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for iPad</source>
+        <translation>Profil MPEG4 optimisé pour iPad</translation>
+    </message>
+    <message>
+        <source>iPad 2 H.264 Video</source>
+        <translation>Vidéo H.264 pour iPad 2</translation>
+    </message>
+    <message>
+        <source>iPad 2 H.264 HD Video</source>
+        <translation>Vidéo HD H.264 pour iPad 2</translation>
+    </message>
+    <message>
+        <source>iPad 2 MPEG4 Video</source>
+        <translation>Vidéo MPEG4 pour iPad 2</translation>
+    </message>
+    <message>
+        <source>iPad 3 1080P Video</source>
+        <translation>Vidéo 1080P pour iPad 3</translation>
+    </message>
+    <message>
+        <source>iPad mini H.264 Video</source>
+        <translation>Vidéo H.264 pour iPad mini</translation>
+    </message>
+    <message>
+        <source>iPhone H.264 Video</source>
+        <translation>Vidéo H.264 pour iPhone</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for iPhone</source>
+        <translation>Profil H.264/MPEG-4 AVC optimisé pour iPhone</translation>
+    </message>
+    <message>
+        <source>iPhone MPEG4 Video</source>
+        <translation>Vidéo MPEG4 pour iPhone</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for iPhone</source>
+        <translation>Profil MPEG4 optimisé pour iPhone</translation>
+    </message>
+    <message>
+        <source>iPhone 4 H.264 Video</source>
+        <translation>Vidéo H.264 pour iPhone 4</translation>
+    </message>
+    <message>
+        <source>iPhone 4 MPEG4 Video</source>
+        <translation>Vidéo MPEG4 pour iPhone 4</translation>
+    </message>
+    <message>
+        <source>iPhone 5 H.264 Video</source>
+        <translation>Vidéo H.264 pour iPhone 5</translation>
+    </message>
+    <message>
+        <source>iPod H.264 Video</source>
+        <translation>Vidéo H.264 pour iPod</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for iPod</source>
+        <translation>Profil H.264/MPEG-4 AVC optimisé pour iPod</translation>
+    </message>
+    <message>
+        <source>iPod MPEG4 Video</source>
+        <translation>Vidéo MPEG4 pour iPod</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for iPod</source>
+        <translation>Profil MPEG4 optimisé pour iPod</translation>
+    </message>
+    <message>
+        <source>iPod touch H.264 Video</source>
+        <translation>Vidéo H.264 pour iPod touch</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for iPod touch</source>
+        <translation>Profil H.264/MPEG-4 AVC optimisé pour iPod touch</translation>
+    </message>
+    <message>
+        <source>iPod touch MPEG4 Video</source>
+        <translation>Vidéo MPEG4 pour iPod touch</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for iPod touch</source>
+        <translation>Profil MPEG4 optimisé pour iPod touch</translation>
+    </message>
+    <message>
+        <source>iPod touch 4 H.264 Video</source>
+        <translation>Vidéo H.264 pour iPod touch 4</translation>
+    </message>
+    <message>
+        <source>iPod touch 4 MPEG4 Video</source>
+        <translation>Vidéo MPEG4 pour iPod touch 4</translation>
+    </message>
+    <message>
+        <source>Mobile Phone 3GP Video - Stereo</source>
+        <translation>Vidéo 3GP pour téléphone mobile - Stéréo</translation>
+    </message>
+    <message>
+        <source>3GP profile optimized for mobile phones</source>
+        <translation>Profil 3GP optimisé pour les téléphones mobiles</translation>
+    </message>
+    <message>
+        <source>Mobile Phone 3GP Video - Mono</source>
+        <translation>Vidéo 3GP pour téléphone mobile - Mono</translation>
+    </message>
+    <message>
+        <source>BlackBerry 3GP Video</source>
+        <translation>Vidéo 3GP pour BlackBerry</translation>
+    </message>
+    <message>
+        <source>BlackBerry AVI Video</source>
+        <translation>Vidéo AVI pour BlackBerry</translation>
+    </message>
+    <message>
+        <source>MPEG4 AVI profile optimized for mobile phones</source>
+        <translation>Profil MPEG4 AVI optimisé pour les téléphones mobiles</translation>
+    </message>
+    <message>
+        <source>BlackBerry MPEG4 Video</source>
+        <translation>Vidéo MPEG4 pour BlackBerry</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for mobile phones</source>
+        <translation>Profil MPEG4 optimisé pour les téléphones mobiles</translation>
+    </message>
+    <message>
+        <source>WMV Video for Mobile Phone</source>
+        <translation>Vidéo WMV pour téléphone mobile</translation>
+    </message>
+    <message>
+        <source>WMV profile optimized for mobile phones</source>
+        <translation>Profil WMV optimisé pour les téléphones mobiles</translation>
+    </message>
+    <message>
+        <source>FLV - Flash Video Format</source>
+        <translation>FLV - Format Flash Video</translation>
+    </message>
+    <message>
+        <source>Flash video format for web pages.</source>
+        <translation>Format vidéo Flash pour les pages Web.</translation>
+    </message>
+    <message>
+        <source>Picture - BMP format</source>
+        <translation>Image - Format BMP</translation>
+    </message>
+    <message>
+        <source>Pictures captured from the video as BMP files.</source>
+        <translation>Images capturées dans la vidéo et enregistrées en fichiers BMP.</translation>
+    </message>
+    <message>
+        <source>Picture - GIF Animation format</source>
+        <translation>Image - Format GIF animé</translation>
+    </message>
+    <message>
+        <source>An animated GIF picture made from the video.</source>
+        <translation>Une image GIF animée créée à partir de la vidéo.</translation>
+    </message>
+    <message>
+        <source>Picture - JPEG format</source>
+        <translation>Image - Format JPEG</translation>
+    </message>
+    <message>
+        <source>Pictures captured from the video as JPEG files.</source>
+        <translation>Images capturées dans la vidéo et enregistrées en fichiers JPEG.</translation>
+    </message>
+    <message>
+        <source>Picture - PNG format</source>
+        <translation>Image - Format PNG</translation>
+    </message>
+    <message>
+        <source>Pictures captured from the video as PNG files.</source>
+        <translation>Images capturées dans la vidéo et enregistrées en fichiers PNG.</translation>
+    </message>
+    <message>
+        <source>SWF - SWF Format</source>
+        <translation>SWF - Format SWF</translation>
+    </message>
+    <message>
+        <source>Shockwave Flash animation format.</source>
+        <translation>Format d&apos;animation Shockwave Flash.</translation>
+    </message>
+    <message>
+        <source>Archos MPEG4</source>
+        <translation>Archos MPEG4</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for portable players</source>
+        <translation>Profil MPEG4 optimisé pour les lecteurs portables</translation>
+    </message>
+    <message>
+        <source>Creative ZEN MPEG4 Video</source>
+        <translation>Vidéo MPEG4 pour Creative ZEN</translation>
+    </message>
+    <message>
+        <source>iRiver MPEG4 Video</source>
+        <translation>Vidéo MPEG4 pour iRiver</translation>
+    </message>
+    <message>
+        <source>PS3 H.264 Video</source>
+        <translation>Vidéo H.264 pour PS3</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for PS3</source>
+        <translation>Profil H.264/MPEG-4 AVC optimisé pour PS3</translation>
+    </message>
+    <message>
+        <source>PSP MPEG-4 Video</source>
+        <translation>Vidéo MPEG-4 pour PSP</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for PSP</source>
+        <translation>Profil MPEG4 optimisé pour PSP</translation>
+    </message>
+    <message>
+        <source>Xbox360 H.264 Video</source>
+        <translation>Vidéo H.264 pour Xbox360</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for Xbox360</source>
+        <translation>Profil H.264/MPEG-4 AVC optimisé pour Xbox360</translation>
+    </message>
+    <message>
+        <source>Xbox360 MPEG4 Video</source>
+        <translation>Vidéo MPEG4 pour Xbox360</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for Xbox360</source>
+        <translation>Profil MPEG4 optimisé pour Xbox360</translation>
+    </message>
+    <message>
+        <source>Xbox360 WMV Video</source>
+        <translation>Vidéo WMV pour Xbox360</translation>
+    </message>
+    <message>
+        <source>WMV profile optimized for Xbox360</source>
+        <translation>Profil WMV optimisé pour Xbox360</translation>
+    </message>
+    <message>
+        <source>Zune MPEG4 Video</source>
+        <translation>Vidéo MPEG4 pour Zune</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for Zune</source>
+        <translation>Profil MPEG4 optimisé pour Zune</translation>
+    </message>
+</context>
+<context>
     <name>ProfileGroupLoader</name>
     <message>
         <source>Untitled</source>
@@ -76,6 +751,21 @@
     </message>
 </context>
 <context>
+    <name>QtTreePropertyBrowser</name>
+    <message>
+        <source>Property</source>
+        <translation>Propriété</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valeur</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>Propriétés</translation>
+    </message>
+</context>
+<context>
     <name>QxLanguage</name>
     <message>
         <source>&amp;Language</source>
@@ -87,6 +777,280 @@
     <message>
         <source>&amp;Skin</source>
         <translation>&amp;Apparence</translation>
+    </message>
+</context>
+<context>
+    <name>SettingDialog</name>
+    <message>
+        <source>Advanced Settings</source>
+        <translation>Paramètres avancés</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Simple</source>
+        <translation>Simple</translation>
+    </message>
+    <message>
+        <source>Video Size:</source>
+        <translation>Taille vidéo :</translation>
+    </message>
+    <message>
+        <source>Video Size</source>
+        <translation>Taille vidéo</translation>
+    </message>
+    <message>
+        <source>Video Quality:</source>
+        <translation>Qualité vidéo :</translation>
+    </message>
+    <message>
+        <source>Video Quality</source>
+        <translation>Qualité vidéo</translation>
+    </message>
+    <message>
+        <source>Audio Quality:</source>
+        <translation>Qualité audio :</translation>
+    </message>
+    <message>
+        <source>Audio Quality</source>
+        <translation>Qualité audio</translation>
+    </message>
+    <message>
+        <source>Advanced</source>
+        <translation>Avancé</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Description</translation>
+    </message>
+    <message>
+        <source>Apply To All</source>
+        <translation>Appliquer à tous</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsWindow</name>
+    <message>
+        <source>General</source>
+        <translation>Général</translation>
+    </message>
+    <message>
+        <source>Picture Format</source>
+        <translation>Format de fichier</translation>
+    </message>
+    <message>
+        <source>Picture format.</source>
+        <translation>Format de fichier des images capturées.</translation>
+    </message>
+    <message>
+        <source>Interval</source>
+        <translation>Intervalle</translation>
+    </message>
+    <message>
+        <source>Select how many seconds to capture one picture.</source>
+        <translation>Indiquez l&apos;intervalle, en secondes, entre deux images capturées.</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>Vidéo</translation>
+    </message>
+    <message>
+        <source>Video options</source>
+        <translation>Options vidéo</translation>
+    </message>
+    <message>
+        <source>Video Codec</source>
+        <translation>Codec vidéo</translation>
+    </message>
+    <message>
+        <source>Set the video codec (methods of compression for digital videos, e.g., MPEG-4, H.264 or WMV) which the encoding engine uses. Usually it is related to the output format you choose.</source>
+        <translation>Définit le codec vidéo (méthode de compression de la vidéo numérique, par exemple MPEG-4, H.264 ou WMV) utilisé par le moteur d&apos;encodage. Il dépend généralement du format de sortie choisi.</translation>
+    </message>
+    <message>
+        <source>Video Size</source>
+        <translation>Taille de l&apos;image</translation>
+    </message>
+    <message>
+        <source>Set frame size. The format is &apos;width x height&apos; like 320x240, 640x480 or 1920x1080 pixels. You can choose an similar size for your playback device screen resolution.</source>
+        <translation>Définit la taille de l&apos;image, au format « largeur x hauteur », par exemple 320x240, 640x480 ou 1920x1080 pixels. Choisissez une taille proche de la résolution de l&apos;écran de votre appareil de lecture.</translation>
+    </message>
+    <message>
+        <source>Video Bitrate</source>
+        <translation>Débit vidéo</translation>
+    </message>
+    <message>
+        <source>Set the video bit rate in kilobit per second. This is the key factor that is related to the output file size and video quality -- the larger the bit rate, the better the video quality and the bigger the output file you will get, and vice versa.</source>
+        <translation>Définit le débit binaire vidéo en kilobits par seconde. C&apos;est le facteur déterminant pour la taille du fichier de sortie et la qualité vidéo : plus le débit est élevé, meilleure est la qualité et plus le fichier de sortie est volumineux, et inversement.</translation>
+    </message>
+    <message>
+        <source>Frame Rate</source>
+        <translation>Fréquence d&apos;images</translation>
+    </message>
+    <message>
+        <source>Set how many frames should be displayed per second (FPS). Higher frame rate increases the smoothness when played back, and usually 25--30 frame per second can provide you with a very good viewing experience.</source>
+        <translation>Définit le nombre d&apos;images affichées par seconde (i/s). Une fréquence d&apos;images plus élevée rend la lecture plus fluide ; en général, 25 à 30 images par seconde offrent déjà un très bon confort de visionnage.</translation>
+    </message>
+    <message>
+        <source>Aspect Ratio</source>
+        <translation>Format d&apos;image</translation>
+    </message>
+    <message>
+        <source>Set width to height ratio according to the screen aspect of your playback device . (4:3, 16:9 or 1.3333, 1.7777).</source>
+        <translation>Définit le rapport largeur/hauteur selon le format de l&apos;écran de votre appareil de lecture (4:3, 16:9 ou 1.3333, 1.7777).</translation>
+    </message>
+    <message>
+        <source>Same Quality</source>
+        <translation>Même qualité</translation>
+    </message>
+    <message>
+        <source>This function enables you to get good output video quality as the source. (Sometimes this function may bring you a large output file, or make the converting time pretty long.)</source>
+        <translation>Cette fonction permet d&apos;obtenir une vidéo de sortie d&apos;aussi bonne qualité que la source. (Elle peut parfois produire un fichier de sortie volumineux ou allonger nettement la durée de conversion.)</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Select zoom mode, that is how to deal with the blank edge when the aspect of the source and the destination is different.</source>
+        <translation>Choisissez le mode de zoom, c&apos;est-à-dire le traitement des bandes vides lorsque les proportions de la source et de la destination diffèrent.</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Audio options</source>
+        <translation>Options audio</translation>
+    </message>
+    <message>
+        <source>Audio Codec</source>
+        <translation>Codec audio</translation>
+    </message>
+    <message>
+        <source>Set the audio codec (methods of compression for digital audio, e.g., MP3, PCM or AC3) which the encoding engine uses. Usually it is related to the output format you choose.</source>
+        <translation>Définit le codec audio (méthode de compression de l&apos;audio numérique, par exemple MP3, PCM ou AC3) utilisé par le moteur d&apos;encodage. Il dépend généralement du format de sortie choisi.</translation>
+    </message>
+    <message>
+        <source>Audio Bitrate</source>
+        <translation>Débit audio</translation>
+    </message>
+    <message>
+        <source>Set audio bitrate (in kbit/s)</source>
+        <translation>Définit le débit binaire audio (en kbit/s)</translation>
+    </message>
+    <message>
+        <source>Sample Rate</source>
+        <translation>Échantillonnage</translation>
+    </message>
+    <message>
+        <source>Set the audio sampling frequency (the number of samples per second) (default = 44100 Hz).</source>
+        <translation>Définit la fréquence d&apos;échantillonnage audio, c&apos;est-à-dire le nombre d&apos;échantillons par seconde (par défaut : 44100 Hz).</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>Canaux</translation>
+    </message>
+    <message>
+        <source>Set number of audio channels, 1(Mono), 2(Stereo) and 5.1(Dolby Digital) are commonly used for general digital audio.</source>
+        <translation>Définit le nombre de canaux audio ; 1 (mono), 2 (stéréo) et 5.1 (Dolby Digital) sont les plus courants en audio numérique.</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volume</translation>
+    </message>
+    <message>
+        <source>Set the output volume.</source>
+        <translation>Définit le volume de sortie.</translation>
+    </message>
+    <message>
+        <source>Disable Audio</source>
+        <translation>Désactiver l&apos;audio</translation>
+    </message>
+    <message>
+        <source>Disable audio</source>
+        <translation>Désactive l&apos;audio dans le fichier de sortie</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Résumé</translation>
+    </message>
+    <message>
+        <source>Summary of the file</source>
+        <translation>Informations de résumé du fichier</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titre</translation>
+    </message>
+    <message>
+        <source>Set the title</source>
+        <translation>Définit le titre</translation>
+    </message>
+    <message>
+        <source>Author</source>
+        <translation>Auteur</translation>
+    </message>
+    <message>
+        <source>Set the author</source>
+        <translation>Définit l&apos;auteur</translation>
+    </message>
+    <message>
+        <source>Copyright</source>
+        <translation>Copyright</translation>
+    </message>
+    <message>
+        <source>Set the copyright</source>
+        <translation>Définit la mention de copyright</translation>
+    </message>
+    <message>
+        <source>Comments</source>
+        <translation>Commentaires</translation>
+    </message>
+    <message>
+        <source>Set the comment</source>
+        <translation>Définit le commentaire</translation>
+    </message>
+    <message>
+        <source>Album</source>
+        <translation>Album</translation>
+    </message>
+    <message>
+        <source>Genre</source>
+        <translation>Genre</translation>
+    </message>
+    <message>
+        <source>Composer</source>
+        <translation>Compositeur</translation>
+    </message>
+    <message>
+        <source>Orig. Artist</source>
+        <translation>Artiste orig.</translation>
+    </message>
+    <message>
+        <source>Encoded by</source>
+        <translation>Encodé par</translation>
+    </message>
+    <message>
+        <source>Url</source>
+        <translation>URL</translation>
+    </message>
+    <message>
+        <source>Year</source>
+        <translation>Année</translation>
+    </message>
+    <message>
+        <source>Expert</source>
+        <translation>Avancé</translation>
+    </message>
+    <message>
+        <source>Expert options</source>
+        <translation>Options avancées</translation>
+    </message>
+    <message>
+        <source>Parameters</source>
+        <translation>Paramètres</translation>
     </message>
 </context>
 <context>

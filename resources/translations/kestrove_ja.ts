@@ -34,6 +34,681 @@
     </message>
 </context>
 <context>
+    <name>Profile</name>
+    <message>
+        <source>User Defined</source>
+        <translation>ユーザー定義</translation>
+    </message>
+    <message>
+        <source>General Video</source>
+        <translation>一般ビデオ</translation>
+    </message>
+    <message>
+        <source>General Audio</source>
+        <translation>一般オーディオ</translation>
+    </message>
+    <message>
+        <source>Android</source>
+        <translation>Android</translation>
+    </message>
+    <message>
+        <source>Apple TV</source>
+        <translation>Apple TV</translation>
+    </message>
+    <message>
+        <source>HD Video</source>
+        <translation>HD ビデオ</translation>
+    </message>
+    <message>
+        <source>iPad</source>
+        <translation>iPad</translation>
+    </message>
+    <message>
+        <source>iPhone</source>
+        <translation>iPhone</translation>
+    </message>
+    <message>
+        <source>iPod</source>
+        <translation>iPod</translation>
+    </message>
+    <message>
+        <source>Mobile Phone</source>
+        <translation>携帯電話</translation>
+    </message>
+    <message>
+        <source>Picture and Animation</source>
+        <translation>画像とアニメーション</translation>
+    </message>
+    <message>
+        <source>Portable Multimedia Device</source>
+        <translation>ポータブルマルチメディア機器</translation>
+    </message>
+    <message>
+        <source>PS3</source>
+        <translation>PS3</translation>
+    </message>
+    <message>
+        <source>PSP</source>
+        <translation>PSP</translation>
+    </message>
+    <message>
+        <source>Xbox HD Video</source>
+        <translation>Xbox HD ビデオ</translation>
+    </message>
+    <message>
+        <source>Zune</source>
+        <translation>Zune</translation>
+    </message>
+    <message>
+        <source>ASF - Advanced Streaming Format</source>
+        <translation>ASF - Advanced Streaming Format</translation>
+    </message>
+    <message>
+        <source>Advanced Streaming Format, a Windows Media container.</source>
+        <translation>Advanced Streaming Format。Windows Media のコンテナー形式です。</translation>
+    </message>
+    <message>
+        <source>AVI - Audio-Video Interleaved</source>
+        <translation>AVI - Audio-Video Interleaved</translation>
+    </message>
+    <message>
+        <source>Audio-Video Interleaved, the classic Windows video format.</source>
+        <translation>Audio-Video Interleaved。Windows の定番のビデオ形式です。</translation>
+    </message>
+    <message>
+        <source>DivX Video</source>
+        <translation>DivX ビデオ</translation>
+    </message>
+    <message>
+        <source>DivX video in an AVI container.</source>
+        <translation>AVI コンテナーに格納した DivX ビデオ。</translation>
+    </message>
+    <message>
+        <source>DV - Digital Video format</source>
+        <translation>DV - デジタルビデオ形式</translation>
+    </message>
+    <message>
+        <source>Digital Video format of camcorders.</source>
+        <translation>ビデオカメラで使われるデジタルビデオ形式。</translation>
+    </message>
+    <message>
+        <source>DVD Video</source>
+        <translation>DVD ビデオ</translation>
+    </message>
+    <message>
+        <source>MPEG-2 video for DVD players.</source>
+        <translation>DVD プレーヤー用の MPEG-2 ビデオ。</translation>
+    </message>
+    <message>
+        <source>MOV - QuickTime</source>
+        <translation>MOV - QuickTime</translation>
+    </message>
+    <message>
+        <source>QuickTime movie format.</source>
+        <translation>QuickTime ムービー形式。</translation>
+    </message>
+    <message>
+        <source>MPEG4 Video</source>
+        <translation>MPEG4 ビデオ</translation>
+    </message>
+    <message>
+        <source>MPEG-4 video format.</source>
+        <translation>MPEG-4 ビデオ形式。</translation>
+    </message>
+    <message>
+        <source>MPEG1 Video</source>
+        <translation>MPEG1 ビデオ</translation>
+    </message>
+    <message>
+        <source>MPEG-1 video format.</source>
+        <translation>MPEG-1 ビデオ形式。</translation>
+    </message>
+    <message>
+        <source>MPEG2 Video</source>
+        <translation>MPEG2 ビデオ</translation>
+    </message>
+    <message>
+        <source>MPEG-2 video format.</source>
+        <translation>MPEG-2 ビデオ形式。</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC Video</source>
+        <translation>H.264/MPEG-4 AVC ビデオ</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC video format.</source>
+        <translation>H.264/MPEG-4 AVC ビデオ形式。</translation>
+    </message>
+    <message>
+        <source>RM - Real Video</source>
+        <translation>RM - Real Video</translation>
+    </message>
+    <message>
+        <source>RealVideo streaming format.</source>
+        <translation>RealVideo ストリーミング形式。</translation>
+    </message>
+    <message>
+        <source>VCD Video</source>
+        <translation>VCD ビデオ</translation>
+    </message>
+    <message>
+        <source>MPEG-1 video for Video CD players.</source>
+        <translation>ビデオ CD プレーヤー用の MPEG-1 ビデオ。</translation>
+    </message>
+    <message>
+        <source>WMV - Windows Media Video</source>
+        <translation>WMV - Windows Media Video</translation>
+    </message>
+    <message>
+        <source>Windows Media Video format.</source>
+        <translation>Windows Media Video 形式。</translation>
+    </message>
+    <message>
+        <source>Xvid Video</source>
+        <translation>Xvid ビデオ</translation>
+    </message>
+    <message>
+        <source>Xvid video in an AVI container.</source>
+        <translation>AVI コンテナーに格納した Xvid ビデオ。</translation>
+    </message>
+    <message>
+        <source>Matroska Video</source>
+        <translation>Matroska ビデオ</translation>
+    </message>
+    <message>
+        <source>Matroska video format.</source>
+        <translation>Matroska ビデオ形式。</translation>
+    </message>
+    <message>
+        <source>WebM Video</source>
+        <translation>WebM ビデオ</translation>
+    </message>
+    <message>
+        <source>WebM video format for the web.</source>
+        <translation>Web 向けの WebM ビデオ形式。</translation>
+    </message>
+    <message>
+        <source>AC3 - Dolby Digital AC-3</source>
+        <translation>AC3 - Dolby Digital AC-3</translation>
+    </message>
+    <message>
+        <source>Dolby Digital AC-3 audio format.</source>
+        <translation>Dolby Digital AC-3 オーディオ形式。</translation>
+    </message>
+    <message>
+        <source>AIFF - Audio Interchange File Format</source>
+        <translation>AIFF - Audio Interchange File Format</translation>
+    </message>
+    <message>
+        <source>Audio Interchange File Format, uncompressed audio.</source>
+        <translation>Audio Interchange File Format。非圧縮のオーディオです。</translation>
+    </message>
+    <message>
+        <source>ALAC - Apple Lossless Audio Codec</source>
+        <translation>ALAC - Apple Lossless Audio Codec</translation>
+    </message>
+    <message>
+        <source>Apple Lossless audio format.</source>
+        <translation>Apple Lossless オーディオ形式。</translation>
+    </message>
+    <message>
+        <source>FLAC - Free Lossless Audio Codec</source>
+        <translation>FLAC - Free Lossless Audio Codec</translation>
+    </message>
+    <message>
+        <source>Free Lossless Audio Codec format.</source>
+        <translation>Free Lossless Audio Codec 形式 (可逆圧縮)。</translation>
+    </message>
+    <message>
+        <source>SUN AU Format</source>
+        <translation>SUN AU 形式</translation>
+    </message>
+    <message>
+        <source>Sun AU audio format.</source>
+        <translation>Sun AU オーディオ形式。</translation>
+    </message>
+    <message>
+        <source>M4A - MPEG-4 Audio</source>
+        <translation>M4A - MPEG-4 オーディオ</translation>
+    </message>
+    <message>
+        <source>MPEG-4 Audio format.</source>
+        <translation>MPEG-4 オーディオ形式。</translation>
+    </message>
+    <message>
+        <source>MP2 - MPEG Layer-2 Audio</source>
+        <translation>MP2 - MPEG Layer-2 オーディオ</translation>
+    </message>
+    <message>
+        <source>MPEG Layer-2 audio format.</source>
+        <translation>MPEG Layer-2 オーディオ形式。</translation>
+    </message>
+    <message>
+        <source>MP3 - MPEG Layer-3 Audio</source>
+        <translation>MP3 - MPEG Layer-3 オーディオ</translation>
+    </message>
+    <message>
+        <source>MPEG Layer-3 audio format.</source>
+        <translation>MPEG Layer-3 オーディオ形式。</translation>
+    </message>
+    <message>
+        <source>OGG - Ogg Vorbis Audio</source>
+        <translation>OGG - Ogg Vorbis オーディオ</translation>
+    </message>
+    <message>
+        <source>Ogg Vorbis audio format.</source>
+        <translation>Ogg Vorbis オーディオ形式。</translation>
+    </message>
+    <message>
+        <source>RA - RealAudio</source>
+        <translation>RA - RealAudio</translation>
+    </message>
+    <message>
+        <source>RealAudio streaming format.</source>
+        <translation>RealAudio ストリーミング形式。</translation>
+    </message>
+    <message>
+        <source>WAV - Waveform Audio</source>
+        <translation>WAV - Waveform オーディオ</translation>
+    </message>
+    <message>
+        <source>Waveform audio format, uncompressed.</source>
+        <translation>非圧縮の Waveform オーディオ形式。</translation>
+    </message>
+    <message>
+        <source>WMA - Windows Media Audio</source>
+        <translation>WMA - Windows Media Audio</translation>
+    </message>
+    <message>
+        <source>Windows Media Audio format.</source>
+        <translation>Windows Media Audio 形式。</translation>
+    </message>
+    <message>
+        <source>Android MPEG4 Video</source>
+        <translation>Android MPEG4 ビデオ</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for Android</source>
+        <translation>Android 向けに最適化した MPEG4 プロファイル</translation>
+    </message>
+    <message>
+        <source>Samsung Galaxy S3 H.264 Video</source>
+        <translation>Samsung Galaxy S3 H.264 ビデオ</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for Galaxy S3</source>
+        <translation>Galaxy S3 向けに最適化した H.264/MPEG-4 AVC プロファイル</translation>
+    </message>
+    <message>
+        <source>Samsung Galaxy Tab MPEG4 Video</source>
+        <translation>Samsung Galaxy Tab MPEG4 ビデオ</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for Galaxy Tab</source>
+        <translation>Galaxy Tab 向けに最適化した MPEG4 プロファイル</translation>
+    </message>
+    <message>
+        <source>Apple TV H.264 Video</source>
+        <translation>Apple TV H.264 ビデオ</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for Apple TV</source>
+        <translation>Apple TV 向けに最適化した H.264/MPEG-4 AVC プロファイル</translation>
+    </message>
+    <message>
+        <source>Apple TV H.264 HD Video</source>
+        <translation>Apple TV H.264 HD ビデオ</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for Apple TV HD</source>
+        <translation>Apple TV HD 向けに最適化した H.264/MPEG-4 AVC プロファイル</translation>
+    </message>
+    <message>
+        <source>Apple TV 3 H.264 1080P Video</source>
+        <translation>Apple TV 3 H.264 1080P ビデオ</translation>
+    </message>
+    <message>
+        <source>Apple TV MPEG4 Video</source>
+        <translation>Apple TV MPEG4 ビデオ</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for Apple TV</source>
+        <translation>Apple TV 向けに最適化した MPEG4 プロファイル</translation>
+    </message>
+    <message>
+        <source>HD ASF Video</source>
+        <translation>HD ASF ビデオ</translation>
+    </message>
+    <message>
+        <source>ASF profile optimized for HD players</source>
+        <translation>HD プレーヤー向けに最適化した ASF プロファイル</translation>
+    </message>
+    <message>
+        <source>HD AVI Video</source>
+        <translation>HD AVI ビデオ</translation>
+    </message>
+    <message>
+        <source>MPEG4 AVI profile optimized for HD players</source>
+        <translation>HD プレーヤー向けに最適化した MPEG4 AVI プロファイル</translation>
+    </message>
+    <message>
+        <source>HD H.264/MPEG-4 AVC Video</source>
+        <translation>HD H.264/MPEG-4 AVC ビデオ</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for HD players</source>
+        <translation>HD プレーヤー向けに最適化した H.264/MPEG-4 AVC プロファイル</translation>
+    </message>
+    <message>
+        <source>HD Quick Time Video</source>
+        <translation>HD QuickTime ビデオ</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for HD players</source>
+        <translation>HD プレーヤー向けに最適化した MPEG4 プロファイル</translation>
+    </message>
+    <message>
+        <source>MPEG2-PS HD Video</source>
+        <translation>MPEG2-PS HD ビデオ</translation>
+    </message>
+    <message>
+        <source>MPEG2 profile optimized for HD players</source>
+        <translation>HD プレーヤー向けに最適化した MPEG2 プロファイル</translation>
+    </message>
+    <message>
+        <source>MPEG2-TS HD Video</source>
+        <translation>MPEG2-TS HD ビデオ</translation>
+    </message>
+    <message>
+        <source>MPEG4 HD Video</source>
+        <translation>MPEG4 HD ビデオ</translation>
+    </message>
+    <message>
+        <source>RM HD Video</source>
+        <translation>RM HD ビデオ</translation>
+    </message>
+    <message>
+        <source>RealVideo profile optimized for HD players</source>
+        <translation>HD プレーヤー向けに最適化した RealVideo プロファイル</translation>
+    </message>
+    <message>
+        <source>HD WMV Video</source>
+        <translation>HD WMV ビデオ</translation>
+    </message>
+    <message>
+        <source>WMV profile optimized for HD players</source>
+        <translation>HD プレーヤー向けに最適化した WMV プロファイル</translation>
+    </message>
+    <message>
+        <source>XVID HD Video</source>
+        <translation>XVID HD ビデオ</translation>
+    </message>
+    <message>
+        <source>Xvid profile optimized for HD players</source>
+        <translation>HD プレーヤー向けに最適化した Xvid プロファイル</translation>
+    </message>
+    <message>
+        <source>iPad H.264 Video</source>
+        <translation>iPad H.264 ビデオ</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for iPad</source>
+        <translation>iPad 向けに最適化した H.264/MPEG-4 AVC プロファイル</translation>
+    </message>
+    <message>
+        <source>iPad H.264 HD Video</source>
+        <translation>iPad H.264 HD ビデオ</translation>
+    </message>
+    <message>
+        <source>iPad MPEG4 Video</source>
+        <translation>iPad MPEG4 ビデオ</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for iPad</source>
+        <translation>iPad 向けに最適化した MPEG4 プロファイル</translation>
+    </message>
+    <message>
+        <source>iPad 2 H.264 Video</source>
+        <translation>iPad 2 H.264 ビデオ</translation>
+    </message>
+    <message>
+        <source>iPad 2 H.264 HD Video</source>
+        <translation>iPad 2 H.264 HD ビデオ</translation>
+    </message>
+    <message>
+        <source>iPad 2 MPEG4 Video</source>
+        <translation>iPad 2 MPEG4 ビデオ</translation>
+    </message>
+    <message>
+        <source>iPad 3 1080P Video</source>
+        <translation>iPad 3 1080P ビデオ</translation>
+    </message>
+    <message>
+        <source>iPad mini H.264 Video</source>
+        <translation>iPad mini H.264 ビデオ</translation>
+    </message>
+    <message>
+        <source>iPhone H.264 Video</source>
+        <translation>iPhone H.264 ビデオ</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for iPhone</source>
+        <translation>iPhone 向けに最適化した H.264/MPEG-4 AVC プロファイル</translation>
+    </message>
+    <message>
+        <source>iPhone MPEG4 Video</source>
+        <translation>iPhone MPEG4 ビデオ</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for iPhone</source>
+        <translation>iPhone 向けに最適化した MPEG4 プロファイル</translation>
+    </message>
+    <message>
+        <source>iPhone 4 H.264 Video</source>
+        <translation>iPhone 4 H.264 ビデオ</translation>
+    </message>
+    <message>
+        <source>iPhone 4 MPEG4 Video</source>
+        <translation>iPhone 4 MPEG4 ビデオ</translation>
+    </message>
+    <message>
+        <source>iPhone 5 H.264 Video</source>
+        <translation>iPhone 5 H.264 ビデオ</translation>
+    </message>
+    <message>
+        <source>iPod H.264 Video</source>
+        <translation>iPod H.264 ビデオ</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for iPod</source>
+        <translation>iPod 向けに最適化した H.264/MPEG-4 AVC プロファイル</translation>
+    </message>
+    <message>
+        <source>iPod MPEG4 Video</source>
+        <translation>iPod MPEG4 ビデオ</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for iPod</source>
+        <translation>iPod 向けに最適化した MPEG4 プロファイル</translation>
+    </message>
+    <message>
+        <source>iPod touch H.264 Video</source>
+        <translation>iPod touch H.264 ビデオ</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for iPod touch</source>
+        <translation>iPod touch 向けに最適化した H.264/MPEG-4 AVC プロファイル</translation>
+    </message>
+    <message>
+        <source>iPod touch MPEG4 Video</source>
+        <translation>iPod touch MPEG4 ビデオ</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for iPod touch</source>
+        <translation>iPod touch 向けに最適化した MPEG4 プロファイル</translation>
+    </message>
+    <message>
+        <source>iPod touch 4 H.264 Video</source>
+        <translation>iPod touch 4 H.264 ビデオ</translation>
+    </message>
+    <message>
+        <source>iPod touch 4 MPEG4 Video</source>
+        <translation>iPod touch 4 MPEG4 ビデオ</translation>
+    </message>
+    <message>
+        <source>Mobile Phone 3GP Video - Stereo</source>
+        <translation>携帯電話用 3GP ビデオ - ステレオ</translation>
+    </message>
+    <message>
+        <source>3GP profile optimized for mobile phones</source>
+        <translation>携帯電話向けに最適化した 3GP プロファイル</translation>
+    </message>
+    <message>
+        <source>Mobile Phone 3GP Video - Mono</source>
+        <translation>携帯電話用 3GP ビデオ - モノラル</translation>
+    </message>
+    <message>
+        <source>BlackBerry 3GP Video</source>
+        <translation>BlackBerry 3GP ビデオ</translation>
+    </message>
+    <message>
+        <source>BlackBerry AVI Video</source>
+        <translation>BlackBerry AVI ビデオ</translation>
+    </message>
+    <message>
+        <source>MPEG4 AVI profile optimized for mobile phones</source>
+        <translation>携帯電話向けに最適化した MPEG4 AVI プロファイル</translation>
+    </message>
+    <message>
+        <source>BlackBerry MPEG4 Video</source>
+        <translation>BlackBerry MPEG4 ビデオ</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for mobile phones</source>
+        <translation>携帯電話向けに最適化した MPEG4 プロファイル</translation>
+    </message>
+    <message>
+        <source>WMV Video for Mobile Phone</source>
+        <translation>携帯電話用 WMV ビデオ</translation>
+    </message>
+    <message>
+        <source>WMV profile optimized for mobile phones</source>
+        <translation>携帯電話向けに最適化した WMV プロファイル</translation>
+    </message>
+    <message>
+        <source>FLV - Flash Video Format</source>
+        <translation>FLV - Flash ビデオ形式</translation>
+    </message>
+    <message>
+        <source>Flash video format for web pages.</source>
+        <translation>Web ページ用の Flash ビデオ形式。</translation>
+    </message>
+    <message>
+        <source>Picture - BMP format</source>
+        <translation>画像 - BMP 形式</translation>
+    </message>
+    <message>
+        <source>Pictures captured from the video as BMP files.</source>
+        <translation>ビデオから取り込んだ画像を BMP ファイルとして保存します。</translation>
+    </message>
+    <message>
+        <source>Picture - GIF Animation format</source>
+        <translation>画像 - GIF アニメーション形式</translation>
+    </message>
+    <message>
+        <source>An animated GIF picture made from the video.</source>
+        <translation>ビデオから作成するアニメーション GIF 画像。</translation>
+    </message>
+    <message>
+        <source>Picture - JPEG format</source>
+        <translation>画像 - JPEG 形式</translation>
+    </message>
+    <message>
+        <source>Pictures captured from the video as JPEG files.</source>
+        <translation>ビデオから取り込んだ画像を JPEG ファイルとして保存します。</translation>
+    </message>
+    <message>
+        <source>Picture - PNG format</source>
+        <translation>画像 - PNG 形式</translation>
+    </message>
+    <message>
+        <source>Pictures captured from the video as PNG files.</source>
+        <translation>ビデオから取り込んだ画像を PNG ファイルとして保存します。</translation>
+    </message>
+    <message>
+        <source>SWF - SWF Format</source>
+        <translation>SWF - SWF 形式</translation>
+    </message>
+    <message>
+        <source>Shockwave Flash animation format.</source>
+        <translation>Shockwave Flash アニメーション形式。</translation>
+    </message>
+    <message>
+        <source>Archos MPEG4</source>
+        <translation>Archos MPEG4</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for portable players</source>
+        <translation>ポータブルプレーヤー向けに最適化した MPEG4 プロファイル</translation>
+    </message>
+    <message>
+        <source>Creative ZEN MPEG4 Video</source>
+        <translation>Creative ZEN MPEG4 ビデオ</translation>
+    </message>
+    <message>
+        <source>iRiver MPEG4 Video</source>
+        <translation>iRiver MPEG4 ビデオ</translation>
+    </message>
+    <message>
+        <source>PS3 H.264 Video</source>
+        <translation>PS3 H.264 ビデオ</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for PS3</source>
+        <translation>PS3 向けに最適化した H.264/MPEG-4 AVC プロファイル</translation>
+    </message>
+    <message>
+        <source>PSP MPEG-4 Video</source>
+        <translation>PSP MPEG-4 ビデオ</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for PSP</source>
+        <translation>PSP 向けに最適化した MPEG4 プロファイル</translation>
+    </message>
+    <message>
+        <source>Xbox360 H.264 Video</source>
+        <translation>Xbox360 H.264 ビデオ</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for Xbox360</source>
+        <translation>Xbox360 向けに最適化した H.264/MPEG-4 AVC プロファイル</translation>
+    </message>
+    <message>
+        <source>Xbox360 MPEG4 Video</source>
+        <translation>Xbox360 MPEG4 ビデオ</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for Xbox360</source>
+        <translation>Xbox360 向けに最適化した MPEG4 プロファイル</translation>
+    </message>
+    <message>
+        <source>Xbox360 WMV Video</source>
+        <translation>Xbox360 WMV ビデオ</translation>
+    </message>
+    <message>
+        <source>WMV profile optimized for Xbox360</source>
+        <translation>Xbox360 向けに最適化した WMV プロファイル</translation>
+    </message>
+    <message>
+        <source>Zune MPEG4 Video</source>
+        <translation>Zune MPEG4 ビデオ</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for Zune</source>
+        <translation>Zune 向けに最適化した MPEG4 プロファイル</translation>
+    </message>
+</context>
+<context>
     <name>ProfileGroupLoader</name>
     <message>
         <source>Untitled</source>
@@ -76,6 +751,21 @@
     </message>
 </context>
 <context>
+    <name>QtTreePropertyBrowser</name>
+    <message>
+        <source>Property</source>
+        <translation>プロパティ</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>値</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>プロパティ一覧</translation>
+    </message>
+</context>
+<context>
     <name>QxLanguage</name>
     <message>
         <source>&amp;Language</source>
@@ -87,6 +777,280 @@
     <message>
         <source>&amp;Skin</source>
         <translation>スキン(&amp;S)</translation>
+    </message>
+</context>
+<context>
+    <name>SettingDialog</name>
+    <message>
+        <source>Advanced Settings</source>
+        <translation>詳細設定</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Simple</source>
+        <translation>シンプル</translation>
+    </message>
+    <message>
+        <source>Video Size:</source>
+        <translation>ビデオサイズ:</translation>
+    </message>
+    <message>
+        <source>Video Size</source>
+        <translation>ビデオサイズ</translation>
+    </message>
+    <message>
+        <source>Video Quality:</source>
+        <translation>ビデオ品質:</translation>
+    </message>
+    <message>
+        <source>Video Quality</source>
+        <translation>ビデオ品質</translation>
+    </message>
+    <message>
+        <source>Audio Quality:</source>
+        <translation>オーディオ品質:</translation>
+    </message>
+    <message>
+        <source>Audio Quality</source>
+        <translation>オーディオ品質</translation>
+    </message>
+    <message>
+        <source>Advanced</source>
+        <translation>詳細</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>説明</translation>
+    </message>
+    <message>
+        <source>Apply To All</source>
+        <translation>すべてに適用</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsWindow</name>
+    <message>
+        <source>General</source>
+        <translation>全般</translation>
+    </message>
+    <message>
+        <source>Picture Format</source>
+        <translation>画像形式</translation>
+    </message>
+    <message>
+        <source>Picture format.</source>
+        <translation>取り込んだ画像のファイル形式。</translation>
+    </message>
+    <message>
+        <source>Interval</source>
+        <translation>間隔</translation>
+    </message>
+    <message>
+        <source>Select how many seconds to capture one picture.</source>
+        <translation>何秒ごとに画像を 1 枚取り込むかを指定します。</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>ビデオ</translation>
+    </message>
+    <message>
+        <source>Video options</source>
+        <translation>ビデオのオプション</translation>
+    </message>
+    <message>
+        <source>Video Codec</source>
+        <translation>ビデオコーデック</translation>
+    </message>
+    <message>
+        <source>Set the video codec (methods of compression for digital videos, e.g., MPEG-4, H.264 or WMV) which the encoding engine uses. Usually it is related to the output format you choose.</source>
+        <translation>エンコードエンジンが使用するビデオコーデック (デジタルビデオの圧縮方式。MPEG-4、H.264、WMV など) を設定します。通常は選択した出力形式によって決まります。</translation>
+    </message>
+    <message>
+        <source>Video Size</source>
+        <translation>ビデオサイズ</translation>
+    </message>
+    <message>
+        <source>Set frame size. The format is &apos;width x height&apos; like 320x240, 640x480 or 1920x1080 pixels. You can choose an similar size for your playback device screen resolution.</source>
+        <translation>フレームサイズを設定します。「幅 x 高さ」の形式で、320x240、640x480、1920x1080 ピクセルのように指定します。再生デバイスの画面解像度に近いサイズを選んでください。</translation>
+    </message>
+    <message>
+        <source>Video Bitrate</source>
+        <translation>ビデオビットレート</translation>
+    </message>
+    <message>
+        <source>Set the video bit rate in kilobit per second. This is the key factor that is related to the output file size and video quality -- the larger the bit rate, the better the video quality and the bigger the output file you will get, and vice versa.</source>
+        <translation>ビデオのビットレートをキロビット毎秒で設定します。出力ファイルのサイズと画質を左右する最も重要な要素で、ビットレートが大きいほど画質は向上し、出力ファイルも大きくなります。小さくするとその逆になります。</translation>
+    </message>
+    <message>
+        <source>Frame Rate</source>
+        <translation>フレームレート</translation>
+    </message>
+    <message>
+        <source>Set how many frames should be displayed per second (FPS). Higher frame rate increases the smoothness when played back, and usually 25--30 frame per second can provide you with a very good viewing experience.</source>
+        <translation>1 秒間に表示するフレーム数 (FPS) を設定します。フレームレートが高いほど再生が滑らかになります。通常は 25～30 フレーム/秒で十分に快適に視聴できます。</translation>
+    </message>
+    <message>
+        <source>Aspect Ratio</source>
+        <translation>アスペクト比</translation>
+    </message>
+    <message>
+        <source>Set width to height ratio according to the screen aspect of your playback device . (4:3, 16:9 or 1.3333, 1.7777).</source>
+        <translation>再生デバイスの画面に合わせて、幅と高さの比率を設定します (4:3、16:9 または 1.3333、1.7777)。</translation>
+    </message>
+    <message>
+        <source>Same Quality</source>
+        <translation>ソースと同画質</translation>
+    </message>
+    <message>
+        <source>This function enables you to get good output video quality as the source. (Sometimes this function may bring you a large output file, or make the converting time pretty long.)</source>
+        <translation>ソースと同等の画質でビデオを出力します。(出力ファイルが大きくなったり、変換にかなり時間がかかったりする場合があります。)</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>ズーム</translation>
+    </message>
+    <message>
+        <source>Select zoom mode, that is how to deal with the blank edge when the aspect of the source and the destination is different.</source>
+        <translation>ズームモードを選択します。ソースと出力先のアスペクト比が異なるときに生じる余白の扱い方を決めます。</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>音声</translation>
+    </message>
+    <message>
+        <source>Audio options</source>
+        <translation>音声のオプション</translation>
+    </message>
+    <message>
+        <source>Audio Codec</source>
+        <translation>音声コーデック</translation>
+    </message>
+    <message>
+        <source>Set the audio codec (methods of compression for digital audio, e.g., MP3, PCM or AC3) which the encoding engine uses. Usually it is related to the output format you choose.</source>
+        <translation>エンコードエンジンが使用する音声コーデック (デジタル音声の圧縮方式。MP3、PCM、AC3 など) を設定します。通常は選択した出力形式によって決まります。</translation>
+    </message>
+    <message>
+        <source>Audio Bitrate</source>
+        <translation>音声ビットレート</translation>
+    </message>
+    <message>
+        <source>Set audio bitrate (in kbit/s)</source>
+        <translation>音声のビットレートを設定します (kbit/s 単位)</translation>
+    </message>
+    <message>
+        <source>Sample Rate</source>
+        <translation>サンプルレート</translation>
+    </message>
+    <message>
+        <source>Set the audio sampling frequency (the number of samples per second) (default = 44100 Hz).</source>
+        <translation>音声のサンプリング周波数 (1 秒あたりのサンプル数) を設定します (既定値 = 44100 Hz)。</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>チャンネル</translation>
+    </message>
+    <message>
+        <source>Set number of audio channels, 1(Mono), 2(Stereo) and 5.1(Dolby Digital) are commonly used for general digital audio.</source>
+        <translation>音声のチャンネル数を設定します。一般的なデジタル音声では 1 (モノラル)、2 (ステレオ)、5.1 (Dolby Digital) がよく使われます。</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>音量</translation>
+    </message>
+    <message>
+        <source>Set the output volume.</source>
+        <translation>出力の音量を設定します。</translation>
+    </message>
+    <message>
+        <source>Disable Audio</source>
+        <translation>音声を無効化</translation>
+    </message>
+    <message>
+        <source>Disable audio</source>
+        <translation>音声トラックなしで出力します</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>概要</translation>
+    </message>
+    <message>
+        <source>Summary of the file</source>
+        <translation>ファイルの概要情報</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>タイトル</translation>
+    </message>
+    <message>
+        <source>Set the title</source>
+        <translation>タイトルを設定します</translation>
+    </message>
+    <message>
+        <source>Author</source>
+        <translation>作成者</translation>
+    </message>
+    <message>
+        <source>Set the author</source>
+        <translation>作成者を設定します</translation>
+    </message>
+    <message>
+        <source>Copyright</source>
+        <translation>著作権</translation>
+    </message>
+    <message>
+        <source>Set the copyright</source>
+        <translation>著作権情報を設定します</translation>
+    </message>
+    <message>
+        <source>Comments</source>
+        <translation>コメント</translation>
+    </message>
+    <message>
+        <source>Set the comment</source>
+        <translation>コメントを設定します</translation>
+    </message>
+    <message>
+        <source>Album</source>
+        <translation>アルバム</translation>
+    </message>
+    <message>
+        <source>Genre</source>
+        <translation>ジャンル</translation>
+    </message>
+    <message>
+        <source>Composer</source>
+        <translation>作曲者</translation>
+    </message>
+    <message>
+        <source>Orig. Artist</source>
+        <translation>オリジナルアーティスト</translation>
+    </message>
+    <message>
+        <source>Encoded by</source>
+        <translation>エンコード者</translation>
+    </message>
+    <message>
+        <source>Url</source>
+        <translation>URL</translation>
+    </message>
+    <message>
+        <source>Year</source>
+        <translation>年</translation>
+    </message>
+    <message>
+        <source>Expert</source>
+        <translation>詳細設定</translation>
+    </message>
+    <message>
+        <source>Expert options</source>
+        <translation>上級者向けのオプション</translation>
+    </message>
+    <message>
+        <source>Parameters</source>
+        <translation>パラメーター</translation>
     </message>
 </context>
 <context>

@@ -34,6 +34,681 @@
     </message>
 </context>
 <context>
+    <name>Profile</name>
+    <message>
+        <source>User Defined</source>
+        <translation>用户自定义</translation>
+    </message>
+    <message>
+        <source>General Video</source>
+        <translation>常用视频</translation>
+    </message>
+    <message>
+        <source>General Audio</source>
+        <translation>常用音频</translation>
+    </message>
+    <message>
+        <source>Android</source>
+        <translation>Android</translation>
+    </message>
+    <message>
+        <source>Apple TV</source>
+        <translation>Apple TV</translation>
+    </message>
+    <message>
+        <source>HD Video</source>
+        <translation>高清视频</translation>
+    </message>
+    <message>
+        <source>iPad</source>
+        <translation>iPad</translation>
+    </message>
+    <message>
+        <source>iPhone</source>
+        <translation>iPhone</translation>
+    </message>
+    <message>
+        <source>iPod</source>
+        <translation>iPod</translation>
+    </message>
+    <message>
+        <source>Mobile Phone</source>
+        <translation>手机</translation>
+    </message>
+    <message>
+        <source>Picture and Animation</source>
+        <translation>图片和动画</translation>
+    </message>
+    <message>
+        <source>Portable Multimedia Device</source>
+        <translation>便携式多媒体设备</translation>
+    </message>
+    <message>
+        <source>PS3</source>
+        <translation>PS3</translation>
+    </message>
+    <message>
+        <source>PSP</source>
+        <translation>PSP</translation>
+    </message>
+    <message>
+        <source>Xbox HD Video</source>
+        <translation>Xbox 高清视频</translation>
+    </message>
+    <message>
+        <source>Zune</source>
+        <translation>Zune</translation>
+    </message>
+    <message>
+        <source>ASF - Advanced Streaming Format</source>
+        <translation>ASF - Advanced Streaming Format</translation>
+    </message>
+    <message>
+        <source>Advanced Streaming Format, a Windows Media container.</source>
+        <translation>Advanced Streaming Format，一种 Windows Media 容器格式。</translation>
+    </message>
+    <message>
+        <source>AVI - Audio-Video Interleaved</source>
+        <translation>AVI - Audio-Video Interleaved</translation>
+    </message>
+    <message>
+        <source>Audio-Video Interleaved, the classic Windows video format.</source>
+        <translation>Audio-Video Interleaved，经典的 Windows 视频格式。</translation>
+    </message>
+    <message>
+        <source>DivX Video</source>
+        <translation>DivX 视频</translation>
+    </message>
+    <message>
+        <source>DivX video in an AVI container.</source>
+        <translation>封装在 AVI 容器中的 DivX 视频。</translation>
+    </message>
+    <message>
+        <source>DV - Digital Video format</source>
+        <translation>DV - 数字视频格式</translation>
+    </message>
+    <message>
+        <source>Digital Video format of camcorders.</source>
+        <translation>摄像机使用的数字视频格式。</translation>
+    </message>
+    <message>
+        <source>DVD Video</source>
+        <translation>DVD 视频</translation>
+    </message>
+    <message>
+        <source>MPEG-2 video for DVD players.</source>
+        <translation>适用于 DVD 播放机的 MPEG-2 视频。</translation>
+    </message>
+    <message>
+        <source>MOV - QuickTime</source>
+        <translation>MOV - QuickTime</translation>
+    </message>
+    <message>
+        <source>QuickTime movie format.</source>
+        <translation>QuickTime 影片格式。</translation>
+    </message>
+    <message>
+        <source>MPEG4 Video</source>
+        <translation>MPEG4 视频</translation>
+    </message>
+    <message>
+        <source>MPEG-4 video format.</source>
+        <translation>MPEG-4 视频格式。</translation>
+    </message>
+    <message>
+        <source>MPEG1 Video</source>
+        <translation>MPEG1 视频</translation>
+    </message>
+    <message>
+        <source>MPEG-1 video format.</source>
+        <translation>MPEG-1 视频格式。</translation>
+    </message>
+    <message>
+        <source>MPEG2 Video</source>
+        <translation>MPEG2 视频</translation>
+    </message>
+    <message>
+        <source>MPEG-2 video format.</source>
+        <translation>MPEG-2 视频格式。</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC Video</source>
+        <translation>H.264/MPEG-4 AVC 视频</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC video format.</source>
+        <translation>H.264/MPEG-4 AVC 视频格式。</translation>
+    </message>
+    <message>
+        <source>RM - Real Video</source>
+        <translation>RM - Real Video</translation>
+    </message>
+    <message>
+        <source>RealVideo streaming format.</source>
+        <translation>RealVideo 流媒体格式。</translation>
+    </message>
+    <message>
+        <source>VCD Video</source>
+        <translation>VCD 视频</translation>
+    </message>
+    <message>
+        <source>MPEG-1 video for Video CD players.</source>
+        <translation>适用于 VCD 播放机的 MPEG-1 视频。</translation>
+    </message>
+    <message>
+        <source>WMV - Windows Media Video</source>
+        <translation>WMV - Windows Media Video</translation>
+    </message>
+    <message>
+        <source>Windows Media Video format.</source>
+        <translation>Windows Media Video 格式。</translation>
+    </message>
+    <message>
+        <source>Xvid Video</source>
+        <translation>Xvid 视频</translation>
+    </message>
+    <message>
+        <source>Xvid video in an AVI container.</source>
+        <translation>封装在 AVI 容器中的 Xvid 视频。</translation>
+    </message>
+    <message>
+        <source>Matroska Video</source>
+        <translation>Matroska 视频</translation>
+    </message>
+    <message>
+        <source>Matroska video format.</source>
+        <translation>Matroska 视频格式。</translation>
+    </message>
+    <message>
+        <source>WebM Video</source>
+        <translation>WebM 视频</translation>
+    </message>
+    <message>
+        <source>WebM video format for the web.</source>
+        <translation>适用于网页的 WebM 视频格式。</translation>
+    </message>
+    <message>
+        <source>AC3 - Dolby Digital AC-3</source>
+        <translation>AC3 - Dolby Digital AC-3</translation>
+    </message>
+    <message>
+        <source>Dolby Digital AC-3 audio format.</source>
+        <translation>Dolby Digital AC-3 音频格式。</translation>
+    </message>
+    <message>
+        <source>AIFF - Audio Interchange File Format</source>
+        <translation>AIFF - Audio Interchange File Format</translation>
+    </message>
+    <message>
+        <source>Audio Interchange File Format, uncompressed audio.</source>
+        <translation>Audio Interchange File Format，无压缩音频。</translation>
+    </message>
+    <message>
+        <source>ALAC - Apple Lossless Audio Codec</source>
+        <translation>ALAC - Apple Lossless Audio Codec</translation>
+    </message>
+    <message>
+        <source>Apple Lossless audio format.</source>
+        <translation>Apple Lossless 音频格式。</translation>
+    </message>
+    <message>
+        <source>FLAC - Free Lossless Audio Codec</source>
+        <translation>FLAC - Free Lossless Audio Codec</translation>
+    </message>
+    <message>
+        <source>Free Lossless Audio Codec format.</source>
+        <translation>Free Lossless Audio Codec 无损音频格式。</translation>
+    </message>
+    <message>
+        <source>SUN AU Format</source>
+        <translation>SUN AU 格式</translation>
+    </message>
+    <message>
+        <source>Sun AU audio format.</source>
+        <translation>Sun AU 音频格式。</translation>
+    </message>
+    <message>
+        <source>M4A - MPEG-4 Audio</source>
+        <translation>M4A - MPEG-4 音频</translation>
+    </message>
+    <message>
+        <source>MPEG-4 Audio format.</source>
+        <translation>MPEG-4 音频格式。</translation>
+    </message>
+    <message>
+        <source>MP2 - MPEG Layer-2 Audio</source>
+        <translation>MP2 - MPEG Layer-2 音频</translation>
+    </message>
+    <message>
+        <source>MPEG Layer-2 audio format.</source>
+        <translation>MPEG Layer-2 音频格式。</translation>
+    </message>
+    <message>
+        <source>MP3 - MPEG Layer-3 Audio</source>
+        <translation>MP3 - MPEG Layer-3 音频</translation>
+    </message>
+    <message>
+        <source>MPEG Layer-3 audio format.</source>
+        <translation>MPEG Layer-3 音频格式。</translation>
+    </message>
+    <message>
+        <source>OGG - Ogg Vorbis Audio</source>
+        <translation>OGG - Ogg Vorbis 音频</translation>
+    </message>
+    <message>
+        <source>Ogg Vorbis audio format.</source>
+        <translation>Ogg Vorbis 音频格式。</translation>
+    </message>
+    <message>
+        <source>RA - RealAudio</source>
+        <translation>RA - RealAudio</translation>
+    </message>
+    <message>
+        <source>RealAudio streaming format.</source>
+        <translation>RealAudio 流媒体格式。</translation>
+    </message>
+    <message>
+        <source>WAV - Waveform Audio</source>
+        <translation>WAV - Waveform 音频</translation>
+    </message>
+    <message>
+        <source>Waveform audio format, uncompressed.</source>
+        <translation>Waveform 音频格式，无压缩。</translation>
+    </message>
+    <message>
+        <source>WMA - Windows Media Audio</source>
+        <translation>WMA - Windows Media Audio</translation>
+    </message>
+    <message>
+        <source>Windows Media Audio format.</source>
+        <translation>Windows Media Audio 格式。</translation>
+    </message>
+    <message>
+        <source>Android MPEG4 Video</source>
+        <translation>Android MPEG4 视频</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for Android</source>
+        <translation>针对 Android 优化的 MPEG4 配置文件</translation>
+    </message>
+    <message>
+        <source>Samsung Galaxy S3 H.264 Video</source>
+        <translation>Samsung Galaxy S3 H.264 视频</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for Galaxy S3</source>
+        <translation>针对 Galaxy S3 优化的 H.264/MPEG-4 AVC 配置文件</translation>
+    </message>
+    <message>
+        <source>Samsung Galaxy Tab MPEG4 Video</source>
+        <translation>Samsung Galaxy Tab MPEG4 视频</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for Galaxy Tab</source>
+        <translation>针对 Galaxy Tab 优化的 MPEG4 配置文件</translation>
+    </message>
+    <message>
+        <source>Apple TV H.264 Video</source>
+        <translation>Apple TV H.264 视频</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for Apple TV</source>
+        <translation>针对 Apple TV 优化的 H.264/MPEG-4 AVC 配置文件</translation>
+    </message>
+    <message>
+        <source>Apple TV H.264 HD Video</source>
+        <translation>Apple TV H.264 高清视频</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for Apple TV HD</source>
+        <translation>针对 Apple TV HD 优化的 H.264/MPEG-4 AVC 配置文件</translation>
+    </message>
+    <message>
+        <source>Apple TV 3 H.264 1080P Video</source>
+        <translation>Apple TV 3 H.264 1080P 视频</translation>
+    </message>
+    <message>
+        <source>Apple TV MPEG4 Video</source>
+        <translation>Apple TV MPEG4 视频</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for Apple TV</source>
+        <translation>针对 Apple TV 优化的 MPEG4 配置文件</translation>
+    </message>
+    <message>
+        <source>HD ASF Video</source>
+        <translation>高清 ASF 视频</translation>
+    </message>
+    <message>
+        <source>ASF profile optimized for HD players</source>
+        <translation>针对高清播放器优化的 ASF 配置文件</translation>
+    </message>
+    <message>
+        <source>HD AVI Video</source>
+        <translation>高清 AVI 视频</translation>
+    </message>
+    <message>
+        <source>MPEG4 AVI profile optimized for HD players</source>
+        <translation>针对高清播放器优化的 MPEG4 AVI 配置文件</translation>
+    </message>
+    <message>
+        <source>HD H.264/MPEG-4 AVC Video</source>
+        <translation>高清 H.264/MPEG-4 AVC 视频</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for HD players</source>
+        <translation>针对高清播放器优化的 H.264/MPEG-4 AVC 配置文件</translation>
+    </message>
+    <message>
+        <source>HD Quick Time Video</source>
+        <translation>高清 QuickTime 视频</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for HD players</source>
+        <translation>针对高清播放器优化的 MPEG4 配置文件</translation>
+    </message>
+    <message>
+        <source>MPEG2-PS HD Video</source>
+        <translation>MPEG2-PS 高清视频</translation>
+    </message>
+    <message>
+        <source>MPEG2 profile optimized for HD players</source>
+        <translation>针对高清播放器优化的 MPEG2 配置文件</translation>
+    </message>
+    <message>
+        <source>MPEG2-TS HD Video</source>
+        <translation>MPEG2-TS 高清视频</translation>
+    </message>
+    <message>
+        <source>MPEG4 HD Video</source>
+        <translation>MPEG4 高清视频</translation>
+    </message>
+    <message>
+        <source>RM HD Video</source>
+        <translation>RM 高清视频</translation>
+    </message>
+    <message>
+        <source>RealVideo profile optimized for HD players</source>
+        <translation>针对高清播放器优化的 RealVideo 配置文件</translation>
+    </message>
+    <message>
+        <source>HD WMV Video</source>
+        <translation>高清 WMV 视频</translation>
+    </message>
+    <message>
+        <source>WMV profile optimized for HD players</source>
+        <translation>针对高清播放器优化的 WMV 配置文件</translation>
+    </message>
+    <message>
+        <source>XVID HD Video</source>
+        <translation>XVID 高清视频</translation>
+    </message>
+    <message>
+        <source>Xvid profile optimized for HD players</source>
+        <translation>针对高清播放器优化的 Xvid 配置文件</translation>
+    </message>
+    <message>
+        <source>iPad H.264 Video</source>
+        <translation>iPad H.264 视频</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for iPad</source>
+        <translation>针对 iPad 优化的 H.264/MPEG-4 AVC 配置文件</translation>
+    </message>
+    <message>
+        <source>iPad H.264 HD Video</source>
+        <translation>iPad H.264 高清视频</translation>
+    </message>
+    <message>
+        <source>iPad MPEG4 Video</source>
+        <translation>iPad MPEG4 视频</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for iPad</source>
+        <translation>针对 iPad 优化的 MPEG4 配置文件</translation>
+    </message>
+    <message>
+        <source>iPad 2 H.264 Video</source>
+        <translation>iPad 2 H.264 视频</translation>
+    </message>
+    <message>
+        <source>iPad 2 H.264 HD Video</source>
+        <translation>iPad 2 H.264 高清视频</translation>
+    </message>
+    <message>
+        <source>iPad 2 MPEG4 Video</source>
+        <translation>iPad 2 MPEG4 视频</translation>
+    </message>
+    <message>
+        <source>iPad 3 1080P Video</source>
+        <translation>iPad 3 1080P 视频</translation>
+    </message>
+    <message>
+        <source>iPad mini H.264 Video</source>
+        <translation>iPad mini H.264 视频</translation>
+    </message>
+    <message>
+        <source>iPhone H.264 Video</source>
+        <translation>iPhone H.264 视频</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for iPhone</source>
+        <translation>针对 iPhone 优化的 H.264/MPEG-4 AVC 配置文件</translation>
+    </message>
+    <message>
+        <source>iPhone MPEG4 Video</source>
+        <translation>iPhone MPEG4 视频</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for iPhone</source>
+        <translation>针对 iPhone 优化的 MPEG4 配置文件</translation>
+    </message>
+    <message>
+        <source>iPhone 4 H.264 Video</source>
+        <translation>iPhone 4 H.264 视频</translation>
+    </message>
+    <message>
+        <source>iPhone 4 MPEG4 Video</source>
+        <translation>iPhone 4 MPEG4 视频</translation>
+    </message>
+    <message>
+        <source>iPhone 5 H.264 Video</source>
+        <translation>iPhone 5 H.264 视频</translation>
+    </message>
+    <message>
+        <source>iPod H.264 Video</source>
+        <translation>iPod H.264 视频</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for iPod</source>
+        <translation>针对 iPod 优化的 H.264/MPEG-4 AVC 配置文件</translation>
+    </message>
+    <message>
+        <source>iPod MPEG4 Video</source>
+        <translation>iPod MPEG4 视频</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for iPod</source>
+        <translation>针对 iPod 优化的 MPEG4 配置文件</translation>
+    </message>
+    <message>
+        <source>iPod touch H.264 Video</source>
+        <translation>iPod touch H.264 视频</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for iPod touch</source>
+        <translation>针对 iPod touch 优化的 H.264/MPEG-4 AVC 配置文件</translation>
+    </message>
+    <message>
+        <source>iPod touch MPEG4 Video</source>
+        <translation>iPod touch MPEG4 视频</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for iPod touch</source>
+        <translation>针对 iPod touch 优化的 MPEG4 配置文件</translation>
+    </message>
+    <message>
+        <source>iPod touch 4 H.264 Video</source>
+        <translation>iPod touch 4 H.264 视频</translation>
+    </message>
+    <message>
+        <source>iPod touch 4 MPEG4 Video</source>
+        <translation>iPod touch 4 MPEG4 视频</translation>
+    </message>
+    <message>
+        <source>Mobile Phone 3GP Video - Stereo</source>
+        <translation>手机 3GP 视频 - 立体声</translation>
+    </message>
+    <message>
+        <source>3GP profile optimized for mobile phones</source>
+        <translation>针对手机优化的 3GP 配置文件</translation>
+    </message>
+    <message>
+        <source>Mobile Phone 3GP Video - Mono</source>
+        <translation>手机 3GP 视频 - 单声道</translation>
+    </message>
+    <message>
+        <source>BlackBerry 3GP Video</source>
+        <translation>BlackBerry 3GP 视频</translation>
+    </message>
+    <message>
+        <source>BlackBerry AVI Video</source>
+        <translation>BlackBerry AVI 视频</translation>
+    </message>
+    <message>
+        <source>MPEG4 AVI profile optimized for mobile phones</source>
+        <translation>针对手机优化的 MPEG4 AVI 配置文件</translation>
+    </message>
+    <message>
+        <source>BlackBerry MPEG4 Video</source>
+        <translation>BlackBerry MPEG4 视频</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for mobile phones</source>
+        <translation>针对手机优化的 MPEG4 配置文件</translation>
+    </message>
+    <message>
+        <source>WMV Video for Mobile Phone</source>
+        <translation>手机 WMV 视频</translation>
+    </message>
+    <message>
+        <source>WMV profile optimized for mobile phones</source>
+        <translation>针对手机优化的 WMV 配置文件</translation>
+    </message>
+    <message>
+        <source>FLV - Flash Video Format</source>
+        <translation>FLV - Flash 视频格式</translation>
+    </message>
+    <message>
+        <source>Flash video format for web pages.</source>
+        <translation>用于网页的 Flash 视频格式。</translation>
+    </message>
+    <message>
+        <source>Picture - BMP format</source>
+        <translation>图片 - BMP 格式</translation>
+    </message>
+    <message>
+        <source>Pictures captured from the video as BMP files.</source>
+        <translation>从视频中截取的图片，保存为 BMP 文件。</translation>
+    </message>
+    <message>
+        <source>Picture - GIF Animation format</source>
+        <translation>图片 - GIF 动画格式</translation>
+    </message>
+    <message>
+        <source>An animated GIF picture made from the video.</source>
+        <translation>由视频制作的 GIF 动画图片。</translation>
+    </message>
+    <message>
+        <source>Picture - JPEG format</source>
+        <translation>图片 - JPEG 格式</translation>
+    </message>
+    <message>
+        <source>Pictures captured from the video as JPEG files.</source>
+        <translation>从视频中截取的图片，保存为 JPEG 文件。</translation>
+    </message>
+    <message>
+        <source>Picture - PNG format</source>
+        <translation>图片 - PNG 格式</translation>
+    </message>
+    <message>
+        <source>Pictures captured from the video as PNG files.</source>
+        <translation>从视频中截取的图片，保存为 PNG 文件。</translation>
+    </message>
+    <message>
+        <source>SWF - SWF Format</source>
+        <translation>SWF - SWF 格式</translation>
+    </message>
+    <message>
+        <source>Shockwave Flash animation format.</source>
+        <translation>Shockwave Flash 动画格式。</translation>
+    </message>
+    <message>
+        <source>Archos MPEG4</source>
+        <translation>Archos MPEG4</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for portable players</source>
+        <translation>针对便携式播放器优化的 MPEG4 配置文件</translation>
+    </message>
+    <message>
+        <source>Creative ZEN MPEG4 Video</source>
+        <translation>Creative ZEN MPEG4 视频</translation>
+    </message>
+    <message>
+        <source>iRiver MPEG4 Video</source>
+        <translation>iRiver MPEG4 视频</translation>
+    </message>
+    <message>
+        <source>PS3 H.264 Video</source>
+        <translation>PS3 H.264 视频</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for PS3</source>
+        <translation>针对 PS3 优化的 H.264/MPEG-4 AVC 配置文件</translation>
+    </message>
+    <message>
+        <source>PSP MPEG-4 Video</source>
+        <translation>PSP MPEG-4 视频</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for PSP</source>
+        <translation>针对 PSP 优化的 MPEG4 配置文件</translation>
+    </message>
+    <message>
+        <source>Xbox360 H.264 Video</source>
+        <translation>Xbox360 H.264 视频</translation>
+    </message>
+    <message>
+        <source>H.264/MPEG-4 AVC profile optimized for Xbox360</source>
+        <translation>针对 Xbox360 优化的 H.264/MPEG-4 AVC 配置文件</translation>
+    </message>
+    <message>
+        <source>Xbox360 MPEG4 Video</source>
+        <translation>Xbox360 MPEG4 视频</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for Xbox360</source>
+        <translation>针对 Xbox360 优化的 MPEG4 配置文件</translation>
+    </message>
+    <message>
+        <source>Xbox360 WMV Video</source>
+        <translation>Xbox360 WMV 视频</translation>
+    </message>
+    <message>
+        <source>WMV profile optimized for Xbox360</source>
+        <translation>针对 Xbox360 优化的 WMV 配置文件</translation>
+    </message>
+    <message>
+        <source>Zune MPEG4 Video</source>
+        <translation>Zune MPEG4 视频</translation>
+    </message>
+    <message>
+        <source>MPEG4 profile optimized for Zune</source>
+        <translation>针对 Zune 优化的 MPEG4 配置文件</translation>
+    </message>
+</context>
+<context>
     <name>ProfileGroupLoader</name>
     <message>
         <source>Untitled</source>
@@ -76,6 +751,21 @@
     </message>
 </context>
 <context>
+    <name>QtTreePropertyBrowser</name>
+    <message>
+        <source>Property</source>
+        <translation>属性</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>属性列表</translation>
+    </message>
+</context>
+<context>
     <name>QxLanguage</name>
     <message>
         <source>&amp;Language</source>
@@ -87,6 +777,280 @@
     <message>
         <source>&amp;Skin</source>
         <translation>皮肤(&amp;S)</translation>
+    </message>
+</context>
+<context>
+    <name>SettingDialog</name>
+    <message>
+        <source>Advanced Settings</source>
+        <translation>高级设置</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Simple</source>
+        <translation>简单</translation>
+    </message>
+    <message>
+        <source>Video Size:</source>
+        <translation>视频尺寸：</translation>
+    </message>
+    <message>
+        <source>Video Size</source>
+        <translation>视频尺寸</translation>
+    </message>
+    <message>
+        <source>Video Quality:</source>
+        <translation>视频质量：</translation>
+    </message>
+    <message>
+        <source>Video Quality</source>
+        <translation>视频质量</translation>
+    </message>
+    <message>
+        <source>Audio Quality:</source>
+        <translation>音频质量：</translation>
+    </message>
+    <message>
+        <source>Audio Quality</source>
+        <translation>音频质量</translation>
+    </message>
+    <message>
+        <source>Advanced</source>
+        <translation>高级</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>说明</translation>
+    </message>
+    <message>
+        <source>Apply To All</source>
+        <translation>应用到全部</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsWindow</name>
+    <message>
+        <source>General</source>
+        <translation>常规</translation>
+    </message>
+    <message>
+        <source>Picture Format</source>
+        <translation>图片格式</translation>
+    </message>
+    <message>
+        <source>Picture format.</source>
+        <translation>截取图片的文件格式。</translation>
+    </message>
+    <message>
+        <source>Interval</source>
+        <translation>间隔</translation>
+    </message>
+    <message>
+        <source>Select how many seconds to capture one picture.</source>
+        <translation>设置每隔多少秒截取一张图片。</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>视频</translation>
+    </message>
+    <message>
+        <source>Video options</source>
+        <translation>视频选项</translation>
+    </message>
+    <message>
+        <source>Video Codec</source>
+        <translation>视频编码器</translation>
+    </message>
+    <message>
+        <source>Set the video codec (methods of compression for digital videos, e.g., MPEG-4, H.264 or WMV) which the encoding engine uses. Usually it is related to the output format you choose.</source>
+        <translation>设置编码引擎使用的视频编码器（数字视频的压缩方式，例如 MPEG-4、H.264 或 WMV）。通常与所选的输出格式有关。</translation>
+    </message>
+    <message>
+        <source>Video Size</source>
+        <translation>视频尺寸</translation>
+    </message>
+    <message>
+        <source>Set frame size. The format is &apos;width x height&apos; like 320x240, 640x480 or 1920x1080 pixels. You can choose an similar size for your playback device screen resolution.</source>
+        <translation>设置画面尺寸。格式为“宽 x 高”，例如 320x240、640x480 或 1920x1080 像素。可以选择与播放设备屏幕分辨率相近的尺寸。</translation>
+    </message>
+    <message>
+        <source>Video Bitrate</source>
+        <translation>视频比特率</translation>
+    </message>
+    <message>
+        <source>Set the video bit rate in kilobit per second. This is the key factor that is related to the output file size and video quality -- the larger the bit rate, the better the video quality and the bigger the output file you will get, and vice versa.</source>
+        <translation>设置视频比特率，单位为千比特每秒。它是决定输出文件大小和视频质量的关键因素：比特率越高，视频质量越好，输出文件也越大；反之亦然。</translation>
+    </message>
+    <message>
+        <source>Frame Rate</source>
+        <translation>帧率</translation>
+    </message>
+    <message>
+        <source>Set how many frames should be displayed per second (FPS). Higher frame rate increases the smoothness when played back, and usually 25--30 frame per second can provide you with a very good viewing experience.</source>
+        <translation>设置每秒显示的帧数 (FPS)。帧率越高，播放越流畅；通常每秒 25～30 帧即可提供很好的观看体验。</translation>
+    </message>
+    <message>
+        <source>Aspect Ratio</source>
+        <translation>宽高比</translation>
+    </message>
+    <message>
+        <source>Set width to height ratio according to the screen aspect of your playback device . (4:3, 16:9 or 1.3333, 1.7777).</source>
+        <translation>根据播放设备的屏幕比例设置宽度与高度之比（4:3、16:9 或 1.3333、1.7777）。</translation>
+    </message>
+    <message>
+        <source>Same Quality</source>
+        <translation>与源相同质量</translation>
+    </message>
+    <message>
+        <source>This function enables you to get good output video quality as the source. (Sometimes this function may bring you a large output file, or make the converting time pretty long.)</source>
+        <translation>此功能可使输出视频获得与源文件同样好的质量。（有时可能会生成较大的输出文件，或使转换时间变得相当长。）</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>缩放</translation>
+    </message>
+    <message>
+        <source>Select zoom mode, that is how to deal with the blank edge when the aspect of the source and the destination is different.</source>
+        <translation>选择缩放模式，即源与目标的宽高比不同时如何处理空白边缘。</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>音频</translation>
+    </message>
+    <message>
+        <source>Audio options</source>
+        <translation>音频选项</translation>
+    </message>
+    <message>
+        <source>Audio Codec</source>
+        <translation>音频编码器</translation>
+    </message>
+    <message>
+        <source>Set the audio codec (methods of compression for digital audio, e.g., MP3, PCM or AC3) which the encoding engine uses. Usually it is related to the output format you choose.</source>
+        <translation>设置编码引擎使用的音频编码器（数字音频的压缩方式，例如 MP3、PCM 或 AC3）。通常与所选的输出格式有关。</translation>
+    </message>
+    <message>
+        <source>Audio Bitrate</source>
+        <translation>音频比特率</translation>
+    </message>
+    <message>
+        <source>Set audio bitrate (in kbit/s)</source>
+        <translation>设置音频比特率（单位为 kbit/s）</translation>
+    </message>
+    <message>
+        <source>Sample Rate</source>
+        <translation>采样率</translation>
+    </message>
+    <message>
+        <source>Set the audio sampling frequency (the number of samples per second) (default = 44100 Hz).</source>
+        <translation>设置音频采样频率，即每秒的采样数（默认值 = 44100 Hz）。</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>声道</translation>
+    </message>
+    <message>
+        <source>Set number of audio channels, 1(Mono), 2(Stereo) and 5.1(Dolby Digital) are commonly used for general digital audio.</source>
+        <translation>设置音频声道数。一般数字音频常用 1（单声道）、2（立体声）和 5.1（Dolby Digital）。</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>音量</translation>
+    </message>
+    <message>
+        <source>Set the output volume.</source>
+        <translation>设置输出音量。</translation>
+    </message>
+    <message>
+        <source>Disable Audio</source>
+        <translation>禁用音频</translation>
+    </message>
+    <message>
+        <source>Disable audio</source>
+        <translation>输出文件不含音频</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>摘要</translation>
+    </message>
+    <message>
+        <source>Summary of the file</source>
+        <translation>文件的摘要信息</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>标题</translation>
+    </message>
+    <message>
+        <source>Set the title</source>
+        <translation>设置标题</translation>
+    </message>
+    <message>
+        <source>Author</source>
+        <translation>作者</translation>
+    </message>
+    <message>
+        <source>Set the author</source>
+        <translation>设置作者</translation>
+    </message>
+    <message>
+        <source>Copyright</source>
+        <translation>版权</translation>
+    </message>
+    <message>
+        <source>Set the copyright</source>
+        <translation>设置版权信息</translation>
+    </message>
+    <message>
+        <source>Comments</source>
+        <translation>备注</translation>
+    </message>
+    <message>
+        <source>Set the comment</source>
+        <translation>设置备注</translation>
+    </message>
+    <message>
+        <source>Album</source>
+        <translation>专辑</translation>
+    </message>
+    <message>
+        <source>Genre</source>
+        <translation>流派</translation>
+    </message>
+    <message>
+        <source>Composer</source>
+        <translation>作曲</translation>
+    </message>
+    <message>
+        <source>Orig. Artist</source>
+        <translation>原艺术家</translation>
+    </message>
+    <message>
+        <source>Encoded by</source>
+        <translation>编码者</translation>
+    </message>
+    <message>
+        <source>Url</source>
+        <translation>网址</translation>
+    </message>
+    <message>
+        <source>Year</source>
+        <translation>年份</translation>
+    </message>
+    <message>
+        <source>Expert</source>
+        <translation>高级</translation>
+    </message>
+    <message>
+        <source>Expert options</source>
+        <translation>高级选项</translation>
+    </message>
+    <message>
+        <source>Parameters</source>
+        <translation>参数</translation>
     </message>
 </context>
 <context>

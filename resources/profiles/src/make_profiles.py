@@ -10,10 +10,13 @@ Documents follow a handful of families; a row names its family and the few
 numbers in which it differs.
 """
 
+import json
 from pathlib import Path
 from xml.sax.saxutils import quoteattr
 
 OUT = Path(__file__).resolve().parent.parent
+# The names and descriptions, for lupdate: translated in the context "Profile".
+TEXTS = OUT.parent.parent / "src" / "profiles" / "cataloguetexts.cpp"
 
 # ---------------------------------------------------------------------------
 # Catalogue
@@ -838,6 +841,31 @@ def codec_text(file_name):
     return "MPEG4"
 
 
+def profile_desc(group_id, file_name, short, desc):
+    if desc is not None:
+        return desc
+    if group_id not in (13, 17, 19):
+        return "%s profile optimized for %s" % (codec_text(file_name), short)
+    return "%s profile optimized for %s" % (codec_text(file_name), DEVICES.get(group_id, short))
+
+
+def make_texts():
+    texts = [name for _, name, _ in GROUPS]
+    for group_id, _, _ in GROUPS:
+        for _, file_name, title, _, _, short, desc in PROFILES.get(group_id, []):
+            texts += [title, profile_desc(group_id, file_name, short, desc)]
+    out = ["// Written by resources/profiles/src/make_profiles.py; read by lupdate only, never",
+           "// compiled: the catalogue's texts, which live in its XML.",
+           "#include <QtGlobal>", "", "[[maybe_unused]] static const char *const catalogueTexts[] = {"]
+    seen = set()
+    for text in texts:
+        if text not in seen:
+            seen.add(text)
+            out.append('    QT_TRANSLATE_NOOP("Profile", %s),' % json.dumps(text, ensure_ascii=False))
+    out.append("};")
+    return "\n".join(out) + "\n"
+
+
 def make_catalogue():
     def field(tag, value, indent="        "):
         return "%s<%s value=%s/>" % (indent, tag, quoteattr(value))
@@ -848,11 +876,7 @@ def make_catalogue():
         out.append("    <Group>")
         out += [field("Name", name), field("Id", str(group_id)), field("IconName", icon)]
         for pid, file_name, title, ext, icon_name, short, desc in PROFILES.get(group_id, []):
-            if desc is None:
-                desc = "%s profile optimized for %s" % (codec_text(file_name),
-                                                        DEVICES.get(group_id, short))
-                if group_id not in (13, 17, 19):
-                    desc = "%s profile optimized for %s" % (codec_text(file_name), short)
+            desc = profile_desc(group_id, file_name, short, desc)
             icon_path = icon_name + ".png" if icon_name.startswith("small/") else \
                 "big/%s.png" % icon_name
             pad = "            "
@@ -877,6 +901,7 @@ def main():
     for old in OUT.glob("*.xml"):
         old.unlink()
     (OUT / "Group.xml").write_text(make_catalogue(), encoding="utf-8")
+    TEXTS.write_text(make_texts(), encoding="utf-8")
     for name, (family, changes) in sorted(DOCUMENTS.items()):
         (OUT / name).write_text(make_document(name, family, changes), encoding="utf-8")
 
