@@ -2,9 +2,12 @@
 // the whole screen as a picture: for looking at by eye and for the pictures
 // in docs/. Run under Xvfb; QT_SCALE_FACTOR=2 for a HiDPI screen. Not shipped.
 //
-//   uishots picker OUT.png    the profile popup with a search in progress
+//   uishots picker OUT.png             the profile popup with a search in progress
+//   uishots settings LANG OUT.png      the settings window in a language, both tabs
 
 #include "cprofilecombo.h"
+#include "qxlanguage.h"
+#include "settingswindow.h"
 #include "qxmainwidget.h"
 #include "qxskin.h"
 
@@ -13,6 +16,8 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QScreen>
+#include <QTabWidget>
+#include <QTranslator>
 #include <QTest>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -22,9 +27,16 @@ int main(int argc, char *argv[])
     QApplication app(argc, argv);
     const QStringList args = QCoreApplication::arguments();
     if (args.size() < 3) {
-        std::fprintf(stderr, "usage: uishots picker OUT.png\n");
+        std::fprintf(stderr, "usage: uishots picker OUT.png | settings LANG OUT.png\n");
         return 2;
     }
+    QTranslator application, browser, toolkit;
+    for (QTranslator *t : {&application, &browser, &toolkit})
+        QCoreApplication::installTranslator(t);
+    QxLanguage::setTranslators(&application, &browser, &toolkit);
+    const bool settings = args.at(1) == QLatin1String("settings");
+    QxLanguage::instance()->setLanguage(settings ? args.value(2) : QStringLiteral("en"));
+    const QString out = args.value(settings ? 3 : 2);
     QWidget backdrop(nullptr, Qt::FramelessWindowHint);
     backdrop.setStyleSheet(QStringLiteral("background: #6b7785;"));
     backdrop.setGeometry(QGuiApplication::primaryScreen()->geometry());
@@ -46,6 +58,23 @@ int main(int argc, char *argv[])
     layout->addLayout(row);
     layout->addStretch();
     window.setGeometry(40, 40, 700, 620);
+    if (settings) {
+        // Both tabs side by side: the Simple one and the Advanced tree.
+        auto grabBoth = std::make_shared<std::vector<std::unique_ptr<SettingsWindow>>>();
+        for (int tab : {0, 1}) {
+            auto dialog = std::make_unique<SettingsWindow>();
+            dialog->setProfile(QStringLiteral("mp4.xml"), nullptr);
+            dialog->findChild<QTabWidget *>(QStringLiteral("tabWidget"))->setCurrentIndex(tab);
+            dialog->setGeometry(40 + tab * 340, 40, 320, 640);
+            dialog->show();
+            grabBoth->push_back(std::move(dialog));
+        }
+        QTimer::singleShot(800, &app, [&, grabBoth] {
+            QGuiApplication::primaryScreen()->grabWindow(0, 24, 24, 692, 672).save(out);
+            QCoreApplication::quit();
+        });
+        return app.exec();
+    }
     window.show();
     combo->selectProfile(QStringLiteral("14"), QStringLiteral("126"));
 
@@ -58,7 +87,7 @@ int main(int argc, char *argv[])
                                    .adjusted(-16, -16, 16, 16);
             QGuiApplication::primaryScreen()
                 ->grabWindow(0, area.x(), area.y(), area.width(), area.height())
-                .save(args.at(2));
+                .save(out);
             QCoreApplication::quit();
         });
     });

@@ -15,6 +15,7 @@
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QStatusBar>
+#include <QTreeWidget>
 
 namespace {
 
@@ -163,6 +164,12 @@ void SettingsWindow::buildTree(const QMap<QString, QString> *values)
         if (name == QLatin1String("Expert") || name == QLatin1String("Summary"))
             propertyTable->setExpanded(item, false);
     }
+
+    // Captions are read whole in every language; the user may narrow them.
+    QTreeWidget *view = propertyTable->treeWidget();
+    view->resizeColumnToContents(0);
+    propertyTable->setSplitterPosition(
+        qBound(110, view->columnWidth(0), qMax(110, view->viewport()->width() * 2 / 3)));
 
     // An audio document offers only the sound's quality.
     const bool video = keyToProperty.contains(QStringLiteral("s"));
