@@ -11,6 +11,21 @@
         <source>Version: %1</source>
         <translation>الإصدار: %1</translation>
     </message>
+    <message>
+        <source>LTR</source>
+        <translation>RTL</translation>
+    </message>
+</context>
+<context>
+    <name>CPlayPauseButton</name>
+    <message>
+        <source>Pause</source>
+        <translation>إيقاف مؤقت</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>تشغيل</translation>
+    </message>
 </context>
 <context>
     <name>CProfileCombo</name>
@@ -748,6 +763,89 @@
     <message>
         <source>Search Profile...</source>
         <translation>البحث عن ملف تعريف...</translation>
+    </message>
+</context>
+<context>
+    <name>QtColorComboBox</name>
+    <message>
+        <source>More...</source>
+        <translation>المزيد...</translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <translation>أسود</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation>أبيض</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>أحمر</translation>
+    </message>
+    <message>
+        <source>Dark red</source>
+        <translation>أحمر داكن</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>أخضر</translation>
+    </message>
+    <message>
+        <source>Dark green</source>
+        <translation>أخضر داكن</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>أزرق</translation>
+    </message>
+    <message>
+        <source>Dark blue</source>
+        <translation>أزرق داكن</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>سماوي</translation>
+    </message>
+    <message>
+        <source>Dark cyan</source>
+        <translation>سماوي داكن</translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation>أرجواني</translation>
+    </message>
+    <message>
+        <source>Dark magenta</source>
+        <translation>أرجواني داكن</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>أصفر</translation>
+    </message>
+    <message>
+        <source>Dark yellow</source>
+        <translation>أصفر داكن</translation>
+    </message>
+    <message>
+        <source>Gray</source>
+        <translation>رمادي</translation>
+    </message>
+    <message>
+        <source>Dark gray</source>
+        <translation>رمادي داكن</translation>
+    </message>
+    <message>
+        <source>Light gray</source>
+        <translation>رمادي فاتح</translation>
+    </message>
+    <message>
+        <source>User color %1</source>
+        <translation>لون المستخدم %1</translation>
+    </message>
+    <message>
+        <source>User Color 99</source>
+        <translation>لون المستخدم 99</translation>
     </message>
 </context>
 <context>

@@ -11,6 +11,21 @@
         <source>Version: %1</source>
         <translation>Verze: %1</translation>
     </message>
+    <message>
+        <source>LTR</source>
+        <translation>LTR</translation>
+    </message>
+</context>
+<context>
+    <name>CPlayPauseButton</name>
+    <message>
+        <source>Pause</source>
+        <translation>Pozastavit</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Přehrát</translation>
+    </message>
 </context>
 <context>
     <name>CProfileCombo</name>
@@ -748,6 +763,89 @@
     <message>
         <source>Search Profile...</source>
         <translation>Hledat profil...</translation>
+    </message>
+</context>
+<context>
+    <name>QtColorComboBox</name>
+    <message>
+        <source>More...</source>
+        <translation>Další...</translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <translation>Černá</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation>Bílá</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Červená</translation>
+    </message>
+    <message>
+        <source>Dark red</source>
+        <translation>Tmavě červená</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Zelená</translation>
+    </message>
+    <message>
+        <source>Dark green</source>
+        <translation>Tmavě zelená</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Modrá</translation>
+    </message>
+    <message>
+        <source>Dark blue</source>
+        <translation>Tmavě modrá</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>Azurová</translation>
+    </message>
+    <message>
+        <source>Dark cyan</source>
+        <translation>Tmavě azurová</translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation>Purpurová</translation>
+    </message>
+    <message>
+        <source>Dark magenta</source>
+        <translation>Tmavě purpurová</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Žlutá</translation>
+    </message>
+    <message>
+        <source>Dark yellow</source>
+        <translation>Tmavě žlutá</translation>
+    </message>
+    <message>
+        <source>Gray</source>
+        <translation>Šedá</translation>
+    </message>
+    <message>
+        <source>Dark gray</source>
+        <translation>Tmavě šedá</translation>
+    </message>
+    <message>
+        <source>Light gray</source>
+        <translation>Světle šedá</translation>
+    </message>
+    <message>
+        <source>User color %1</source>
+        <translation>Vlastní barva %1</translation>
+    </message>
+    <message>
+        <source>User Color 99</source>
+        <translation>Vlastní barva 99</translation>
     </message>
 </context>
 <context>

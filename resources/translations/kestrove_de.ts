@@ -11,6 +11,21 @@
         <source>Version: %1</source>
         <translation>Version: %1</translation>
     </message>
+    <message>
+        <source>LTR</source>
+        <translation>LTR</translation>
+    </message>
+</context>
+<context>
+    <name>CPlayPauseButton</name>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Wiedergabe</translation>
+    </message>
 </context>
 <context>
     <name>CProfileCombo</name>
@@ -748,6 +763,89 @@
     <message>
         <source>Search Profile...</source>
         <translation>Profil suchen...</translation>
+    </message>
+</context>
+<context>
+    <name>QtColorComboBox</name>
+    <message>
+        <source>More...</source>
+        <translation>Weitere...</translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <translation>Schwarz</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation>Weiß</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Rot</translation>
+    </message>
+    <message>
+        <source>Dark red</source>
+        <translation>Dunkelrot</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Grün</translation>
+    </message>
+    <message>
+        <source>Dark green</source>
+        <translation>Dunkelgrün</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Blau</translation>
+    </message>
+    <message>
+        <source>Dark blue</source>
+        <translation>Dunkelblau</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>Cyan</translation>
+    </message>
+    <message>
+        <source>Dark cyan</source>
+        <translation>Dunkelcyan</translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
+        <source>Dark magenta</source>
+        <translation>Dunkelmagenta</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Gelb</translation>
+    </message>
+    <message>
+        <source>Dark yellow</source>
+        <translation>Dunkelgelb</translation>
+    </message>
+    <message>
+        <source>Gray</source>
+        <translation>Grau</translation>
+    </message>
+    <message>
+        <source>Dark gray</source>
+        <translation>Dunkelgrau</translation>
+    </message>
+    <message>
+        <source>Light gray</source>
+        <translation>Hellgrau</translation>
+    </message>
+    <message>
+        <source>User color %1</source>
+        <translation>Eigene Farbe %1</translation>
+    </message>
+    <message>
+        <source>User Color 99</source>
+        <translation>Eigene Farbe 99</translation>
     </message>
 </context>
 <context>

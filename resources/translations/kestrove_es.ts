@@ -11,6 +11,21 @@
         <source>Version: %1</source>
         <translation>Versión: %1</translation>
     </message>
+    <message>
+        <source>LTR</source>
+        <translation>LTR</translation>
+    </message>
+</context>
+<context>
+    <name>CPlayPauseButton</name>
+    <message>
+        <source>Pause</source>
+        <translation>Pausa</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Reproducir</translation>
+    </message>
 </context>
 <context>
     <name>CProfileCombo</name>
@@ -748,6 +763,89 @@
     <message>
         <source>Search Profile...</source>
         <translation>Buscar perfil...</translation>
+    </message>
+</context>
+<context>
+    <name>QtColorComboBox</name>
+    <message>
+        <source>More...</source>
+        <translation>Más...</translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <translation>Negro</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation>Blanco</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Rojo</translation>
+    </message>
+    <message>
+        <source>Dark red</source>
+        <translation>Rojo oscuro</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Verde</translation>
+    </message>
+    <message>
+        <source>Dark green</source>
+        <translation>Verde oscuro</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Azul</translation>
+    </message>
+    <message>
+        <source>Dark blue</source>
+        <translation>Azul oscuro</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>Cian</translation>
+    </message>
+    <message>
+        <source>Dark cyan</source>
+        <translation>Cian oscuro</translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
+        <source>Dark magenta</source>
+        <translation>Magenta oscuro</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Amarillo</translation>
+    </message>
+    <message>
+        <source>Dark yellow</source>
+        <translation>Amarillo oscuro</translation>
+    </message>
+    <message>
+        <source>Gray</source>
+        <translation>Gris</translation>
+    </message>
+    <message>
+        <source>Dark gray</source>
+        <translation>Gris oscuro</translation>
+    </message>
+    <message>
+        <source>Light gray</source>
+        <translation>Gris claro</translation>
+    </message>
+    <message>
+        <source>User color %1</source>
+        <translation>Color propio %1</translation>
+    </message>
+    <message>
+        <source>User Color 99</source>
+        <translation>Color propio 99</translation>
     </message>
 </context>
 <context>

@@ -7,6 +7,9 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
+#include <QImage>
+#include <QPixmap>
 #include <QMenu>
 
 namespace {
@@ -151,6 +154,25 @@ int QxSkin::configInt(const QString &key, int defaultValue) const
 QString QxSkin::imagePath(const QString &name) const
 {
     return skinFolder() + name;
+}
+
+QImage QxSkin::image(const QString &name, qreal devicePixelRatio) const
+{
+    if (devicePixelRatio > 1.0) {
+        const QFileInfo info(imagePath(name));
+        QImage twin(info.path() + QLatin1Char('/') + info.completeBaseName()
+                    + QStringLiteral("@2x.") + info.suffix());
+        if (!twin.isNull()) {
+            twin.setDevicePixelRatio(2.0);
+            return twin;
+        }
+    }
+    return QImage(imagePath(name));
+}
+
+QPixmap QxSkin::pixmap(const QString &name, qreal devicePixelRatio) const
+{
+    return QPixmap::fromImage(image(name, devicePixelRatio));
 }
 
 QString QxSkin::skinFolder() const

@@ -11,6 +11,8 @@
 class QAction;
 class QActionGroup;
 class QMenu;
+class QImage;
+class QPixmap;
 class QWidget;
 
 // One skin found below the skin root: its number N and its name.
@@ -41,6 +43,10 @@ public:
     QString configValue(const QString &key, const QString &defaultValue = QString()) const;
     int configInt(const QString &key, int defaultValue) const;
     QString imagePath(const QString &name) const;
+    // A picture of the skin for a screen of that pixel ratio: its "@2x"
+    // twin where the ratio asks for it and the skin has one.
+    QPixmap pixmap(const QString &name, qreal devicePixelRatio = 1.0) const;
+    QImage image(const QString &name, qreal devicePixelRatio = 1.0) const;
     QString skinFolder() const;
     QString rootFolder() const;
     int currentSkin() const { return current; }
