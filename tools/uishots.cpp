@@ -4,14 +4,21 @@
 //
 //   uishots picker OUT.png             the profile popup with a search in progress
 //   uishots settings LANG OUT.png      the settings window in a language, both tabs
+//   uishots controls OUT.png           every custom control and a property tree
 
+#include "controls.h"
 #include "cprofilecombo.h"
+#include "editablecombo.h"
+#include "focusoutcombo.h"
+#include "qttreepropertybrowser.h"
+#include "qtvariantproperty.h"
 #include "qxlanguage.h"
 #include "settingswindow.h"
 #include "qxmainwidget.h"
 #include "qxskin.h"
 
 #include <QApplication>
+#include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMenuBar>
@@ -71,6 +78,93 @@ int main(int argc, char *argv[])
         }
         QTimer::singleShot(800, &app, [&, grabBoth] {
             QGuiApplication::primaryScreen()->grabWindow(0, 24, 24, 692, 672).save(out);
+            QCoreApplication::quit();
+        });
+        return app.exec();
+    }
+    if (args.at(1) == QLatin1String("controls")) {
+        delete combo;
+        delete label;
+        auto *form = new QFormLayout;
+        layout->insertLayout(0, form);
+        auto *start = new FadePushButton(&window);
+        start->setObjectName(QStringLiteral("btnStart"));
+        start->setProperty("status", QStringLiteral("start"));
+        start->setFixedSize(120, 44);
+        form->addRow(QStringLiteral("FadePushButton"), start);
+        auto *tool = new FadeToolButton(&window);
+        tool->setObjectName(QStringLiteral("btnTrim"));
+        tool->setProperty("type", QStringLiteral("toolBtn"));
+        tool->setText(QStringLiteral("Trim"));
+        tool->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+        form->addRow(QStringLiteral("FadeToolButton"), tool);
+        auto *slider = new CSlider(&window);
+        slider->setRange(0, 1000);
+        slider->setTrimStart(200);
+        slider->setTrimEnd(800);
+        slider->setHandleValue(450);
+        slider->setMinimumHeight(20);
+        form->addRow(QStringLiteral("CSlider"), slider);
+        auto *volume = new VolumSlider(&window);
+        volume->setRange(0, 100);
+        volume->setValue(70);
+        form->addRow(QStringLiteral("VolumSlider"), volume);
+        auto *play = new CPlayPauseButton(&window);
+        play->setObjectName(QStringLiteral("btnPlay"));
+        play->setText(QStringLiteral("Play"));
+        form->addRow(QStringLiteral("CPlayPauseButton"), play);
+        auto *colour = new ColorPushButton(&window);
+        colour->setColor(QColor(61, 165, 244));
+        colour->setFixedSize(40, 26);
+        form->addRow(QStringLiteral("ColorPushButton"), colour);
+        auto *colours = new QtColorComboBox(&window);
+        colours->addStandardColors();
+        colours->setColorDialogEnabled();
+        colours->setCurrentIndex(6);
+        form->addRow(QStringLiteral("QtColorComboBox"), colours);
+        auto *elided = new QxtLabel(&window);
+        elided->setText(QStringLiteral("A holiday film with a very long name that the label elides.mkv"));
+        elided->setMaximumWidth(220);
+        form->addRow(QStringLiteral("QxtLabel"), elided);
+        auto *focusOut = new FocusOutCombo(&window);
+        focusOut->setEditable(true);
+        focusOut->addItems({QStringLiteral("Auto"), QStringLiteral("640*480")});
+        form->addRow(QStringLiteral("FocusOutCombo"), focusOut);
+
+        auto *browser = new QtTreePropertyBrowser(&window);
+        auto *variants = new QtVariantPropertyManager(&window);
+        auto *combos = new EditableComboManager(&window);
+        browser->setFactoryForManager(variants, new QtVariantEditorFactory(&window));
+        browser->setFactoryForManager(combos, new EditableComboFactory(&window));
+        browser->setPropertiesWithoutValueMarked(true);
+        QtProperty *video = variants->addProperty(QtVariantPropertyManager::groupTypeId(), QStringLiteral("Video"));
+        QtProperty *codec = variants->addProperty(QtVariantPropertyManager::enumTypeId(), QStringLiteral("Video Codec"));
+        variants->setAttribute(codec, QStringLiteral("enumNames"), QStringList{QStringLiteral("h264"), QStringLiteral("mpeg4")});
+        QtProperty *size = combos->addProperty(QStringLiteral("Video Size"));
+        combos->setCandidateValues(size, {QStringLiteral("Auto"), QStringLiteral("640*480")});
+        combos->setValue(size, QStringLiteral("640*480"));
+        size->setModified(true);
+        QtProperty *title = variants->addProperty(QMetaType::QString, QStringLiteral("Title"));
+        variants->setValue(title, QStringLiteral("Holiday"));
+        QtProperty *locked = variants->addProperty(QMetaType::QString, QStringLiteral("Disabled"));
+        locked->setEnabled(false);
+        for (QtProperty *p : {codec, size, title, locked})
+            video->addSubProperty(p);
+        QtProperty *audio = variants->addProperty(QtVariantPropertyManager::groupTypeId(), QStringLiteral("Audio"));
+        QtProperty *rate = combos->addProperty(QStringLiteral("Sample Rate"));
+        combos->setValue(rate, QStringLiteral("44100"));
+        audio->addSubProperty(rate);
+        browser->addProperty(video);
+        browser->addProperty(audio);
+        browser->setMinimumHeight(230);
+        browser->setResizeMode(QtTreePropertyBrowser::ResizeToContents);
+        layout->insertWidget(1, browser);
+        window.setGeometry(40, 40, 520, 700);
+        window.show();
+        QTimer::singleShot(600, &app, [&] {
+            QGuiApplication::primaryScreen()
+                ->grabWindow(0, 24, 24, 552, 732)
+                .save(out);
             QCoreApplication::quit();
         });
         return app.exec();

@@ -407,6 +407,8 @@ void ColorPushButton::setColor(const QColor &value)
 
 void ColorPushButton::paintEvent(QPaintEvent *event)
 {
+    // The face first: an opaque skin would hide the colour under it.
+    QPushButton::paintEvent(event);
     if (hasColor && isEnabled()) {
         QStyleOptionButton option;
         initStyleOption(&option);
@@ -414,7 +416,6 @@ void ColorPushButton::paintEvent(QPaintEvent *event)
         painter.drawImage(style()->subElementRect(QStyle::SE_PushButtonContents, &option, this),
                           image);
     }
-    QPushButton::paintEvent(event);
 }
 
 // ---- QtColorComboBox

@@ -186,10 +186,14 @@ def pill(name, w, h, fill, opacity="1"):
         'fill-opacity="%s"/>' % (w, h, r, fill, opacity))
 
 
-pill("groove", 40, 4, "#3a3e46")
-pill("sliderbar", 40, 4, ACCENT)
+# The playback slider: the whole track as high as the handle, so that it
+# sits in the middle of it; the played part and the trimmed range over it.
+svg("sliderbar", 40, 14, '<rect x="0" y="5" width="40" height="4" rx="2" fill="#3a3e46"/>')
+# Tiled along the track: square ends, or the tiles show their seams.
+svg("groove", 40, 4, '<rect x="0" y="0" width="40" height="4" fill="%s"/>' % ACCENT)
 pill("sliderbarTrim", 40, 4, ACCENT)
-pill("trimedtimebg", 40, 4, ACCENT_LIGHT, "0.45")
+svg("trimedtimebg", 40, 4, '<rect x="0" y="0" width="40" height="4" fill="%s" '
+    'fill-opacity="0.45"/>' % ACCENT_LIGHT)
 pill("progressbg", 40, 8, "#2e3137")
 pill("progresschunk", 40, 8, ACCENT)
 
