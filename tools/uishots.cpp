@@ -42,7 +42,8 @@ int main(int argc, char *argv[])
         QCoreApplication::installTranslator(t);
     QxLanguage::setTranslators(&application, &browser, &toolkit);
     const bool settings = args.at(1) == QLatin1String("settings");
-    QxLanguage::instance()->setLanguage(settings ? args.value(2) : QStringLiteral("en"));
+    // "picker OUT.png LANG" shows the popup in a language too.
+    QxLanguage::instance()->setLanguage(settings ? args.value(2) : args.value(3, QStringLiteral("en")));
     const QString out = args.value(settings ? 3 : 2);
     QWidget backdrop(nullptr, Qt::FramelessWindowHint);
     backdrop.setStyleSheet(QStringLiteral("background: #6b7785;"));

@@ -1,6 +1,7 @@
 #include "cprofilecombo.h"
 
 #include "profilegrouploader.h"
+#include "controls.h"
 #include "qxskin.h"
 #include "ui_profilemenu.h"
 
@@ -28,11 +29,6 @@ constexpr int ProfileIconSize = 40;
 QString field(const QDomNode &node, const char *tag)
 {
     return childValue(node, QLatin1String(tag));
-}
-
-bool rightToLeft()
-{
-    return QApplication::layoutDirection() == Qt::RightToLeft;
 }
 
 QTextDocument *rowDocument(const QStyleOptionViewItem &option, int width)
@@ -110,7 +106,6 @@ CSearchLineEdit::CSearchLineEdit(QWidget *parent)
     const int frame = style()->pixelMetric(QStyle::PM_DefaultFrameWidth);
     const QSize button = clearButton->sizeHint();
     setMinimumSize(button.width() + frame * 2 + 2, qMax(minimumSizeHint().height(), button.height() + frame * 2));
-    setTextMargins(rightToLeft() ? button.width() : 0, 0, rightToLeft() ? 0 : button.width(), 0);
 }
 
 void CSearchLineEdit::updateCloseButton(const QString &text)
@@ -124,6 +119,9 @@ void CSearchLineEdit::resizeEvent(QResizeEvent *event)
     const int frame = style()->pixelMetric(QStyle::PM_DefaultFrameWidth);
     const QSize button = clearButton->sizeHint();
     const int top = (rect().height() - button.height() + 1) / 2;
+    // The text keeps clear of the button, at whichever end it stands.
+    const bool mirrored = layoutDirection() == Qt::RightToLeft;
+    setTextMargins(mirrored ? button.width() : 0, 0, mirrored ? 0 : button.width(), 0);
     clearButton->move(layoutDirection() == Qt::RightToLeft ? frame
                                                             : rect().right() - frame - button.width(),
                       top);
@@ -268,7 +266,8 @@ CSearchLineEdit *CProfileMenu::searchField() const
 void CProfileMenu::addGroupRows()
 {
     const QString indicator = QxSkin::instance()->imagePath(
-        rightToLeft() ? QStringLiteral("menuIndicatorLeft.png") : QStringLiteral("menuIndicator.png"));
+        rightToLeftInterface(this) ? QStringLiteral("menuIndicatorLeft.png")
+                                   : QStringLiteral("menuIndicator.png"));
     const QList<QDomNode> groups = ProfileGroupLoader::instance()->groups();
     ui->listMenu->setRowCount(groups.size());
     for (int row = 0; row < groups.size(); ++row) {
