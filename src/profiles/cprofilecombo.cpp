@@ -554,6 +554,15 @@ CProfileCombo::CProfileCombo(QWidget *parent)
     setAccessibleName(tr("Profile"));
     setIconSize(QSize(24, 24));
     rebuildMenu();
+    // A profile saved, renamed or removed shows at once, wherever that happened.
+    connect(ProfileGroupLoader::changes(), &CatalogueSignals::profilesChanged, this, [this] {
+        rebuildMenu();
+        if (record.key.isEmpty())
+            return;
+        const QString key = record.key;
+        const QSignalBlocker blocker(ProfileGroupLoader::instance()->hasProfile(key) ? this : nullptr);
+        insertProfile(key.section(QLatin1Char(','), 0, 0), key.section(QLatin1Char(','), 1));
+    });
 }
 
 CProfileCombo::~CProfileCombo() = default;

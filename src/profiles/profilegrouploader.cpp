@@ -73,6 +73,12 @@ ProfileGroupLoader *ProfileGroupLoader::instance()
     return &catalogue;
 }
 
+CatalogueSignals *ProfileGroupLoader::changes()
+{
+    static CatalogueSignals *changed = new CatalogueSignals;
+    return changed;
+}
+
 ProfileGroupLoader::ProfileGroupLoader()
 {
     initCatalogueResources();
@@ -328,6 +334,7 @@ QString ProfileGroupLoader::addUserProfile(const QDomNode &node)
     }
     idField.setAttribute(QStringLiteral("value"), id);
     target.appendChild(entry);
+    emit changes()->profilesChanged();
     return profileKey(QStringLiteral("0"), id);
 }
 
@@ -338,6 +345,7 @@ bool ProfileGroupLoader::renameUserProfile(const QString &groupId, const QString
     if (entry.isNull())
         return false;
     setField(entry, QStringLiteral("Name"), name);
+    emit changes()->profilesChanged();
     return save();
 }
 
@@ -351,6 +359,7 @@ QString ProfileGroupLoader::removeUserProfile(const QString &groupId, const QStr
     const QString file = childValue(entry, QStringLiteral("FileName"));
     const QString inheritFrom = childValue(entry, QStringLiteral("InheritFrom"));
     entry.parentNode().removeChild(entry);
+    emit changes()->profilesChanged();
     // The stored catalogue still names the document: keep it for the next start.
     const QString name = QFileInfo(file).fileName();
     if (save() && !name.isEmpty())

@@ -5,7 +5,17 @@
 
 #include <QList>
 #include <QMap>
+#include <QObject>
 #include <QString>
+
+// Tells the views of the catalogue that its user profiles changed.
+class CatalogueSignals : public QObject
+{
+    Q_OBJECT
+
+signals:
+    void profilesChanged();
+};
 
 // The catalogue of output profiles: the built-in groups from the resources
 // with the user's own group "User Defined" merged in from the user's
@@ -15,6 +25,8 @@ class ProfileGroupLoader : public XmlLoader, public ProfileLookup
 public:
     // The process's catalogue, read on first use.
     static ProfileGroupLoader *instance();
+    // Says when a user profile is added, renamed or removed.
+    static CatalogueSignals *changes();
 
     // Reads the built-in catalogue, then the user's group. Only the process
     // object and tests make one.
