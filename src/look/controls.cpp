@@ -11,27 +11,33 @@
 #include <QStyleOptionSlider>
 #include <QTimer>
 
-namespace {
-
-// One step of a fade: by the timer's interval, not the time that passed.
-void advance(int &alpha, int &step, QTimer *timer, int duration)
+Fade::Fade(QWidget *widget, const char *durationKey, int tick)
+    : timer(new QTimer(widget)), interval(tick),
+      duration(qMax(1, QxSkin::instance()->configInt(QLatin1String(durationKey), 330)))
 {
-    if (step == 0)
-        return;
-    alpha += step * timer->interval() * 255 / qMax(1, duration);
-    if (alpha < 0 || alpha > 255) {
-        alpha = qBound(0, alpha, 255);
-        timer->stop();
-        step = 0;
+    QObject::connect(timer, &QTimer::timeout, widget, qOverload<>(&QWidget::update));
+}
+
+void Fade::start(int direction)
+{
+    step = direction;
+    timer->start(interval);
+}
+
+qreal Fade::advance()
+{
+    // -1 before the first fade paints like 0.
+    const qreal opacity = qMax(0, value) * (1.0 / 255);
+    if (step != 0) {
+        value += step * interval * 255 / duration;
+        if (value < 0 || value > 255) {
+            value = qBound(0, value, 255);
+            timer->stop();
+            step = 0;
+        }
     }
+    return opacity;
 }
-
-qreal opacityOf(int alpha)
-{
-    return qMax(0, alpha) * (1.0 / 255);
-}
-
-} // namespace
 
 bool rightToLeftInterface(const QWidget *widget)
 {
@@ -42,10 +48,8 @@ bool rightToLeftInterface(const QWidget *widget)
 // ---- FadePushButton
 
 FadePushButton::FadePushButton(QWidget *parent)
-    : QPushButton(parent), timer(new QTimer(this)),
-      duration(QxSkin::instance()->configInt(QStringLiteral("START_BUTTON_FADE_DURATION"), 330))
+    : QPushButton(parent), fade(this, "START_BUTTON_FADE_DURATION", 33)
 {
-    connect(timer, &QTimer::timeout, this, qOverload<>(&QWidget::update));
     reloadImages();
 }
 
@@ -55,13 +59,6 @@ void FadePushButton::reloadImages()
     maskImage = QxSkin::instance()->image(QStringLiteral("startMask.png"), ratio);
     hoverStartImage = QxSkin::instance()->image(QStringLiteral("startMaskHover.png"), ratio);
     hoverStopImage = QxSkin::instance()->image(QStringLiteral("stopMaskHover.png"), ratio);
-}
-
-void FadePushButton::startFade(int direction)
-{
-    // A fade under way turns round where it stands.
-    step = direction;
-    timer->start(33);
 }
 
 void FadePushButton::enterEvent(QEnterEvent *event)
@@ -85,24 +82,19 @@ void FadePushButton::paintEvent(QPaintEvent *event)
         return;
     QPainter painter(this);
     painter.drawImage(rect(), maskImage);
-    painter.save();
-    painter.setOpacity(opacityOf(alpha));
+    painter.setOpacity(fade.advance());
     const QString status = property("status").toString();
     if (status == QLatin1String("start"))
         painter.drawImage(rect(), hoverStartImage);
     else if (status == QLatin1String("stop"))
         painter.drawImage(rect(), hoverStopImage);
-    painter.restore();
-    advance(alpha, step, timer, duration);
 }
 
 // ---- FadeToolButton
 
 FadeToolButton::FadeToolButton(QWidget *parent)
-    : IconToolButton(parent), timer(new QTimer(this)),
-      duration(QxSkin::instance()->configInt(QStringLiteral("TOOLBAR_BUTTON_FADE_DURATION"), 330))
+    : IconToolButton(parent), fade(this, "TOOLBAR_BUTTON_FADE_DURATION", 10)
 {
-    connect(timer, &QTimer::timeout, this, qOverload<>(&QWidget::update));
     reloadImages();
 }
 
@@ -112,12 +104,6 @@ void FadeToolButton::reloadImages()
     maskImage = QxSkin::instance()->image(QStringLiteral("toolbarMask.png"), ratio);
     hoverImage = QxSkin::instance()->image(QStringLiteral("toolbarMaskHover.png"), ratio);
     pressedImage = QxSkin::instance()->image(QStringLiteral("toolbarMaskPressed.png"), ratio);
-}
-
-void FadeToolButton::startFade(int direction)
-{
-    step = direction;
-    timer->start(10);
 }
 
 void FadeToolButton::enterEvent(QEnterEvent *event)
@@ -144,9 +130,8 @@ void FadeToolButton::paintEvent(QPaintEvent *event)
             painter.drawImage(rect(), pressedImage);
         } else {
             painter.drawImage(rect(), maskImage);
-            painter.setOpacity(opacityOf(alpha));
+            painter.setOpacity(fade.advance());
             painter.drawImage(rect(), hoverImage);
-            advance(alpha, step, timer, duration);
         }
     }
     IconToolButton::paintEvent(event);

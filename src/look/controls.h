@@ -10,6 +10,26 @@
 
 class QTimer;
 
+// A hover picture fading in and out: the timer only asks for a paint, and
+// each paint moves the fade by the timer's interval.
+class Fade
+{
+public:
+    Fade(QWidget *widget, const char *durationKey, int interval);
+    // +1 fades in, -1 out; a fade under way turns round where it stands.
+    void start(int step);
+    // The opacity to paint with now; moves the fade on.
+    qreal advance();
+    int alpha() const { return value; }
+
+private:
+    QTimer *timer;
+    int interval;
+    int duration;
+    int value = -1;
+    int step = 0;
+};
+
 // The start button: a mask over the face, and a hover picture that fades in
 // and out with the pointer. Its property "status" ("start" or "stop")
 // picks the hover picture.
@@ -20,8 +40,8 @@ class FadePushButton : public QPushButton
 public:
     explicit FadePushButton(QWidget *parent = nullptr);
     void reloadImages();
-    void startFade(int step);
-    int fadeAlpha() const { return alpha; }
+    void startFade(int step) { fade.start(step); }
+    int fadeAlpha() const { return fade.alpha(); }
 
 protected:
     void enterEvent(QEnterEvent *event) override;
@@ -32,10 +52,7 @@ private:
     QImage maskImage;
     QImage hoverStartImage;
     QImage hoverStopImage;
-    QTimer *timer;
-    int alpha = -1;
-    int duration;
-    int step = 0;
+    Fade fade;
 };
 
 class IconToolButton : public QToolButton
@@ -54,8 +71,8 @@ class FadeToolButton : public IconToolButton
 public:
     explicit FadeToolButton(QWidget *parent = nullptr);
     void reloadImages();
-    void startFade(int step);
-    int fadeAlpha() const { return alpha; }
+    void startFade(int step) { fade.start(step); }
+    int fadeAlpha() const { return fade.alpha(); }
 
 protected:
     void enterEvent(QEnterEvent *event) override;
@@ -66,10 +83,7 @@ private:
     QImage maskImage;
     QImage hoverImage;
     QImage pressedImage;
-    QTimer *timer;
-    int alpha = -1;
-    int duration;
-    int step = 0;
+    Fade fade;
 };
 
 // The playback slider: its handle stays between the trim marks, a click

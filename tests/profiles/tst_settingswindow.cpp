@@ -1,6 +1,7 @@
 #include "editablecombo.h"
 #include "focusoutcombo.h"
 #include "settingswindow.h"
+#include "fixedtranslator.h"
 #include "testhome.h"
 
 #include <QApplication>
@@ -11,7 +12,6 @@
 #include <QTabWidget>
 #include <QTextEdit>
 #include <QTest>
-#include <QTranslator>
 #include <QTreeWidget>
 
 // The settings window over real catalogue documents, used as a user does.
@@ -168,17 +168,7 @@ void TestSettingsWindow::languageSwitchKeepsValues()
                                       {QStringLiteral("s"), QStringLiteral("640x480")}};
     window->setProfile(QStringLiteral("mp4.xml"), &task);
     const QMap<QString, QString> before = window->values();
-    class German : public QTranslator
-    {
-    public:
-        QString translate(const char *context, const char *source, const char *, int) const override
-        {
-            if (qstrcmp(context, "SettingsWindow") == 0 && qstrcmp(source, "Video Bitrate") == 0)
-                return QStringLiteral("Video-Bitrate");
-            return QString();
-        }
-        bool isEmpty() const override { return false; }
-    } german;
+    FixedTranslator german("SettingsWindow", "Video Bitrate", QStringLiteral("Video-Bitrate"));
     QCoreApplication::installTranslator(&german);
     QTRY_VERIFY(row(QStringLiteral("Video-Bitrate")));
     QCOMPARE(window->values(), before);

@@ -1,4 +1,5 @@
 #include "editablecombo.h"
+#include "fixedtranslator.h"
 #include "focusoutcombo.h"
 #include "qttreepropertybrowser.h"
 #include "qtvariantproperty.h"
@@ -10,7 +11,6 @@
 #include <QPointer>
 #include <QSignalSpy>
 #include <QTest>
-#include <QTranslator>
 #include <QTreeWidget>
 
 // The property tree and its editors, driven with mouse and keys.
@@ -161,17 +161,7 @@ void TestPropertyBrowser::rowsShowStateAndFollowTheLanguage()
     delete codec;
     QVERIFY(!row(QStringLiteral("Codec")));
 
-    class German : public QTranslator
-    {
-    public:
-        QString translate(const char *context, const char *source, const char *, int) const override
-        {
-            if (qstrcmp(context, "QtTreePropertyBrowser") == 0 && qstrcmp(source, "Property") == 0)
-                return QStringLiteral("Eigenschaft");
-            return QString();
-        }
-        bool isEmpty() const override { return false; }
-    } german;
+    FixedTranslator german("QtTreePropertyBrowser", "Property", QStringLiteral("Eigenschaft"));
     QCoreApplication::installTranslator(&german);
     QTRY_COMPARE(tree->headerItem()->text(0), QStringLiteral("Eigenschaft"));
     QCoreApplication::removeTranslator(&german);
