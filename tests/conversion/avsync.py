@@ -68,8 +68,9 @@ def main(path):
         branch = Gst.parse_bin_from_description(description, True)
         pipeline.add(branch)
         branch.get_by_name("sink").connect("new-sample", handler)
-        branch.sync_state_with_parent()
+        # Linked before it starts, so that it sees the stream from its beginning.
         pad.link(branch.get_static_pad("sink"))
+        branch.sync_state_with_parent()
 
     pipeline.get_by_name("d").connect("pad-added", on_pad)
     bus = pipeline.get_bus()
