@@ -19,10 +19,10 @@ def stream_time(sample, pts):
 
 def main(path):
     Gst.init(None)
-    # Branches are made for the streams the file has, as decodebin finds
-    # them: an unlinked branch would hold the pipeline from playing.
-    pipeline = Gst.parse_launch("filesrc name=src ! decodebin name=d")
-    pipeline.get_by_name("src").set_property("location", path)
+    # playbin links what the file has and leaves the other sink idle.
+    pipeline = Gst.ElementFactory.make("playbin", None)
+    pipeline.set_property("uri", Gst.filename_to_uri(path))
+    pipeline.set_property("flags", 0x1 | 0x2)  # picture and sound, no text
     found = {"flash": None, "beep": None}
 
     def on_video(sink):
@@ -53,26 +53,14 @@ def main(path):
             buffer.unmap(info)
         return Gst.FlowReturn.OK
 
-    branches = {
-        "video": ("queue ! videoconvert ! video/x-raw,format=GRAY8 ! appsink name=sink sync=false emit-signals=true",
-                  on_video),
-        "audio": ("queue ! audioconvert ! audio/x-raw,format=S16LE,channels=1,layout=interleaved "
-                  "! appsink name=sink sync=false emit-signals=true", on_audio),
-    }
-
-    def on_pad(decoder, pad):
-        kind = pad.query_caps(None).get_structure(0).get_name().split("/")[0]
-        if kind not in branches:
-            return
-        description, handler = branches.pop(kind)
-        branch = Gst.parse_bin_from_description(description, True)
-        pipeline.add(branch)
+    for kind, description, handler in (
+            ("video-sink", "videoconvert ! video/x-raw,format=GRAY8", on_video),
+            ("audio-sink", "audioconvert ! audio/x-raw,format=S16LE,channels=1,layout=interleaved",
+             on_audio)):
+        branch = Gst.parse_bin_from_description(
+            description + " ! appsink name=sink sync=false emit-signals=true", True)
         branch.get_by_name("sink").connect("new-sample", handler)
-        # Linked before it starts, so that it sees the stream from its beginning.
-        pad.link(branch.get_static_pad("sink"))
-        branch.sync_state_with_parent()
-
-    pipeline.get_by_name("d").connect("pad-added", on_pad)
+        pipeline.set_property(kind, branch)
     bus = pipeline.get_bus()
     pipeline.set_state(Gst.State.PLAYING)
     error = None
