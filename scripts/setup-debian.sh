@@ -11,7 +11,7 @@ packages=(
     libswresample-dev libavfilter-dev
     libdvdread-dev dvdauthor libass-dev
     xvfb xauth
-    dbus
+    dbus pulseaudio pulseaudio-utils
     python3 python3-gi gir1.2-gstreamer-1.0 mediainfo
     gstreamer1.0-plugins-base gstreamer1.0-plugins-base-apps gstreamer1.0-plugins-good
     gstreamer1.0-plugins-bad gstreamer1.0-plugins-ugly gstreamer1.0-libav
