@@ -672,7 +672,9 @@ QStringList EncoderJob::ffmpegArguments(const QStringList &sources,
         // A rate change by the output's -r alone comes two frames late in
         // ffmpeg 5.1; the fps filter takes the frame nearest each instant.
         const QString rate = outputOption("r");
-        const QString graph = joinFilters({FilterTranslator::translate(in.videoChain).graph,
+        // A file seeks ahead of its input, which starts the frames' time at 0.
+        const double seek = in.isTitle() ? 0.0 : optionValue(in.options, "-ss").toDouble();
+        const QString graph = joinFilters({FilterTranslator::translate(in.videoChain, {}, seek).graph,
                                            rate.isEmpty() ? QString() : QStringLiteral("fps=") + rate});
         const QString source = sourceFilters(0, layout);
         const QString subpicture = subpictureStream(0, layout);

@@ -138,7 +138,8 @@ QString FilterTranslator::effectFilter(int type)
 }
 
 FilterTranslator::Result FilterTranslator::translate(const QString &chain,
-                                                     const QString &labelPrefix)
+                                                     const QString &labelPrefix,
+                                                     double subtitleShift)
 {
     Result result;
     // Each link of the graph: the filters of one linear run, and the
@@ -192,8 +193,14 @@ FilterTranslator::Result FilterTranslator::translate(const QString &chain,
                                QString::number(args.value(1).toInt()))};
         } else if (name == QLatin1String("subtitle")) {
             const QString text = subtitleFilter(args, result.notes);
-            if (!text.isEmpty())
-                linear << text;
+            if (text.isEmpty())
+                continue;
+            const QString shift = QString::number(subtitleShift, 'g', 10);
+            if (subtitleShift != 0.0)
+                linear << QStringLiteral("setpts=PTS+%1/TB").arg(shift);
+            linear << text;
+            if (subtitleShift != 0.0)
+                linear << QStringLiteral("setpts=PTS-%1/TB").arg(shift);
         } else if (name == QLatin1String("crop") || name == QLatin1String("scale")
                    || name == QLatin1String("pad") || name == QLatin1String("yadif")) {
             linear << filter;

@@ -16,7 +16,11 @@ public:
     };
 
     // Labels inside the graph start with labelPrefix, so several graphs can share one text.
-    static Result translate(const QString &chain, const QString &labelPrefix = QString());
+    // A subtitle file is timed on the source's own time line: where the
+    // frames' time starts `subtitleShift` seconds into the source (a seek
+    // ahead of the input), the subtitle sees them shifted back.
+    static Result translate(const QString &chain, const QString &labelPrefix = QString(),
+                            double subtitleShift = 0.0);
 
     // The stock filters of one effect number, or empty when the number is unknown.
     static QString effectFilter(int type);
