@@ -1,6 +1,7 @@
 #include "filterchain.h"
 
 #include "childtask.h"
+#include "filtertext.h"
 #include "utils.h"
 
 #include <QStringList>
@@ -32,20 +33,14 @@ QString filterChain(const ChildTask &child)
                        .arg(e.padTop);
     }
 
-    QString effectText;
+    std::vector<int> effects;
     for (const EffectEntry &effect : e.effects) {
         if (effect.enabled)
-            effectText += QString::number(effect.type) + QLatin1Char('a');
+            effects.push_back(effect.type);
     }
-    if (e.brightness != 0 || e.contrast != 0 || e.saturation != 0 || !effectText.isEmpty()) {
-        QString text = QStringLiteral("effect2=%1:%2:%3")
-                           .arg(e.brightness)
-                           .arg(e.contrast)
-                           .arg(e.saturation);
-        if (!effectText.isEmpty())
-            text += QLatin1Char(':') + effectText;
-        filters << text;
-    }
+    const QString picture = pictureEffectText(e.brightness, e.contrast, e.saturation, effects);
+    if (!picture.isEmpty())
+        filters << picture;
 
     if (!e.watermarkFile.isEmpty())
         filters << QStringLiteral("watermark2=%1:%2:%3")
@@ -53,24 +48,8 @@ QString filterChain(const ChildTask &child)
                        .arg(e.watermarkY)
                        .arg(hexText(e.watermarkFile));
 
-    if (const SubtitleEntry *subtitle = e.selectedSubtitleFile()) {
-        const QFont &font = subtitle->font;
-        int style = 0;
-        if (font.weight() > QFont::Normal)
-            style += 1;
-        if (font.style() != QFont::StyleNormal)
-            style += 2;
-        filters << QStringLiteral("subtitle=%1:%2:%3:%4x%5x%6:%7:%8:%9:%10")
-                       .arg(hexText(font.family()))
-                       .arg(font.pointSize())
-                       .arg(style)
-                       .arg(subtitle->color.red())
-                       .arg(subtitle->color.green())
-                       .arg(subtitle->color.blue())
-                       .arg((100 - subtitle->transparency) * 255 / 100)
-                       .arg(subtitle->position)
-                       .arg(subtitle->track)
-                       .arg(hexText(subtitle->path));
-    }
+    if (const SubtitleEntry *subtitle = e.selectedSubtitleFile())
+        filters << subtitleFileText(subtitle->font, subtitle->color, subtitle->transparency,
+                                    subtitle->position, subtitle->track, subtitle->path);
     return filters.join(QLatin1Char(','));
 }

@@ -1,7 +1,14 @@
 #include "ffplayer.h"
 
+#include "filtertext.h"
+#include "filtertranslator.h"
+
 extern "C" {
+#include <libavfilter/avfilter.h>
+#include <libavfilter/buffersink.h>
+#include <libavfilter/buffersrc.h>
 #include <libavutil/imgutils.h>
+#include <libavutil/opt.h>
 #include <libavutil/mem.h>
 #include <libswscale/swscale.h>
 }
@@ -24,6 +31,105 @@ int rgbLineSize(int width)
 }
 
 } // namespace
+
+// The stock filter graph of the edits, run on one picture at a time; built
+// again when the picture's size or the edits change.
+class EditedPicture
+{
+public:
+    ~EditedPicture() { reset(); }
+
+    // Into `rgb`, which is of the picture's size. False where the graph fails.
+    bool run(const PlayerPicture &picture, const QString &graphText, int64_t milliseconds,
+             PlayerPicture &rgb)
+    {
+        if (!configure(picture.width, picture.height, graphText))
+            return false;
+        AVFrame *in = av_frame_alloc();
+        in->format = AV_PIX_FMT_YUV420P;
+        in->width = picture.width;
+        in->height = picture.height;
+        in->pts = milliseconds;
+        std::copy(picture.data, picture.data + 4, in->data);
+        std::copy(picture.linesize, picture.linesize + 4, in->linesize);
+        // Not counted by reference: the source copies it.
+        const int sent = av_buffersrc_add_frame_flags(source, in, AV_BUFFERSRC_FLAG_KEEP_REF);
+        av_frame_free(&in);
+        AVFrame *out = av_frame_alloc();
+        const bool made = sent >= 0 && av_buffersink_get_frame(sink, out) >= 0
+                          && out->width == rgb.width && out->height == rgb.height;
+        if (made)
+            av_image_copy(rgb.data, rgb.linesize, const_cast<const uint8_t **>(out->data),
+                          out->linesize, AV_PIX_FMT_RGB24, rgb.width, rgb.height);
+        av_frame_free(&out);
+        if (!made)
+            reset(); // built anew next time, rather than left half fed
+        return made;
+    }
+
+private:
+    AVFilterGraph *graph = nullptr;
+    AVFilterContext *source = nullptr;
+    AVFilterContext *sink = nullptr;
+    int width = 0;
+    int height = 0;
+    QString text;
+
+    void reset()
+    {
+        avfilter_graph_free(&graph);
+        source = sink = nullptr;
+        width = height = 0;
+        text.clear();
+    }
+
+    bool configure(int w, int h, const QString &graphText)
+    {
+        if (graph && w == width && h == height && graphText == text)
+            return true;
+        reset();
+        graph = avfilter_graph_alloc();
+        const QByteArray args = QStringLiteral("video_size=%1x%2:pix_fmt=%3:time_base=1/1000:"
+                                               "pixel_aspect=1/1")
+                                    .arg(w)
+                                    .arg(h)
+                                    .arg(int(AV_PIX_FMT_YUV420P))
+                                    .toUtf8();
+        const AVPixelFormat rgbOnly[] = {AV_PIX_FMT_RGB24, AV_PIX_FMT_NONE};
+        AVFilterInOut *outputs = avfilter_inout_alloc();
+        AVFilterInOut *inputs = avfilter_inout_alloc();
+        bool ok = graph && outputs && inputs
+                  && avfilter_graph_create_filter(&source, avfilter_get_by_name("buffer"), "in",
+                                                  args.constData(), nullptr, graph)
+                         >= 0
+                  && avfilter_graph_create_filter(&sink, avfilter_get_by_name("buffersink"),
+                                                  "out", nullptr, nullptr, graph)
+                         >= 0
+                  && av_opt_set_int_list(sink, "pix_fmts", rgbOnly, AV_PIX_FMT_NONE,
+                                         AV_OPT_SEARCH_CHILDREN)
+                         >= 0;
+        if (ok) {
+            outputs->name = av_strdup("in");
+            outputs->filter_ctx = source;
+            inputs->name = av_strdup("out");
+            inputs->filter_ctx = sink;
+            ok = avfilter_graph_parse_ptr(graph, graphText.toUtf8().constData(), &inputs,
+                                          &outputs, nullptr)
+                     >= 0
+                 && avfilter_graph_config(graph, nullptr) >= 0;
+        }
+        avfilter_inout_free(&inputs);
+        avfilter_inout_free(&outputs);
+        if (!ok) {
+            reset();
+            return false;
+        }
+        width = w;
+        height = h;
+        text = graphText;
+        return true;
+    }
+};
 
 FFPlayer *FFPlayer::instance()
 {
@@ -52,6 +158,7 @@ FFPlayer::FFPlayer()
 
 FFPlayer::~FFPlayer()
 {
+    m_edited.reset();
     m_engine.setStateCallback(nullptr);
     m_engine.stop();
     freePicture(m_sourcePicture);
@@ -102,8 +209,66 @@ QImage FFPlayer::originalImage()
         return {};
     sws_scale(m_scaler, m_sourcePicture.data, m_sourcePicture.linesize, 0, height,
               m_rgbPicture.data, m_rgbPicture.linesize);
-    return QImage(m_rgbPicture.data[0], width, height, m_rgbPicture.linesize[0],
-                  QImage::Format_RGB888);
+    return wrapRgb();
+}
+
+QImage FFPlayer::wrapRgb()
+{
+    return QImage(m_rgbPicture.data[0], m_rgbPicture.width, m_rgbPicture.height,
+                  m_rgbPicture.linesize[0], QImage::Format_RGB888);
+}
+
+QImage FFPlayer::outputImage()
+{
+    QString chain = pictureEffectText(m_brightness, m_contrast, m_saturation, m_effects);
+    if (!m_subtitleFile.isEmpty()) {
+        if (!chain.isEmpty())
+            chain += QLatin1Char(',');
+        chain += subtitleFileText(m_subtitleFont, m_subtitleColor, m_subtitleTransparency,
+                                  m_subtitlePosition, m_subtitleStream, m_subtitleFile);
+    }
+    const QString graph = FilterTranslator::translate(chain).graph;
+    const QImage original = originalImage(); // sizes the buffer, and the answer without edits
+    if (graph.isEmpty() || original.isNull())
+        return original;
+    if (!m_edited)
+        m_edited = std::make_unique<EditedPicture>();
+    std::lock_guard<std::mutex> guard(m_pictureMutex);
+    if (m_sourcePicture.width != m_rgbPicture.width || m_sourcePicture.height != m_rgbPicture.height)
+        return {}; // a new size came in between: the next paint has it
+    const auto milliseconds = int64_t(currentTime() * 1000.0);
+    m_edited->run(m_sourcePicture, graph, milliseconds, m_rgbPicture);
+    return wrapRgb();
+}
+
+void FFPlayer::setPictureAdjust(int brightness, int contrast, int saturation)
+{
+    m_brightness = brightness;
+    m_contrast = contrast;
+    m_saturation = saturation;
+}
+
+void FFPlayer::setEffects(const std::vector<int> &types)
+{
+    m_effects = types;
+}
+
+void FFPlayer::setSubtitle(int stream, const QString &file)
+{
+    // A stream of the source is the engine's to draw; a file's is ours.
+    m_engine.selectSubtitle(stream < 0 || !file.isEmpty() ? PlayerEngine::noTrack : stream);
+    m_subtitleStream = stream;
+    m_subtitleFile = file;
+}
+
+void FFPlayer::setSubtitleStyle(int stream, const QString &file, const QFont &font,
+                                const QColor &color, int transparency, int position)
+{
+    setSubtitle(stream, file);
+    m_subtitleFont = font;
+    m_subtitleColor = color;
+    m_subtitleTransparency = transparency;
+    m_subtitlePosition = position;
 }
 
 bool FFPlayer::open(const QString &path, const QString &format, int pgc)

@@ -2,13 +2,18 @@
 
 #include "playerengine.h"
 
+#include <QColor>
+#include <QFont>
 #include <QImage>
 #include <QObject>
 #include <QString>
 
+#include <memory>
 #include <mutex>
+#include <vector>
 
 struct SwsContext;
+class EditedPicture;
 
 // The one player of the process: drives the engine and keeps the last
 // picture it showed, for the video surfaces to paint.
@@ -39,9 +44,19 @@ public:
     double duration() const { return m_engine.duration(); }
     PlayerEngine &engine() { return m_engine; }
 
-    // The last picture, without edits. Shares a buffer that the next call
-    // overwrites; null before the first picture.
+    // The edits that outputImage() shows, as the encoder gets them: the
+    // picture values from -100 to 100, effect numbers in order, a subtitle
+    // stream of the source or a subtitle file (its stream `stream`) in a style.
+    void setPictureAdjust(int brightness, int contrast, int saturation);
+    void setEffects(const std::vector<int> &types);
+    void setSubtitle(int stream, const QString &file);
+    void setSubtitleStyle(int stream, const QString &file, const QFont &font, const QColor &color,
+                          int transparency, int position);
+
+    // The last picture, without edits, and with them. Both share a buffer
+    // that the next call overwrites; null before the first picture.
     QImage originalImage();
+    QImage outputImage();
 
 signals:
     // 0 stopped, 1 playing, 2 paused; always through the event queue.
@@ -58,6 +73,15 @@ private:
     int m_state = 0;
     int m_subtitleStream = -1;
     int m_audioTrack = 0;
+    int m_brightness = 0;
+    int m_contrast = 0;
+    int m_saturation = 0;
+    std::vector<int> m_effects;
+    QString m_subtitleFile;
+    QFont m_subtitleFont;
+    QColor m_subtitleColor = Qt::white;
+    int m_subtitleTransparency = 0;
+    int m_subtitlePosition = 90;
 
     // The pictures are written on the engine's thread and read on the
     // window's; the lock keeps a size change from freeing a buffer in use.
@@ -65,4 +89,7 @@ private:
     PlayerPicture m_sourcePicture;
     PlayerPicture m_rgbPicture;
     SwsContext *m_scaler = nullptr;
+    std::unique_ptr<EditedPicture> m_edited;
+
+    QImage wrapRgb();
 };
