@@ -3,7 +3,6 @@
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
 #include <QDBusContext>
-#include <QDBusMessage>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFile>
@@ -21,25 +20,21 @@ const QString fileManagerService = QStringLiteral("org.freedesktop.FileManager1"
 
 // A bus of our own with nothing that can be started on demand, so that no
 // real file manager of the machine ever opens.
-const char busConfig[]
-    = "<!DOCTYPE busconfig PUBLIC \"-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN\"\n"
-      " \"http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd\">\n"
-      "<busconfig>\n"
-      "  <type>session</type>\n"
-      "  <listen>unix:tmpdir=/tmp</listen>\n"
-      "  <auth>EXTERNAL</auth>\n"
-      "  <policy context=\"default\">\n"
-      "    <allow send_destination=\"*\" eavesdrop=\"true\"/>\n"
-      "    <allow eavesdrop=\"true\"/>\n"
-      "    <allow own=\"*\"/>\n"
-      "  </policy>\n"
-      "</busconfig>\n";
+const char busConfig[] = "<busconfig><type>session</type><listen>unix:tmpdir=/tmp</listen>"
+                         "<auth>EXTERNAL</auth><policy context=\"default\">"
+                         "<allow send_destination=\"*\" eavesdrop=\"true\"/>"
+                         "<allow eavesdrop=\"true\"/><allow own=\"*\"/></policy></busconfig>\n";
 
 void touch(const QString &path)
 {
     QDir().mkpath(QFileInfo(path).absolutePath());
     QFile file(path);
     file.open(QIODevice::WriteOnly);
+}
+
+QString uri(const QString &path)
+{
+    return QUrl::fromLocalFile(path).toString(QUrl::FullyEncoded);
 }
 
 // Stands in for a file manager: prints each ShowItems call, or refuses them.
@@ -54,13 +49,10 @@ public:
     {}
 
 public slots:
-    void ShowItems(const QStringList &uris, const QString &startupId)
+    void ShowItems(const QStringList &uris, const QString &)
     {
-        Q_UNUSED(startupId)
-        if (refuse) {
-            sendErrorReply(QDBusError::Failed, QStringLiteral("refused"));
-            return;
-        }
+        if (refuse)
+            return sendErrorReply(QDBusError::Failed, QStringLiteral("refused"));
         std::printf("%s\n", qPrintable(uris.join(QLatin1Char('|'))));
         std::fflush(stdout);
     }
@@ -80,6 +72,11 @@ int fakeFileManagerMain(bool refuse)
     std::printf("ready\n");
     std::fflush(stdout);
     return QCoreApplication::exec();
+}
+
+bool fileManagerRegistered()
+{
+    return QDBusConnection::sessionBus().interface()->isServiceRegistered(fileManagerService);
 }
 
 } // namespace
@@ -106,22 +103,14 @@ public:
 
 private slots:
     void initTestCase();
-    void cleanupTestCase();
-    void init();
     void cleanup();
-    void groups();
     void groupsDropMissingFiles();
-    void showItemsOverBus();
-    void refusedShowOpensFolder();
-    void withoutFileManagerOpenFolders();
+    void openFolderAndSelect_data();
+    void openFolderAndSelect();
     void openLocalFile();
 
 private:
     QStringList sevenFolders() const;
-    bool startFakeFileManager(bool refuse);
-    void stopFakeFileManager();
-    static bool fileManagerRegistered();
-
     QString root;
     UrlCatcher catcher;
     QProcess fake;
@@ -133,19 +122,14 @@ void TestDesktop::initTestCase()
     QDesktopServices::setUrlHandler(QStringLiteral("file"), &catcher, "openUrl");
 }
 
-void TestDesktop::cleanupTestCase()
-{
-    QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
-}
-
-void TestDesktop::init()
-{
-    catcher.urls.clear();
-}
-
 void TestDesktop::cleanup()
 {
-    stopFakeFileManager();
+    catcher.urls.clear();
+    if (fake.state() == QProcess::NotRunning)
+        return;
+    fake.kill();
+    fake.waitForFinished();
+    QTRY_VERIFY(!fileManagerRegistered());
 }
 
 // Files in seven folders, two in the first; names with blanks and umlauts.
@@ -160,96 +144,56 @@ QStringList TestDesktop::sevenFolders() const
     return files;
 }
 
-bool TestDesktop::fileManagerRegistered()
-{
-    return QDBusConnection::sessionBus().interface()->isServiceRegistered(fileManagerService);
-}
-
-bool TestDesktop::startFakeFileManager(bool refuse)
-{
-    fake.start(QCoreApplication::applicationFilePath(),
-               {refuse ? QStringLiteral("--refusing-file-manager")
-                       : QStringLiteral("--fake-file-manager")});
-    if (!fake.waitForReadyRead(10000) || fake.readLine().trimmed() != "ready")
-        return false;
-    return fileManagerRegistered();
-}
-
-void TestDesktop::stopFakeFileManager()
-{
-    if (fake.state() == QProcess::NotRunning)
-        return;
-    fake.kill();
-    fake.waitForFinished();
-    QTRY_VERIFY(!fileManagerRegistered());
-}
-
-void TestDesktop::groups()
+void TestDesktop::groupsDropMissingFiles()
 {
     QStringList files = sevenFolders();
     std::reverse(files.begin(), files.end());
-    const QList<Utils::FolderGroup> groups = Utils::folderGroups(files, 5);
+    const QStringList missing{root + QStringLiteral("/a/gone.mp4"),
+                              root + QStringLiteral("/f2 ü/gone.mp4"), QString()};
+    const QList<Utils::FolderGroup> groups = Utils::folderGroups(missing + files, 5);
     QCOMPARE(groups.size(), 5);
     for (int i = 0; i < groups.size(); ++i)
         QCOMPARE(groups[i].folder, root + QStringLiteral("/f%1 ü").arg(i + 1));
     QCOMPARE(groups[0].files, QStringList({root + QStringLiteral("/f1 ü/clip 1.mp4"),
                                            root + QStringLiteral("/f1 ü/Ärger.mkv")}));
-    QCOMPARE(groups[4].files, QStringList{root + QStringLiteral("/f5 ü/clip 5.mp4")});
+    QCOMPARE(groups[1].files, QStringList{root + QStringLiteral("/f2 ü/clip 2.mp4")});
     QCOMPARE(Utils::folderGroups(files, 0).size(), 0);
     QCOMPARE(Utils::folderGroups(files, 10).size(), 7);
+    QVERIFY(Utils::folderGroups(missing, 5).isEmpty());
 }
 
-void TestDesktop::groupsDropMissingFiles()
+void TestDesktop::openFolderAndSelect_data()
 {
-    const QString kept = root + QStringLiteral("/g/kept.mp4");
-    touch(kept);
-    const QStringList files{root + QStringLiteral("/a/gone.mp4"),
-                            root + QStringLiteral("/g/gone.mp4"), kept,
-                            root + QStringLiteral("/missing folder/x.mp4"), QString()};
-    const QList<Utils::FolderGroup> groups = Utils::folderGroups(files, 5);
-    QCOMPARE(groups.size(), 1);
-    QCOMPARE(groups[0].folder, root + QStringLiteral("/g"));
-    QCOMPARE(groups[0].files, QStringList{kept});
-    QVERIFY(Utils::folderGroups({root + QStringLiteral("/a/gone.mp4")}, 5).isEmpty());
+    QTest::addColumn<QString>("fileManager");
+    QTest::newRow("file manager selects the files") << "--fake-file-manager";
+    QTest::newRow("file manager refuses: plain folders") << "--refusing-file-manager";
+    QTest::newRow("no file manager: plain folders") << "";
 }
 
-void TestDesktop::showItemsOverBus()
+void TestDesktop::openFolderAndSelect()
 {
-    QVERIFY(startFakeFileManager(false));
+    QFETCH(QString, fileManager);
+    if (!fileManager.isEmpty()) {
+        fake.start(QCoreApplication::applicationFilePath(), {fileManager});
+        QVERIFY(fake.waitForReadyRead(10000) && fake.readLine().trimmed() == "ready");
+    }
+    QCOMPARE(fileManagerRegistered(), !fileManager.isEmpty());
     Utils::openFolderAndSelect(sevenFolders(), 5);
     // The calls are answered before openFolderAndSelect returns.
     QStringList calls;
-    while (calls.size() < 5 && (fake.canReadLine() || fake.waitForReadyRead(5000)))
+    while (fake.canReadLine() || fake.waitForReadyRead(300))
         calls << QString::fromUtf8(fake.readLine()).trimmed();
-    QCOMPARE(calls.size(), 5);
-    QCOMPARE(
-        calls[0],
-        QUrl::fromLocalFile(root + QStringLiteral("/f1 ü/clip 1.mp4")).toString(QUrl::FullyEncoded)
-            + QLatin1Char('|')
-            + QUrl::fromLocalFile(root + QStringLiteral("/f1 ü/Ärger.mkv"))
-                  .toString(QUrl::FullyEncoded));
-    QCOMPARE(calls[4], QUrl::fromLocalFile(root + QStringLiteral("/f5 ü/clip 5.mp4"))
-                           .toString(QUrl::FullyEncoded));
-    QVERIFY(!fake.waitForReadyRead(300));
-    QVERIFY(catcher.urls.isEmpty());
-}
-
-void TestDesktop::refusedShowOpensFolder()
-{
-    QVERIFY(startFakeFileManager(true));
-    const QString file = root + QStringLiteral("/r/a.mp4");
-    touch(file);
-    Utils::openFolderAndSelect({file}, 5);
-    QCOMPARE(catcher.urls, QList<QUrl>{QUrl::fromLocalFile(root + QStringLiteral("/r"))});
-}
-
-void TestDesktop::withoutFileManagerOpenFolders()
-{
-    QVERIFY(!fileManagerRegistered());
-    Utils::openFolderAndSelect(sevenFolders(), 5);
-    QCOMPARE(catcher.urls.size(), 5);
-    QCOMPARE(catcher.urls[0], QUrl::fromLocalFile(root + QStringLiteral("/f1 ü")));
-    QCOMPARE(catcher.urls[4], QUrl::fromLocalFile(root + QStringLiteral("/f5 ü")));
+    QList<QUrl> folders;
+    for (int i = 1; i <= 5; ++i)
+        folders << QUrl::fromLocalFile(root + QStringLiteral("/f%1 ü").arg(i));
+    if (fileManager == QLatin1String("--fake-file-manager")) {
+        QCOMPARE(calls.size(), 5);
+        QCOMPARE(calls[0], uri(root + QStringLiteral("/f1 ü/clip 1.mp4")) + QLatin1Char('|')
+                               + uri(root + QStringLiteral("/f1 ü/Ärger.mkv")));
+        QCOMPARE(calls[4], uri(root + QStringLiteral("/f5 ü/clip 5.mp4")));
+        folders.clear();
+    }
+    QCOMPARE(catcher.urls, folders);
 }
 
 void TestDesktop::openLocalFile()
@@ -288,6 +232,7 @@ int main(int argc, char *argv[])
     QGuiApplication app(argc, argv);
     TestDesktop test(dir.filePath(QStringLiteral("files")));
     const int result = QTest::qExec(&test, argc, argv);
+    QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
     daemon.kill();
     daemon.waitForFinished();
     return result;
