@@ -81,17 +81,6 @@ bool fileManagerRegistered()
 
 } // namespace
 
-class UrlCatcher : public QObject
-{
-    Q_OBJECT
-
-public slots:
-    void openUrl(const QUrl &url) { urls << url; }
-
-public:
-    QList<QUrl> urls;
-};
-
 class TestDesktop : public QObject
 {
     Q_OBJECT
@@ -100,6 +89,10 @@ public:
     explicit TestDesktop(const QString &root)
         : root(root)
     {}
+
+public slots:
+    // Stands in for the desktop's program for files and folders.
+    void openUrl(const QUrl &url) { urls << url; }
 
 private slots:
     void initTestCase();
@@ -112,19 +105,19 @@ private slots:
 private:
     QStringList sevenFolders() const;
     QString root;
-    UrlCatcher catcher;
+    QList<QUrl> urls;
     QProcess fake;
 };
 
 void TestDesktop::initTestCase()
 {
     QVERIFY2(QDBusConnection::sessionBus().isConnected(), "no private session bus");
-    QDesktopServices::setUrlHandler(QStringLiteral("file"), &catcher, "openUrl");
+    QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "openUrl");
 }
 
 void TestDesktop::cleanup()
 {
-    catcher.urls.clear();
+    urls.clear();
     if (fake.state() == QProcess::NotRunning)
         return;
     fake.kill();
@@ -193,14 +186,14 @@ void TestDesktop::openFolderAndSelect()
         QCOMPARE(calls[4], uri(root + QStringLiteral("/f5 ü/clip 5.mp4")));
         folders.clear();
     }
-    QCOMPARE(catcher.urls, folders);
+    QCOMPARE(urls, folders);
 }
 
 void TestDesktop::openLocalFile()
 {
     const QString file = root + QStringLiteral("/o/my clip.mp4");
     QVERIFY(Utils::openLocalFile(file));
-    QCOMPARE(catcher.urls, QList<QUrl>{QUrl::fromLocalFile(file)});
+    QCOMPARE(urls, QList<QUrl>{QUrl::fromLocalFile(file)});
 }
 
 int main(int argc, char *argv[])
