@@ -5,14 +5,10 @@
 
 #include <QApplication>
 #include <QMenu>
-#include <QProcess>
-#include <QSettings>
 #include <QSignalSpy>
 #include <QSplashScreen>
 #include <QTest>
 #include <QTranslator>
-
-#include <csignal>
 
 class TestLanguage : public QObject
 {
@@ -21,8 +17,6 @@ class TestLanguage : public QObject
 private slots:
     void initTestCase();
     void menuSwitchesAtOnce();
-    void firstStartFollowsTheSystem_data();
-    void firstStartFollowsTheSystem();
 
 private:
     QTranslator application, browser, toolkit;
@@ -75,41 +69,6 @@ void TestLanguage::menuSwitchesAtOnce()
     language->setLanguage(QStringLiteral("xx"));
     QCOMPARE(menu->title(), QStringLiteral("&Language"));
     QCOMPARE(Setting::uiLanguage(), QStringLiteral("xx"));
-}
-
-void TestLanguage::firstStartFollowsTheSystem_data()
-{
-    QTest::addColumn<QString>("system");
-    QTest::addColumn<QString>("stored");
-    QTest::newRow("German") << "de_DE.UTF-8" << "de";
-    QTest::newRow("Chinese as listed") << "zh_CN.UTF-8" << "zh_CN";
-    QTest::newRow("Chinese of a region not listed") << "zh_HK.UTF-8" << "en";
-}
-
-// The real program, started on an empty store under a system language.
-void TestLanguage::firstStartFollowsTheSystem()
-{
-    QFETCH(QString, system);
-    QFETCH(QString, stored);
-    QTemporaryDir home;
-    QProcess program;
-    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-    for (const char *name : {"LC_ALL", "LC_MESSAGES", "LANGUAGE", "XDG_CONFIG_HOME"})
-        env.remove(QLatin1String(name));
-    env.insert(QStringLiteral("LANG"), system);
-    env.insert(QStringLiteral("HOME"), home.path());
-    program.setProcessEnvironment(env);
-    program.setProcessChannelMode(QProcess::ForwardedChannels);
-    program.start(QCoreApplication::applicationDirPath() + QStringLiteral("/kestrove"), {});
-    QVERIFY(program.waitForStarted(10000));
-    const QString file = home.path() + QStringLiteral("/.config/Tessarine/Kestrove.conf");
-    // The choice is stored as soon as it's made; a second start reads it.
-    QTRY_COMPARE_WITH_TIMEOUT(QSettings(file, QSettings::IniFormat).value(QStringLiteral("Setting/UiLanguage")).toString(),
-                              stored, 30000);
-    ::kill(pid_t(program.processId()), SIGTERM);
-    QVERIFY(program.waitForFinished(20000));
-    QCOMPARE(program.exitStatus(), QProcess::NormalExit);
-    QCOMPARE(program.exitCode(), 0);
 }
 
 int main(int argc, char *argv[])
