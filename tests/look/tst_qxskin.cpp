@@ -6,14 +6,10 @@
 #include <QApplication>
 #include <QDir>
 #include <QMenu>
-#include <QProcess>
 #include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
-
-#include <cstdio>
-#include <memory>
 
 namespace {
 
@@ -65,7 +61,6 @@ private slots:
     void switchesBetweenSkins();
     void configurationRules_data();
     void configurationRules();
-    void skinsBesideTheProgramWin();
     void fallsBackOnBadStoreOrFolder();
 
 private:
@@ -209,32 +204,12 @@ void TestQxSkin::configurationRules()
     QCOMPARE(skin.currentSkin(), 4);
 }
 
-// The root is settled beside the executable, so a copy of this test runs
-// from a scratch folder and reports what it found.
-void TestQxSkin::skinsBesideTheProgramWin()
-{
-    const QString bin = scratch.path() + QStringLiteral("/bin");
-    const QString root = bin + QStringLiteral("/skins");
-    // skin10 is beyond the numbers looked for.
-    const QMap<int, QByteArray> names{{0, "Zero"}, {7, "Seven"}, {10, "Ten"}};
-    for (auto it = names.begin(); it != names.end(); ++it)
-        QVERIFY(writeFile(root + QStringLiteral("/skin%1.qss").arg(it.key()), styleWithBlock(*it)));
-    QVERIFY(QFile::copy(QCoreApplication::applicationFilePath(), bin + QStringLiteral("/tst_qxskin")));
-    QProcess helper;
-    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-    env.insert(QStringLiteral("HOME"), scratch.path()); // a store of its own
-    helper.setProcessEnvironment(env);
-    helper.start(bin + QStringLiteral("/tst_qxskin"), {QStringLiteral("--report-root")});
-    QVERIFY(helper.waitForFinished(60000));
-    QCOMPARE(helper.exitCode(), 0);
-    QCOMPARE(helper.readAllStandardOutput().trimmed(), (root + QStringLiteral("|0,7|0|Zero")).toUtf8());
-}
-
 void TestQxSkin::fallsBackOnBadStoreOrFolder()
 {
     const QString root = scratch.path() + QStringLiteral("/range");
-    for (int n : {2, 5, 8})
+    for (int n : {2, 5, 8, 10}) // skin10 is beyond the numbers looked for
         makeSkin(root, n, styleWithBlock("S" + QByteArray::number(n)));
+    QCOMPARE(QxSkin(root).skinNumbers(), (QList<int>{2, 5, 8}));
     for (int position : {7, 3, -2}) {
         setSettingInt(skinIndexKey, position);
         QCOMPARE(QxSkin(root).currentSkin(), 2);
@@ -251,24 +226,10 @@ void TestQxSkin::fallsBackOnBadStoreOrFolder()
     QCOMPARE(skin.configValue(QStringLiteral("SKIN_NAME")), QStringLiteral("Black"));
 }
 
-static int reportRoot()
-{
-    QxSkin *skin = QxSkin::instance();
-    QStringList numbers;
-    for (int n : skin->skinNumbers())
-        numbers.append(QString::number(n));
-    std::printf("%s|%s|%d|%s\n", qPrintable(skin->rootFolder()), qPrintable(numbers.join(QLatin1Char(','))),
-                skin->currentSkin(), qPrintable(skin->configValue(QStringLiteral("SKIN_NAME"))));
-    return 0;
-}
-
 int main(int argc, char *argv[])
 {
-    const bool helper = argc > 1 && qstrcmp(argv[1], "--report-root") == 0;
-    std::unique_ptr<TestHome> home(helper ? nullptr : new TestHome);
+    TestHome home;
     QApplication app(argc, argv);
-    if (helper)
-        return reportRoot();
     TestQxSkin test;
     return QTest::qExec(&test, argc, argv);
 }
