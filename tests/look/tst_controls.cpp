@@ -17,7 +17,6 @@ private slots:
     void sliderClicks();
     void sliderDragAndKeys();
     void degenerateSlidersStayQuiet();
-    void fadeTurnsRoundMidWay();
     void colourComboMore();
     void colourButtonTintsOnlyBlack();
     void elidingLabel();
@@ -115,23 +114,6 @@ void TestControls::degenerateSlidersStayQuiet()
         s->repaint();
         QCOMPARE(s->value(), 0);
     }
-}
-
-void TestControls::fadeTurnsRoundMidWay()
-{
-    QWidget window;
-    window.resize(300, 100);
-    auto *start = new FadePushButton(&window);
-    start->setGeometry(10, 10, 120, 40);
-    QVERIFY(showExposed(&window));
-    // The pointer comes in, stays a while, and goes before the fade is done.
-    QTest::mouseMove(start, QPoint(60, 20));
-    QTRY_VERIFY(start->fadeAlpha() > 100);
-    QTest::mouseMove(&window, QPoint(280, 90));
-    const int turned = start->fadeAlpha();
-    QVERIFY(turned < 255);
-    QTRY_VERIFY(start->fadeAlpha() < turned);
-    QTRY_COMPARE(start->fadeAlpha(), 0);
 }
 
 void TestControls::colourComboMore()
