@@ -100,8 +100,9 @@ void TestQxSkin::builtInPicturesExist()
     for (const QString &name : pictures) {
         const QImage picture(folder.filePath(name));
         const QString twin = QString(name).replace(QStringLiteral(".png"), QStringLiteral("@2x.png"));
-        QVERIFY2(name.contains(QLatin1Char('@'))
-                     || QImage(folder.filePath(twin)).size() == picture.size() * 2,
+        QVERIFY2(!picture.isNull()
+                     && (name.contains(QLatin1Char('@'))
+                         || QImage(folder.filePath(twin)).size() == picture.size() * 2),
                  qPrintable(name));
     }
     // And every picture the style sheet names is there.
