@@ -16,16 +16,15 @@ private slots:
     void init();
     void cleanup();
     void hoverShowsAGroupAndAClickPicksOnce();
-    void popupKeys_data();
-    void popupKeys();
+    void keys_data();
+    void keys();
     void search_data();
     void search();
-    void closedComboWalksAcrossGroups_data();
-    void closedComboWalksAcrossGroups();
-    void unknownKeyLeavesItEmpty();
+    void savedProfileShowsAtOnce();
 
 private:
     void open();
+    void select(const QString &key);
     QStringList shownKeys() const;
     QPoint rowCentre(QTableWidget *list, int row) const;
     std::unique_ptr<QWidget> window;
@@ -40,7 +39,7 @@ void TestProfileCombo::init()
     combo->setGeometry(10, 10, 300, 30);
     window->show();
     QVERIFY(QTest::qWaitForWindowExposed(window.get()));
-    combo->selectProfile(QStringLiteral("1"), QStringLiteral("68"));
+    select(QStringLiteral("1,68"));
 }
 
 void TestProfileCombo::cleanup()
@@ -52,6 +51,11 @@ void TestProfileCombo::open()
 {
     QTest::mouseClick(combo, Qt::LeftButton);
     QVERIFY(QTest::qWaitForWindowExposed(combo->profileMenu()));
+}
+
+void TestProfileCombo::select(const QString &key)
+{
+    combo->selectProfile(key.section(QLatin1Char(','), 0, 0), key.section(QLatin1Char(','), 1));
 }
 
 QStringList TestProfileCombo::shownKeys() const
@@ -73,14 +77,12 @@ void TestProfileCombo::hoverShowsAGroupAndAClickPicksOnce()
 {
     open();
     CProfileMenu *menu = combo->profileMenu();
-    // The current profile is shown in both lists.
     QCOMPARE(menu->groupList()->currentItem()->text(), QStringLiteral("General Video"));
     QCOMPARE(menu->profileList()->currentItem()->data(Qt::UserRole + 5).toString(),
              QStringLiteral("1,68"));
-    // The empty user group: nothing on the right, no arrows.
+    // The empty user group shows nothing on the right.
     QTest::mouseMove(menu->groupList()->viewport(), rowCentre(menu->groupList(), 0));
     QTRY_COMPARE(menu->profileList()->rowCount(), 0);
-
     const int ipad = 6;
     QCOMPARE(menu->groupList()->item(ipad, 0)->text(), QStringLiteral("iPad"));
     QTest::mouseMove(menu->groupList()->viewport(), rowCentre(menu->groupList(), ipad));
@@ -92,44 +94,58 @@ void TestProfileCombo::hoverShowsAGroupAndAClickPicksOnce()
                       rowCentre(menu->profileList(), 3));
     QCOMPARE(changed.count(), 1);
     QVERIFY(!menu->isVisible());
-    QCOMPARE(combo->currentRecord().key, QStringLiteral("14,126"));
     QCOMPARE(combo->currentText(), QStringLiteral("iPad 2 H.264 Video(*.mp4)"));
     QCOMPARE(combo->currentData().value<ProfileRecord>().fileName, QStringLiteral("iPad2_h264.xml"));
 }
 
-void TestProfileCombo::popupKeys_data()
+void TestProfileCombo::keys_data()
 {
-    QTest::addColumn<QString>("keys"); // typed into the profile list, one per character
-    QTest::addColumn<bool>("open");
+    QTest::addColumn<bool>("popup"); // the keys go to the open popup's list, else the combo
+    QTest::addColumn<QString>("from");
+    // One key a character: a letter, ^ _ < [ ] for Up Down Left Home End, \n Return, \x1b Escape.
+    QTest::addColumn<QString>("keys");
     QTest::addColumn<QString>("picked");
     // Group 17 holds three profiles with the shortcuts P, H and G.
-    QTest::newRow("a letter jumps, Return picks") << "h\n" << false << "17,2";
-    QTest::newRow("letters go round from the row after") << "gp\n" << false << "17,1";
-    QTest::newRow("up from the first row wraps") << "^\n" << false << "17,105";
-    QTest::newRow("Escape closes, picks nothing") << "g\x1b" << false << "1,68";
-    QTest::newRow("a letter no row has") << "z" << true << "1,68";
+    QTest::newRow("popup: a letter jumps, Return picks") << true << "17,1" << "h\n" << "17,2";
+    QTest::newRow("popup: letters go round") << true << "17,1" << "gp\n" << "17,1";
+    QTest::newRow("popup: up from the first wraps") << true << "17,1" << "^\n" << "17,105";
+    QTest::newRow("popup: Escape picks nothing") << true << "17,1" << "g\x1b" << "1,68";
+    QTest::newRow("popup: a letter no row has") << true << "17,1" << "z" << "1,68";
+    QTest::newRow("down into the next group") << false << "1,123" << "_" << "2,3";
+    QTest::newRow("left back over the border") << false << "2,3" << "<" << "1,123";
+    QTest::newRow("up stops at the first") << false << "1,12" << "^" << "1,12";
+    QTest::newRow("down stops at the last") << false << "24,121" << "_" << "24,121";
+    QTest::newRow("home past the empty user group") << false << "13,13" << "[" << "1,12";
+    QTest::newRow("end") << false << "1,12" << "]" << "24,121";
 }
 
-void TestProfileCombo::popupKeys()
+void TestProfileCombo::keys()
 {
+    QFETCH(bool, popup);
+    QFETCH(QString, from);
     QFETCH(QString, keys);
-    QFETCH(bool, open);
-    QFETCH(QString, picked);
-    combo->selectProfile(QStringLiteral("17"), QStringLiteral("1"));
-    this->open();
-    CProfileMenu *menu = combo->profileMenu();
-    combo->selectProfile(QStringLiteral("1"), QStringLiteral("68"));
-    menu->showCurrent(QStringLiteral("17"), QStringLiteral("1"));
-    QCOMPARE(menu->profileList()->currentRow(), 0);
-    for (const QChar c : keys) {
-        const Qt::Key key = c == QLatin1Char('\n')   ? Qt::Key_Return
-                            : c == QLatin1Char('\x1b') ? Qt::Key_Escape
-                            : c == QLatin1Char('^')    ? Qt::Key_Up
-                                                       : Qt::Key(Qt::Key_A + (c.unicode() - 'a'));
-        QTest::keyClick(menu->profileList(), key, Qt::NoModifier);
+    QWidget *target = combo;
+    if (popup) {
+        // The popup shows one profile while the combo holds another.
+        select(from);
+        open();
+        select(QStringLiteral("1,68"));
+        combo->profileMenu()->showCurrent(from.section(QLatin1Char(','), 0, 0),
+                                          from.section(QLatin1Char(','), 1));
+        target = combo->profileMenu()->profileList();
+    } else {
+        select(from);
+        combo->setFocus();
     }
-    QCOMPARE(menu->isVisible(), open);
-    QCOMPARE(combo->currentRecord().key, picked);
+    const QString named = QStringLiteral("^_<[]\n\x1b");
+    const Qt::Key special[] = {Qt::Key_Up,   Qt::Key_Down,   Qt::Key_Left,  Qt::Key_Home,
+                               Qt::Key_End,  Qt::Key_Return, Qt::Key_Escape};
+    for (const QChar c : keys) {
+        const int at = named.indexOf(c);
+        QTest::keyClick(target, at >= 0 ? special[at] : Qt::Key(Qt::Key_A + (c.unicode() - 'a')));
+    }
+    QCOMPARE(combo->profileMenu()->isVisible(), popup && keys == QLatin1String("z"));
+    QTEST(combo->currentRecord().key, "picked");
 }
 
 void TestProfileCombo::search_data()
@@ -164,48 +180,19 @@ void TestProfileCombo::search()
     }
 }
 
-void TestProfileCombo::closedComboWalksAcrossGroups_data()
+void TestProfileCombo::savedProfileShowsAtOnce()
 {
-    QTest::addColumn<QString>("from");
-    QTest::addColumn<int>("key");
-    QTest::addColumn<QString>("to");
-    QTest::newRow("down into the next group") << "1,123" << int(Qt::Key_Down) << "2,3";
-    QTest::newRow("left back over the border") << "2,3" << int(Qt::Key_Left) << "1,123";
-    QTest::newRow("up stops at the first") << "1,12" << int(Qt::Key_Up) << "1,12";
-    QTest::newRow("down stops at the last") << "24,121" << int(Qt::Key_Down) << "24,121";
-    QTest::newRow("home past the empty user group") << "13,13" << int(Qt::Key_Home) << "1,12";
-    QTest::newRow("end") << "1,12" << int(Qt::Key_End) << "24,121";
-}
-
-void TestProfileCombo::closedComboWalksAcrossGroups()
-{
-    QFETCH(QString, from);
-    QFETCH(int, key);
-    QFETCH(QString, to);
-    combo->selectProfile(from.section(QLatin1Char(','), 0, 0), from.section(QLatin1Char(','), 1));
-    combo->setFocus();
-    QTest::keyClick(combo, Qt::Key(key));
-    QCOMPARE(combo->currentRecord().key, to);
-    QVERIFY(!combo->profileMenu()->isVisible());
-}
-
-void TestProfileCombo::unknownKeyLeavesItEmpty()
-{
-    combo->selectProfile(QStringLiteral("1"), QStringLiteral("9999"));
+    select(QStringLiteral("1,9999"));
     QCOMPARE(combo->count(), 0);
-    // A profile the user saves is in the popup at once.
     const QString key = ProfileGroupLoader::instance()->saveUserProfile(
         QStringLiteral("1,68"), {}, QStringLiteral("My Phone"));
     open();
     QTest::mouseMove(combo->profileMenu()->groupList()->viewport(),
                      rowCentre(combo->profileMenu()->groupList(), 0));
     QTRY_COMPARE(shownKeys(), QStringList{key});
-    QTest::keyClick(combo->profileMenu()->profileList(), Qt::Key_Escape);
-    combo->selectProfile(key.section(QLatin1Char(','), 0, 0), key.section(QLatin1Char(','), 1));
+    QTableWidget *list = combo->profileMenu()->profileList();
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, rowCentre(list, 0));
     QCOMPARE(combo->currentText(), QStringLiteral("My Phone(*.mp4)"));
-    QCOMPARE(ProfileGroupLoader::instance()->removeUserProfile(key.section(QLatin1Char(','), 0, 0),
-                                                               key.section(QLatin1Char(','), 1)),
-             QStringLiteral("1,68"));
 }
 
 int main(int argc, char *argv[])
