@@ -6,66 +6,54 @@
 #include <QPushButton>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
+// The name asked for a new profile: what the user types is taken only when
+// they say OK.
 class TestCSaveAsDlg : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void layout();
     void answers_data();
     void answers();
 };
 
-void TestCSaveAsDlg::layout()
-{
-    CSaveAsDlg dialog;
-    QCOMPARE(dialog.size(), QSize(400, 130));
-    QCOMPARE(dialog.minimumSize(), dialog.maximumSize());
-    QVERIFY(dialog.windowFlags() & Qt::FramelessWindowHint);
-    // The style sheet selects these by name.
-    for (const char *name : {"nameLineEidt", "okCancelBtnBox", "closeBtn", "closeBtnMac"})
-        QVERIFY2(dialog.findChild<QWidget *>(QLatin1String(name)), name);
-    QVERIFY(!dialog.frameState().isNull());
-}
-
 void TestCSaveAsDlg::answers_data()
 {
-    QTest::addColumn<QString>("button");
-    QTest::addColumn<int>("result");
-    QTest::addColumn<QString>("name");
-    QTest::newRow("ok takes the edited text") << "ok" << int(QDialog::Accepted) << "Edited";
-    QTest::newRow("cancel keeps the suggestion")
-        << "cancel" << int(QDialog::Rejected) << "iPhone H.264 Video - 1";
-    QTest::newRow("title bar close")
-        << "closeBtn" << int(QDialog::Rejected) << "iPhone H.264 Video - 1";
-    QTest::newRow("other close") << "closeBtnMac" << int(QDialog::Rejected)
-                                 << "iPhone H.264 Video - 1";
+    QTest::addColumn<QString>("action"); // a button's name, or a key
+    QTest::addColumn<bool>("accepted");
+    QTest::newRow("OK takes the typed name") << "ok" << true;
+    QTest::newRow("Return takes it too") << "Return" << true;
+    QTest::newRow("Cancel keeps the suggestion") << "cancel" << false;
+    QTest::newRow("Escape") << "Escape" << false;
+    QTest::newRow("the title bar's close") << "closeBtn" << false;
 }
 
 void TestCSaveAsDlg::answers()
 {
-    QFETCH(QString, button);
+    QFETCH(QString, action);
+    QFETCH(bool, accepted);
     CSaveAsDlg dialog;
-    dialog.setName(QStringLiteral("iPhone H.264 Video - 1"));
-    auto *edit = dialog.findChild<QLineEdit *>(QStringLiteral("nameLineEidt"));
-    QCOMPARE(edit->text(), QStringLiteral("iPhone H.264 Video - 1"));
+    dialog.setName(u"iPhone H.264 Video - 1"_s);
     dialog.show();
     QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-    QTest::keyClicks(edit, QStringLiteral("Edited"));
-
-    auto *box = dialog.findChild<QDialogButtonBox *>(QStringLiteral("okCancelBtnBox"));
-    QAbstractButton *target = nullptr;
-    if (button == QLatin1String("ok"))
-        target = box->button(QDialogButtonBox::Ok);
-    else if (button == QLatin1String("cancel"))
-        target = box->button(QDialogButtonBox::Cancel);
-    else
-        target = dialog.findChild<QPushButton *>(button);
-    QVERIFY(target);
-    target->click();
-    QTEST(dialog.result(), "result");
+    auto *edit = dialog.findChild<QLineEdit *>(u"nameLineEidt"_s);
+    // The suggestion stands selected: typing replaces it.
+    QTest::keyClicks(edit, u"Edited"_s);
+    auto *box = dialog.findChild<QDialogButtonBox *>(u"okCancelBtnBox"_s);
+    QAbstractButton *button = action == "ok"_L1       ? box->button(QDialogButtonBox::Ok)
+                              : action == "cancel"_L1 ? box->button(QDialogButtonBox::Cancel)
+                                                      : dialog.findChild<QPushButton *>(action);
+    if (button) {
+        QVERIFY(button->isVisible());
+        QTest::mouseClick(button, Qt::LeftButton);
+    } else {
+        QTest::keyClick(edit, action == "Return"_L1 ? Qt::Key_Return : Qt::Key_Escape);
+    }
+    QCOMPARE(dialog.result(), accepted ? QDialog::Accepted : QDialog::Rejected);
     QVERIFY(!dialog.isVisible());
-    QTEST(dialog.name(), "name");
+    QCOMPARE(dialog.name(), accepted ? u"Edited"_s : u"iPhone H.264 Video - 1"_s);
 }
 
 QTEST_MAIN(TestCSaveAsDlg)
