@@ -15,46 +15,43 @@ class TestCSaveAsDlg : public QObject
     Q_OBJECT
 
 private slots:
-    void answers_data();
-    void answers();
-};
-
-void TestCSaveAsDlg::answers_data()
-{
-    QTest::addColumn<QString>("action"); // a button's name, or a key
-    QTest::addColumn<bool>("accepted");
-    QTest::newRow("OK takes the typed name") << "ok" << true;
-    QTest::newRow("Return takes it too") << "Return" << true;
-    QTest::newRow("Cancel keeps the suggestion") << "cancel" << false;
-    QTest::newRow("Escape") << "Escape" << false;
-    QTest::newRow("the title bar's close") << "closeBtn" << false;
-}
-
-void TestCSaveAsDlg::answers()
-{
-    QFETCH(QString, action);
-    QFETCH(bool, accepted);
-    CSaveAsDlg dialog;
-    dialog.setName(u"iPhone H.264 Video - 1"_s);
-    dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-    auto *edit = dialog.findChild<QLineEdit *>(u"nameLineEidt"_s);
-    // The suggestion stands selected: typing replaces it.
-    QTest::keyClicks(edit, u"Edited"_s);
-    auto *box = dialog.findChild<QDialogButtonBox *>(u"okCancelBtnBox"_s);
-    QAbstractButton *button = action == "ok"_L1       ? box->button(QDialogButtonBox::Ok)
-                              : action == "cancel"_L1 ? box->button(QDialogButtonBox::Cancel)
-                                                      : dialog.findChild<QPushButton *>(action);
-    if (button) {
-        QVERIFY(button->isVisible());
-        QTest::mouseClick(button, Qt::LeftButton);
-    } else {
-        QTest::keyClick(edit, action == "Return"_L1 ? Qt::Key_Return : Qt::Key_Escape);
+    void answers_data()
+    {
+        QTest::addColumn<QString>("action"); // a button's name, or a key
+        QTest::addColumn<bool>("accepted");
+        QTest::newRow("OK takes the typed name") << "ok" << true;
+        QTest::newRow("Return takes it too") << "Return" << true;
+        QTest::newRow("Cancel keeps the suggestion") << "cancel" << false;
+        QTest::newRow("Escape") << "Escape" << false;
+        QTest::newRow("the title bar's close") << "closeBtn" << false;
     }
-    QCOMPARE(dialog.result(), accepted ? QDialog::Accepted : QDialog::Rejected);
-    QVERIFY(!dialog.isVisible());
-    QCOMPARE(dialog.name(), accepted ? u"Edited"_s : u"iPhone H.264 Video - 1"_s);
-}
+
+    void answers()
+    {
+        QFETCH(QString, action);
+        QFETCH(bool, accepted);
+        CSaveAsDlg dialog;
+        dialog.setName(u"iPhone H.264 Video - 1"_s);
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        auto *edit = dialog.findChild<QLineEdit *>(u"nameLineEidt"_s);
+        // The suggestion stands selected: typing replaces it.
+        QTest::keyClicks(edit, u"Edited"_s);
+        auto *box = dialog.findChild<QDialogButtonBox *>(u"okCancelBtnBox"_s);
+        QAbstractButton *button = action == "ok"_L1       ? box->button(QDialogButtonBox::Ok)
+                                  : action == "cancel"_L1 ? box->button(QDialogButtonBox::Cancel)
+                                                          : dialog.findChild<QPushButton *>(action);
+        if (button) {
+            QVERIFY(button->isVisible());
+            QTest::mouseClick(button, Qt::LeftButton);
+        } else {
+            QTest::keyClick(edit, action == "Return"_L1 ? Qt::Key_Return : Qt::Key_Escape);
+        }
+        QCOMPARE(dialog.result(), accepted ? QDialog::Accepted : QDialog::Rejected);
+        QVERIFY(!dialog.isVisible());
+        QCOMPARE(dialog.name(), accepted ? u"Edited"_s : u"iPhone H.264 Video - 1"_s);
+    }
+};
 
 QTEST_MAIN(TestCSaveAsDlg)
 #include "tst_csaveasdlg.moc"

@@ -22,12 +22,109 @@ class TestSettingsWindow : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
+    void init()
+    {
+        window = std::make_unique<SettingsWindow>();
+        window->resize(320, 700);
+        window->show();
+        QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+    }
     void cleanup() { window.reset(); }
-    void treeOfADocument();
-    void nearestQuality();
-    void advancedEditReachesTheSimpleTabOnce();
-    void audioDocumentHidesThePicture();
+
+    void treeOfADocument()
+    {
+        const QMap<QString, QString> task{{u"b"_s, u"1000"_s}, {u"ab"_s, QString()}};
+        window->setProfile(u"mp4.xml"_s, &task);
+        QStringList sections;
+        for (int i = 0; i < tree()->topLevelItemCount(); ++i)
+            sections << tree()->topLevelItem(i)->text(0)
+                            + (tree()->topLevelItem(i)->isExpanded() ? u""_s : u"-"_s);
+        // Expert folded; captions from the table, keys without a row by their name.
+        QCOMPARE(sections.join(u' '), u"Video Audio Expert-"_s);
+        QVERIFY(row(u"pix_fmt"_s));
+        // The task's value shows, in bold; an empty one is the document's default.
+        QCOMPARE(row(u"Video Bitrate"_s)->text(1), u"1000"_s);
+        QVERIFY(row(u"Video Bitrate"_s)->font(1).bold());
+        QCOMPARE(row(u"Audio Bitrate"_s)->text(1), u"192"_s);
+        QVERIFY(!row(u"Audio Bitrate"_s)->font(1).bold());
+        QCOMPARE(window->values().value(u"s"_s), u"Auto"_s);
+        // The Simple tab shows the document's default until a key changes.
+        QCOMPARE(videoQuality()->currentText(), u"Normal"_s);
+        // A description follows the current row.
+        tree()->setCurrentItem(row(u"Frame Rate"_s));
+        QVERIFY(window->findChild<QTextEdit *>(u"editDescription"_s)
+                    ->toPlainText()
+                    .startsWith(u"Set how many frames"_s));
+
+        // A language switch keeps what was set and shows it again.
+        FixedTranslator german("SettingsWindow", "Video Bitrate", u"Video-Bitrate"_s);
+        const QMap<QString, QString> before = window->values();
+        QCoreApplication::installTranslator(&german);
+        QTRY_VERIFY(row(u"Video-Bitrate"_s));
+        QCOMPARE(window->values(), before);
+        QVERIFY(row(u"Video-Bitrate"_s)->font(1).bold());
+        QCoreApplication::removeTranslator(&german);
+    }
+
+    // The Simple tab's step for a value between, below and above the steps.
+    void nearestQuality()
+    {
+        QComboBox combo;
+        for (const char *item : {"2500", "1500", "1200", "800", "512"})
+            combo.addItem(QString::fromLatin1(item), QString::fromLatin1(item));
+        QStringList picked;
+        for (const char *value : {"1000", "100", "9000", "1200"}) {
+            SettingsWindow::selectNearest(&combo, QString::fromLatin1(value));
+            picked << combo.currentText();
+        }
+        QCOMPARE(picked.join(u' '), u"800 512 2500 1200"_s);
+    }
+
+    void advancedEditReachesTheSimpleTabOnce()
+    {
+        window->setProfile(u"mp4.xml"_s, nullptr);
+        window->findChild<QTabWidget *>(u"tabWidget"_s)->setCurrentIndex(1);
+        QSignalSpy changed(window.get(), &SettingsWindow::valueChanged);
+        // Typed into the bit rate's editor, taken when the focus leaves.
+        const QRect cell = tree()->visualItemRect(row(u"Video Bitrate"_s));
+        QTest::mouseClick(tree()->viewport(), Qt::LeftButton, {},
+                          QPoint(tree()->header()->sectionPosition(1) + 20, cell.center().y()));
+        auto *editor
+            = qobject_cast<EditableCombo *>(tree()->itemWidget(row(u"Video Bitrate"_s), 1));
+        QVERIFY(editor);
+        QLineEdit *line = editor->comboBox()->lineEdit();
+        QTRY_VERIFY(line->hasFocus());
+        line->selectAll();
+        QTest::keyClicks(line, u"1000"_s);
+        QTest::keyClick(line, Qt::Key_Tab);
+        QCOMPARE(changed.count(), 1);
+        QCOMPARE(changed.first().value(0).toString() + u'=' + changed.first().value(1).toString(),
+                 u"b=1000"_s);
+        QVERIFY(row(u"Video Bitrate"_s)->font(1).bold());
+        QCOMPARE(videoQuality()->currentText(), u"Lower"_s);
+
+        // The Simple tab back to the default: one change, and the bold goes.
+        window->findChild<QTabWidget *>(u"tabWidget"_s)->setCurrentIndex(0);
+        videoQuality()->setFocus();
+        QTest::keyClick(videoQuality(), Qt::Key_Up);
+        QCOMPARE(videoQuality()->currentText(), u"Normal"_s);
+        QCOMPARE(changed.count(), 2);
+        QCOMPARE(window->values().value(u"b"_s), u"1200"_s);
+        QVERIFY(!row(u"Video Bitrate"_s)->font(1).bold());
+    }
+
+    void audioDocumentHidesThePicture()
+    {
+        window->setProfile(u"mp3.xml"_s, nullptr);
+        for (const char *name : {"comboVideoSize", "comboVideoQuality", "labelVideoSize"})
+            QVERIFY2(!window->findChild<QWidget *>(QLatin1String(name))->isVisible(), name);
+        QVERIFY(window->findChild<QWidget *>(u"comboAudioQuality"_s)->isVisible());
+        QVERIFY(!window->values().contains(u"s"_s));
+        // Not editable: every row and Apply To All off.
+        window->setEditable(false);
+        QVERIFY(row(u"Audio Bitrate"_s)->isDisabled());
+        QVERIFY(!window->findChild<QWidget *>(u"btnApplyToAll"_s)->isEnabled());
+    }
 
 private:
     QTreeWidgetItem *row(const QString &caption) const
@@ -41,108 +138,6 @@ private:
     }
     std::unique_ptr<SettingsWindow> window;
 };
-
-void TestSettingsWindow::init()
-{
-    window = std::make_unique<SettingsWindow>();
-    window->resize(320, 700);
-    window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(window.get()));
-}
-
-void TestSettingsWindow::treeOfADocument()
-{
-    const QMap<QString, QString> task{{u"b"_s, u"1000"_s}, {u"ab"_s, QString()}};
-    window->setProfile(u"mp4.xml"_s, &task);
-    QStringList sections;
-    for (int i = 0; i < tree()->topLevelItemCount(); ++i)
-        sections << tree()->topLevelItem(i)->text(0)
-                        + (tree()->topLevelItem(i)->isExpanded() ? u""_s : u"-"_s);
-    // Expert folded; captions from the table, keys without a row by their name.
-    QCOMPARE(sections.join(u' '), u"Video Audio Expert-"_s);
-    QVERIFY(row(u"pix_fmt"_s));
-    // The task's value shows, in bold; an empty one is the document's default.
-    QCOMPARE(row(u"Video Bitrate"_s)->text(1), u"1000"_s);
-    QVERIFY(row(u"Video Bitrate"_s)->font(1).bold());
-    QCOMPARE(row(u"Audio Bitrate"_s)->text(1), u"192"_s);
-    QVERIFY(!row(u"Audio Bitrate"_s)->font(1).bold());
-    QCOMPARE(window->values().value(u"s"_s), u"Auto"_s);
-    // The Simple tab shows the document's default until a key changes.
-    QCOMPARE(videoQuality()->currentText(), u"Normal"_s);
-    // A description follows the current row.
-    tree()->setCurrentItem(row(u"Frame Rate"_s));
-    QVERIFY(window->findChild<QTextEdit *>(u"editDescription"_s)
-                ->toPlainText()
-                .startsWith(u"Set how many frames"_s));
-
-    // A language switch keeps what was set and shows it again.
-    FixedTranslator german("SettingsWindow", "Video Bitrate", u"Video-Bitrate"_s);
-    const QMap<QString, QString> before = window->values();
-    QCoreApplication::installTranslator(&german);
-    QTRY_VERIFY(row(u"Video-Bitrate"_s));
-    QCOMPARE(window->values(), before);
-    QVERIFY(row(u"Video-Bitrate"_s)->font(1).bold());
-    QCoreApplication::removeTranslator(&german);
-}
-
-// The Simple tab's step for a value between, below and above the steps.
-void TestSettingsWindow::nearestQuality()
-{
-    QComboBox combo;
-    for (const char *item : {"2500", "1500", "1200", "800", "512"})
-        combo.addItem(QString::fromLatin1(item), QString::fromLatin1(item));
-    QStringList picked;
-    for (const char *value : {"1000", "100", "9000", "1200"}) {
-        SettingsWindow::selectNearest(&combo, QString::fromLatin1(value));
-        picked << combo.currentText();
-    }
-    QCOMPARE(picked.join(u' '), u"800 512 2500 1200"_s);
-}
-
-void TestSettingsWindow::advancedEditReachesTheSimpleTabOnce()
-{
-    window->setProfile(u"mp4.xml"_s, nullptr);
-    window->findChild<QTabWidget *>(u"tabWidget"_s)->setCurrentIndex(1);
-    QSignalSpy changed(window.get(), &SettingsWindow::valueChanged);
-    // Typed into the bit rate's editor, taken when the focus leaves.
-    const QRect cell = tree()->visualItemRect(row(u"Video Bitrate"_s));
-    QTest::mouseClick(tree()->viewport(), Qt::LeftButton, {},
-                      QPoint(tree()->header()->sectionPosition(1) + 20, cell.center().y()));
-    auto *editor = qobject_cast<EditableCombo *>(tree()->itemWidget(row(u"Video Bitrate"_s), 1));
-    QVERIFY(editor);
-    QLineEdit *line = editor->comboBox()->lineEdit();
-    QTRY_VERIFY(line->hasFocus());
-    line->selectAll();
-    QTest::keyClicks(line, u"1000"_s);
-    QTest::keyClick(line, Qt::Key_Tab);
-    QCOMPARE(changed.count(), 1);
-    QCOMPARE(changed.first().value(0).toString() + u'=' + changed.first().value(1).toString(),
-             u"b=1000"_s);
-    QVERIFY(row(u"Video Bitrate"_s)->font(1).bold());
-    QCOMPARE(videoQuality()->currentText(), u"Lower"_s);
-
-    // The Simple tab back to the default: one change, and the bold goes.
-    window->findChild<QTabWidget *>(u"tabWidget"_s)->setCurrentIndex(0);
-    videoQuality()->setFocus();
-    QTest::keyClick(videoQuality(), Qt::Key_Up);
-    QCOMPARE(videoQuality()->currentText(), u"Normal"_s);
-    QCOMPARE(changed.count(), 2);
-    QCOMPARE(window->values().value(u"b"_s), u"1200"_s);
-    QVERIFY(!row(u"Video Bitrate"_s)->font(1).bold());
-}
-
-void TestSettingsWindow::audioDocumentHidesThePicture()
-{
-    window->setProfile(u"mp3.xml"_s, nullptr);
-    for (const char *name : {"comboVideoSize", "comboVideoQuality", "labelVideoSize"})
-        QVERIFY2(!window->findChild<QWidget *>(QLatin1String(name))->isVisible(), name);
-    QVERIFY(window->findChild<QWidget *>(u"comboAudioQuality"_s)->isVisible());
-    QVERIFY(!window->values().contains(u"s"_s));
-    // Not editable: every row and Apply To All off.
-    window->setEditable(false);
-    QVERIFY(row(u"Audio Bitrate"_s)->isDisabled());
-    QVERIFY(!window->findChild<QWidget *>(u"btnApplyToAll"_s)->isEnabled());
-}
 
 int main(int argc, char *argv[])
 {
