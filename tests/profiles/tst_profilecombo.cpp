@@ -17,15 +17,14 @@ class TestProfileCombo : public QObject
 private slots:
     void init()
     {
-        window = std::make_unique<QWidget>();
-        window->resize(600, 700);
-        combo = new CProfileCombo(window.get());
+        owner = std::make_unique<CProfileCombo>();
+        combo = owner.get();
         combo->setGeometry(10, 10, 300, 30);
-        window->show();
-        QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+        combo->show();
+        QVERIFY(QTest::qWaitForWindowExposed(combo));
         select(u"1,68"_s);
     }
-    void cleanup() { window.reset(); }
+    void cleanup() { owner.reset(); }
 
     void hoverShowsAGroupAndAClickPicksOnce()
     {
@@ -45,7 +44,6 @@ private slots:
         QCOMPARE(changed.count(), 1);
         QVERIFY(!menu->isVisible());
         QCOMPARE(combo->currentText(), u"iPad 2 H.264 Video(*.mp4)"_s);
-        QCOMPARE(combo->currentData().value<ProfileRecord>().fileName, u"iPad2_h264.xml"_s);
 
         // An unknown key leaves it empty; a profile saved meanwhile is in the popup at once.
         select(u"1,9999"_s);
@@ -126,7 +124,6 @@ private slots:
         row("by name, in the map's order", u"ipod"_s, "16,132 16,131 16,55 16,53 16,51 16,49");
         row("by extension", u"(*.3gp)"_s, "17,17 17,2 17,1");
         row("by description", u"camcorders"_s, "1,31");
-        row("nothing", u"no such profile"_s, "");
         row("the prompt itself", CProfileMenu::searchPrompt(), "");
     }
 
@@ -176,7 +173,7 @@ private:
         else
             QTest::mouseMove(list->viewport(), at);
     }
-    std::unique_ptr<QWidget> window;
+    std::unique_ptr<CProfileCombo> owner;
     CProfileCombo *combo = nullptr;
 };
 

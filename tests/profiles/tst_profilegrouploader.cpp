@@ -98,7 +98,6 @@ private slots:
         QTest::newRow("none") << QByteArray() << false << "1,12";
         QTest::newRow("malformed")
             << QByteArray("<Groups><Group><Id value=\"0\"/>") << true << "1,12";
-        QTest::newRow("empty") << QByteArray("") << true << "1,12";
         QTest::newRow("no group 0")
             << "<Groups><Group><Id value=\"5\"/>" + entry + "</Group></Groups>" << false << "1,12";
         QTest::newRow("group without an id reads as 0")
