@@ -217,7 +217,7 @@ private slots:
     // The documents and texts are held to their generator by check_generated.py;
     // this checks what the program needs of them: every row reaches its document
     // and icon through the resources, and every document can be shown as it is.
-    void rowsReachTheirDocumentsAndIcons()
+    void rowsReachDocumentsAndIcons()
     {
         const ProfileGroupLoader catalogue;
         QVERIFY(catalogue.hasProfile(catalogue.defaultProfile()));
@@ -246,18 +246,15 @@ private slots:
             QVERIFY2(image.width() >= 16 && image.width() == image.height(), qPrintable(path));
             QVERIFY2(image.hasAlphaChannel(), qPrintable(path));
         }
-    }
-
-    void everyDocumentIsUsable()
-    {
+        // Every document, named by a row or not, can be shown as it is.
         QStringList files = QDir(u":/profile"_s).entryList({u"*.xml"_s});
         files.removeAll(u"Group.xml"_s);
         QVERIFY(files.size() > 100);
         for (const QString &file : files) {
             const Profile profile(u":/profile/"_s + file);
-            const QStringList keys = profile.keys();
+            const QStringList names = profile.keys();
             QVERIFY2(!profile.sections().isEmpty(), qPrintable(file));
-            QVERIFY2(QSet<QString>(keys.begin(), keys.end()).size() == keys.size(),
+            QVERIFY2(QSet<QString>(names.begin(), names.end()).size() == names.size(),
                      qPrintable(file));
             // A closed list must stand at one of its candidates, or it can't be shown.
             for (const QDomElement &parameter : profile.parameters()) {
