@@ -41,10 +41,11 @@ QString description(const QString &key)
                                    : QString();
 }
 
-// The whole number behind the "*" of a size, or the text as a whole number; 0 if none.
-int numberOf(const QString &value, bool height)
+// The number behind the "*" of a size, or the text as a number; 0 if none.
+// Sound rates have decimals ("6.7" kbit/s).
+double numberOf(const QString &value, bool height)
 {
-    return (height ? value.section(QLatin1Char('*'), 1) : value).toInt();
+    return (height ? value.section(QLatin1Char('*'), 1) : value).toDouble();
 }
 
 } // namespace
@@ -214,8 +215,14 @@ void SettingsWindow::selectNearest(QComboBox *combo, const QString &value)
         combo->setCurrentIndex(0);
         return;
     }
+    // Two sizes may share a height: the one asked for wins.
+    const int exact = combo->findData(value);
+    if (exact >= 0) {
+        combo->setCurrentIndex(exact);
+        return;
+    }
     const bool size = value.contains(QLatin1Char('*'));
-    const int target = numberOf(value, size);
+    const double target = numberOf(value, size);
     for (int i = 0; i < n - 1; ++i) {
         const QString data = combo->itemData(i).toString();
         if (size && data.contains(QLatin1Char('*')) && target <= numberOf(data, true)) {
@@ -223,7 +230,7 @@ void SettingsWindow::selectNearest(QComboBox *combo, const QString &value)
             return;
         }
         // The steps fall from the first to the last.
-        if (!size && target >= data.toInt()) {
+        if (!size && target >= data.toDouble()) {
             combo->setCurrentIndex(i);
             return;
         }

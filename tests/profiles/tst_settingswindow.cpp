@@ -63,18 +63,36 @@ private slots:
         QCoreApplication::removeTranslator(&german);
     }
 
-    // The Simple tab's step for a value between, below and above the steps.
+    // The Simple tab's step for a value: the exact one, or the highest
+    // quality that doesn't exceed it; sizes by their height.
+    void nearestQuality_data()
+    {
+        QTest::addColumn<QString>("items");
+        QTest::addColumn<QString>("value");
+        QTest::addColumn<QString>("picked");
+        const QString rates = u"2500 1500 1200 800 512"_s;
+        const QString decimals = u"12.2 10.2 7.95 6.7 5.9 4.75"_s;
+        const QString sizes = u"Auto 320*240 640*480 1440*1080 1920*1080"_s;
+        QTest::newRow("between") << rates << u"1000"_s << u"800"_s;
+        QTest::newRow("below all") << rates << u"100"_s << u"512"_s;
+        QTest::newRow("above all") << rates << u"9000"_s << u"2500"_s;
+        QTest::newRow("exact") << rates << u"1200"_s << u"1200"_s;
+        QTest::newRow("decimal, exact") << decimals << u"6.7"_s << u"6.7"_s;
+        QTest::newRow("decimal, between") << decimals << u"8"_s << u"7.95"_s;
+        QTest::newRow("size, exact of two equal heights") << sizes << u"1920*1080"_s << u"1920*1080"_s;
+        QTest::newRow("size by its height") << sizes << u"800*600"_s << u"1440*1080"_s;
+        QTest::newRow("size above all") << sizes << u"4096*2160"_s << u"1920*1080"_s;
+    }
     void nearestQuality()
     {
+        QFETCH(QString, items);
+        QFETCH(QString, value);
+        QFETCH(QString, picked);
         QComboBox combo;
-        for (const char *item : {"2500", "1500", "1200", "800", "512"})
-            combo.addItem(QString::fromLatin1(item), QString::fromLatin1(item));
-        QStringList picked;
-        for (const char *value : {"1000", "100", "9000", "1200"}) {
-            SettingsWindow::selectNearest(&combo, QString::fromLatin1(value));
-            picked << combo.currentText();
-        }
-        QCOMPARE(picked.join(u' '), u"800 512 2500 1200"_s);
+        for (const QString &item : items.split(u' '))
+            combo.addItem(item, item);
+        SettingsWindow::selectNearest(&combo, value);
+        QCOMPARE(combo.currentText(), picked);
     }
 
     void advancedEditReachesTheSimpleTabOnce()
