@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
+#include <QRandomGenerator>
 #include <QString>
 
 #include <functional>
@@ -23,9 +24,39 @@ inline QString mediaFixtures()
     return dir;
 }
 
+// For initTestCase(): puts the fixture folder in `dir`, or fails.
+#define REQUIRE_MEDIA_FIXTURES(dir)                                                                \
+    QVERIFY2(!(dir = mediaFixtures()).isEmpty(),                                                   \
+             "the fixture script failed (ffmpeg, dvdauthor, spumux?)")
+
 inline QString fixture(const QString &dir, const char *name)
 {
     return QDir(dir).filePath(QString::fromUtf8(name));
+}
+
+inline QByteArray readFile(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+// Writes `data` to `path`, making its folder; the path, or an empty text.
+inline QString writeFile(const QString &path, const QByteArray &data)
+{
+    QFile file(path);
+    const bool written = QDir().mkpath(QFileInfo(path).path()) && file.open(QIODevice::WriteOnly)
+                         && file.write(data) == data.size();
+    return written ? path : QString();
+}
+
+// The same noise on every run.
+inline QByteArray randomBytes(int size, quint32 seed = 1234)
+{
+    QByteArray data(size, Qt::Uninitialized);
+    QRandomGenerator generator(seed);
+    for (char &byte : data)
+        byte = char(generator.generate());
+    return data;
 }
 
 // A copy of a fixture disc's VIDEO_TS folder below `dir`, to be damaged; its
@@ -75,3 +106,20 @@ inline int cellTableOfPgc(const QByteArray &ifo, int pgc)
     const int start = pgcit + int(ifoField(ifo, pgcit + 12 + 8 * pgc, 4));
     return start + int(ifoField(ifo, start + 232, 2));
 }
+
+#if __has_include("dvddisc.h")
+#include "dvddisc.h"
+
+#include <QTest>
+
+// A disc, with the note of the PGCs dropped as duplicates that the scan
+// should give: the main fixture repeats its first PGC twice.
+inline std::unique_ptr<DvdDisc> loadDisc(const QString &path, int dropped = 2,
+                                         QString *error = nullptr)
+{
+    if (dropped > 0)
+        QTest::ignoreMessage(QtDebugMsg,
+                             qPrintable(QStringLiteral("drop %1 duplicate pgc.").arg(dropped)));
+    return LoadDvdDisc(path, false, error);
+}
+#endif
