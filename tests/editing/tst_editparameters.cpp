@@ -1,7 +1,10 @@
 #include "editparameters.h"
 
+#include <QPainter>
 #include <QTemporaryDir>
 #include <QTest>
+
+using namespace Qt::StringLiterals;
 
 class TestEditParameters : public QObject
 {
@@ -12,27 +15,31 @@ private:
     {
         MediaInfo info;
         AudioStreamInfo ac3;
-        ac3.codec = QStringLiteral("ac3");
-        ac3.language = QStringLiteral("en");
+        ac3.codec = u"ac3"_s;
+        ac3.language = u"en"_s;
         AudioStreamInfo mp2;
-        mp2.codec = QStringLiteral("mp2");
+        mp2.codec = u"mp2"_s;
         info.audioStreams = {ac3, mp2};
         SubtitleStreamInfo de;
-        de.language = QStringLiteral("de");
+        de.language = u"de"_s;
         info.subtitleStreams = {de};
         return info;
     }
 
-    // A 20x10 picture, left half red, right half blue.
-    static QImage halves()
+    static void place(WatermarkEntry &mark, const QRect &rect)
     {
-        QImage image(20, 10, QImage::Format_ARGB32);
-        image.fill(Qt::red);
-        for (int y = 0; y < 10; ++y) {
-            for (int x = 10; x < 20; ++x)
-                image.setPixel(x, y, qRgb(0, 0, 255));
-        }
-        return image;
+        mark.left = rect.left();
+        mark.top = rect.top();
+        mark.right = rect.right();
+        mark.bottom = rect.bottom();
+    }
+
+    static QList<int> types(const EditParameters &edit)
+    {
+        QList<int> types;
+        for (const EffectEntry &effect : edit.effects)
+            types << effect.type;
+        return types;
     }
 
     QTemporaryDir dir;
@@ -41,93 +48,65 @@ private slots:
     void defaults()
     {
         const EditParameters edit;
-        QCOMPARE(edit.zoomMode, QStringLiteral("Keep Original"));
         QCOMPARE(edit.effectCount(), 18);
-        for (int i = 0; i < 18; ++i) {
-            QCOMPARE(edit.effect(i).type, i + 1);
-            QVERIFY(!edit.effect(i).enabled);
-        }
+        for (int i = 0; i < 18; ++i)
+            QVERIFY(edit.effect(i).type == i + 1 && !edit.effect(i).enabled);
         QCOMPARE(edit.watermarks.size(), size_t(1));
-        QCOMPARE(edit.watermark().font.pointSize(), 20);
-        QCOMPARE(edit.watermark().right, 160);
         QVERIFY(!edit.hasWatermark());
-        QCOMPARE(edit.watermarkRight, -1);
         // The watermark entry is always there.
         QVERIFY(edit.isEdited());
-        QCOMPARE(EffectEntry::name(13), QStringLiteral("Flip Horizontal"));
-        QCOMPARE(EffectEntry::name(18), QStringLiteral("Soften"));
-        QCOMPARE(EffectEntry::name(19), QStringLiteral("Unknown"));
-        QCOMPARE(EffectEntry::name(0), QStringLiteral("Unknown"));
+        QCOMPARE(EffectEntry::name(18) + EffectEntry::name(19) + EffectEntry::name(0),
+                 u"SoftenUnknownUnknown"_s);
     }
 
-    void copyIsDeep()
-    {
-        EditParameters original;
-        original.addStreamSubtitle(0, sourceWithStreams());
-        original.addAudioFile(QStringLiteral("/music/a.mp3"));
-        original.watermark().text = QStringLiteral("mark");
-        original.rotation = 90;
-
-        EditParameters copy(original);
-        QCOMPARE(copy.rotation, 90);
-        QCOMPARE(copy.watermark().text, QStringLiteral("mark"));
-        QCOMPARE(copy.watermark().id, original.watermark().id);
-        copy.subtitles[0]->color = Qt::red;
-        copy.subtitles[0]->position = 10;
-        copy.audioTracks[0]->loop = true;
-        copy.watermark().text = QStringLiteral("other");
-        QCOMPARE(original.subtitles[0]->color, QColor(Qt::white));
-        QCOMPARE(original.subtitles[0]->position, 90);
-        QVERIFY(!original.audioTracks[0]->loop);
-        QCOMPARE(original.watermark().text, QStringLiteral("mark"));
-    }
-
-    void assignmentLeavesWatermarkAndRotation()
+    void copies()
     {
         EditParameters source;
-        source.zoomMode = QStringLiteral("16:9");
-        source.trimStart = 1.5;
-        source.trimEnd = 9.0;
-        source.convertEnd = 8.0;
-        source.cropLeft = 8;
-        source.padTop = 28;
-        source.innerHeight = 422;
-        source.brightness = 30;
+        source.addStreamSubtitle(0, sourceWithStreams());
+        source.addStreamAudio(1, sourceWithStreams());
+        source.zoomMode = u"16:9"_s;
+        source.trimEnd = source.convertEnd = 8.0;
+        source.cropLeft = source.padTop = source.innerHeight = source.brightness = 30;
         source.rotation = 180;
         source.setEffectEnabled(2, true);
-        source.watermark().text = QStringLiteral("source");
-        source.watermarkFile = QStringLiteral("/tmp/x.png");
-        source.watermarkX = 5;
-        source.addStreamAudio(1, sourceWithStreams());
+        source.watermark().text = u"source"_s;
+        source.watermarkFile = u"/tmp/x.png"_s;
 
+        // A copy is deep and whole.
+        EditParameters copy(source);
+        QCOMPARE(copy.rotation + copy.convertEnd, 188.0);
+        QCOMPARE(copy.watermark().text + copy.watermarkFile, u"source/tmp/x.png"_s);
+        QCOMPARE(copy.watermark().id, source.watermark().id);
+        copy.subtitles[0]->color = Qt::red;
+        copy.audioTracks[0]->loop = true;
+        copy.watermark().text = u"other"_s;
+        QCOMPARE(source.subtitles[0]->color, QColor(Qt::white));
+        QVERIFY(!source.audioTracks[0]->loop);
+        QCOMPARE(source.watermark().text, u"source"_s);
+
+        // Assignment leaves the watermark, rotation and converted length.
         EditParameters target;
         target.rotation = 270;
-        target.watermark().picturePath = QStringLiteral("/pictures/logo.png");
+        target.watermark().picturePath = u"/pictures/logo.png"_s;
         target.convertEnd = 3.0;
         target = source;
-        QCOMPARE(target.zoomMode, QStringLiteral("16:9"));
-        QCOMPARE(target.trimStart, 1.5);
-        QCOMPARE(target.trimEnd, 9.0);
-        QCOMPARE(target.cropLeft, 8);
-        QCOMPARE(target.padTop, 28);
-        QCOMPARE(target.innerHeight, 422);
-        QCOMPARE(target.brightness, 30);
+        QCOMPARE(u"%1 %2 %3 %4 %5 %6"_s.arg(target.zoomMode)
+                     .arg(target.trimEnd)
+                     .arg(target.cropLeft)
+                     .arg(target.padTop)
+                     .arg(target.innerHeight)
+                     .arg(target.brightness),
+                 u"16:9 8 30 30 30 30"_s);
         QCOMPARE(target.enabledEffects(), std::vector<int>{3});
-        QCOMPARE(target.selectedAudioStream(), -1);
-        QCOMPARE(target.audioTracks.size(), size_t(1));
-        QVERIFY(target.audioTracks[0] != source.audioTracks[0]);
+        QVERIFY(target.audioTracks.size() == 1 && target.audioTracks[0] != source.audioTracks[0]);
         QCOMPARE(target.audioTracks[0]->info.audioStreams.size(), size_t(2));
-        // Left as they were.
-        QCOMPARE(target.rotation, 270);
-        QCOMPARE(target.convertEnd, 3.0);
-        QCOMPARE(target.watermark().picturePath, QStringLiteral("/pictures/logo.png"));
-        QVERIFY(target.watermark().text.isEmpty());
-        QVERIFY(target.watermarkFile.isEmpty());
-        QCOMPARE(target.watermarkX, 0);
+        QCOMPARE(target.rotation + target.convertEnd, 273.0);
+        QCOMPARE(target.watermark().picturePath, u"/pictures/logo.png"_s);
+        QVERIFY(target.watermark().text.isEmpty() && target.watermarkFile.isEmpty());
 
         target.assignAll(source);
-        QCOMPARE(target.rotation, 180);
-        QCOMPARE(target.watermark().text, QStringLiteral("source"));
+        QCOMPARE(target.rotation + target.convertEnd, 188.0);
+        QCOMPARE(target.watermark().text + target.watermarkFile, u"source/tmp/x.png"_s);
         QVERIFY(&target.watermark() != &source.watermark());
     }
 
@@ -141,48 +120,38 @@ private slots:
         edit.moveEffectUp(3);
         QCOMPARE(edit.enabledEffects(), (std::vector<int>{5, 3}));
         QCOMPARE(edit.effectCount(), 18);
-        QCOMPARE(edit.effect(2).type, 5);
-        QCOMPARE(edit.effect(3).type, 3);
-        QCOMPARE(edit.effect(4).type, 4);
+        QCOMPARE(types(edit).mid(0, 6), (QList<int>{1, 2, 5, 3, 4, 6}));
         edit.moveEffectDown(2);
         QCOMPARE(edit.enabledEffects(), (std::vector<int>{3, 5}));
         // The ends stay put.
         edit.moveEffectUp(0);
         edit.moveEffectDown(17);
-        QCOMPARE(edit.effect(0).type, 1);
-        QCOMPARE(edit.effect(17).type, 18);
-    }
+        QCOMPARE(types(edit).first() * 100 + types(edit).last(), 118);
 
-    void flips()
-    {
-        EditParameters edit;
-        QVERIFY(edit.isFlipped(13, false));
-        QVERIFY(!edit.isFlipped(13, true));
-        QVERIFY(!edit.isFlipped(3, false));
+        // Flips are effects 13 and 14; a list without one gets it appended.
+        QVERIFY(edit.isFlipped(13, false) && !edit.isFlipped(13, true)
+                && !edit.isFlipped(3, false));
         QVERIFY(edit.setFlip(14, true));
         QVERIFY(edit.isFlipped(14, true));
-        QCOMPARE(edit.enabledEffects(), std::vector<int>{14});
-
-        // A list without the flip gets one appended.
         edit.effects.erase(edit.effects.begin() + 12);
         QVERIFY(!edit.isFlipped(13, false));
         QVERIFY(edit.setFlip(13, true));
         QCOMPARE(edit.effects.back().type, 13);
-        QCOMPARE(edit.enabledEffects(), (std::vector<int>{14, 13}));
+        QCOMPARE(edit.enabledEffects(), (std::vector<int>{3, 5, 14, 13}));
         QVERIFY(!edit.setFlip(12, true));
     }
 
     void audioSelection()
     {
         EditParameters edit;
-        const MediaInfo source = sourceWithStreams();
-        edit.addStreamAudio(0, source);
-        edit.addStreamAudio(1, source);
-        const int added = edit.addAudioFile(QStringLiteral("/music/song.mp3"));
+        edit.addStreamAudio(0, sourceWithStreams());
+        edit.addStreamAudio(1, sourceWithStreams());
+        const int added = edit.addAudioFile(u"/music/song.mp3"_s);
         QCOMPARE(added, 2);
-        QCOMPARE(edit.audioTracks[0]->text(), QStringLiteral("ac3 (en)"));
-        QCOMPARE(edit.audioTracks[1]->text(), QStringLiteral("mp2"));
-        QCOMPARE(edit.audioTracks[2]->text(), QStringLiteral("song.mp3"));
+        QStringList texts;
+        for (const auto &track : edit.audioTracks)
+            texts << track->text();
+        QCOMPARE(texts, (QStringList{u"ac3 (en)"_s, u"mp2"_s, u"song.mp3"_s}));
 
         QVERIFY(!edit.anyAudioSelected());
         QCOMPARE(edit.selectedAudioStream(), -1);
@@ -192,17 +161,15 @@ private slots:
         QCOMPARE(edit.selectedAudioStream(), -1);
         QVERIFY(edit.selectAudio(1));
         QCOMPARE(edit.selectedAudioStream(), 1);
-        QVERIFY(!edit.selectAudio(3));
-        QVERIFY(!edit.selectAudio(-1));
+        QVERIFY(!edit.selectAudio(3) && !edit.selectAudio(-1));
         edit.clearAudioSelection();
         QVERIFY(!edit.anyAudioSelected());
 
-        QVERIFY(!edit.removeAudioFile(0));
-        QVERIFY(!edit.removeAudioFile(7));
+        QVERIFY(!edit.removeAudioFile(0) && !edit.removeAudioFile(7));
         QVERIFY(edit.removeAudioFile(added));
         QCOMPARE(edit.audioTracks.size(), size_t(2));
-        edit.addAudioFile(QStringLiteral("/a.wav"));
-        edit.addAudioFile(QStringLiteral("/b.wav"));
+        edit.addAudioFile(u"/a.wav"_s);
+        edit.addAudioFile(u"/b.wav"_s);
         edit.removeAllAudioFiles();
         QCOMPARE(edit.audioTracks.size(), size_t(2));
         QVERIFY(!edit.audioTracks[1]->external);
@@ -212,14 +179,13 @@ private slots:
     {
         EditParameters edit;
         edit.addStreamSubtitle(0, sourceWithStreams());
-        QVERIFY(!edit.subtitles[0]->customStyle);
-        const int file
-            = edit.addSubtitleFile(QStringLiteral("/subs/movie.idx"), QStringLiteral("fr"), 0);
-        const int plain = edit.addSubtitleFile(QStringLiteral("/subs/movie.srt"), QString(), 0);
-        QVERIFY(edit.subtitles[size_t(file)]->customStyle);
-        QCOMPARE(edit.subtitles[0]->text(), QStringLiteral("de"));
-        QCOMPARE(edit.subtitles[size_t(file)]->text(), QStringLiteral("movie.idx(fr)"));
-        QCOMPARE(edit.subtitles[size_t(plain)]->text(), QStringLiteral("movie.srt"));
+        const int file = edit.addSubtitleFile(u"/subs/movie.idx"_s, u"fr"_s, 0);
+        const int plain = edit.addSubtitleFile(u"/subs/movie.srt"_s, QString(), 0);
+        QVERIFY(!edit.subtitles[0]->customStyle && edit.subtitles[size_t(file)]->customStyle);
+        QStringList texts;
+        for (const auto &subtitle : edit.subtitles)
+            texts << subtitle->text();
+        QCOMPARE(texts, (QStringList{u"de"_s, u"movie.idx(fr)"_s, u"movie.srt"_s}));
 
         QVERIFY(!edit.selectedSubtitleFile());
         QVERIFY(edit.selectSubtitle(plain));
@@ -240,9 +206,9 @@ private slots:
         edit.addStreamAudio(1, sourceWithStreams());
         AudioStreamInfo stream;
         QVERIFY(EditParameters::loadAudioInfo(*edit.audioTracks[0], stream));
-        QCOMPARE(stream.codec, QStringLiteral("mp2"));
+        QCOMPARE(stream.codec, u"mp2"_s);
 
-        edit.addAudioFile(dir.filePath(QStringLiteral("missing.mp3")));
+        edit.addAudioFile(dir.filePath(u"missing.mp3"_s));
         QVERIFY(!EditParameters::loadAudioInfo(*edit.audioTracks[1], stream));
         QVERIFY(!edit.audioTracks[1]->infoLoaded);
     }
@@ -270,17 +236,15 @@ private slots:
         edited.cropRight = 140;
         edited.cropTop = 10;
         edited.cropBottom = 10;
-        edited.zoomMode = QStringLiteral("Full Screen");
+        edited.zoomMode = u"Full Screen"_s;
         edited.brightness = 40;
 
         EditParameters other;
         other.cropTop = 2;
         edited.applyCropTo(other, width, height);
-        QCOMPARE(other.cropLeft, left);
-        QCOMPARE(other.cropRight, left ? 140 : 0);
-        QCOMPARE(other.cropTop, top ? 10 : 2);
-        QCOMPARE(other.cropBottom, top);
-        QCOMPARE(other.zoomMode, QStringLiteral("Full Screen"));
+        QCOMPARE(QList<int>({other.cropLeft, other.cropRight, other.cropTop, other.cropBottom}),
+                 QList<int>({left, left ? 140 : 0, top ? 10 : 2, top}));
+        QCOMPARE(other.zoomMode, u"Full Screen"_s);
         QCOMPARE(other.brightness, 0);
     }
 
@@ -291,71 +255,73 @@ private slots:
         edited.contrast = 15;
         edited.saturation = 100;
         edited.setEffectEnabled(0, true);
-        edited.watermark().text = QStringLiteral("mine");
+        edited.watermark().text = u"mine"_s;
         edited.watermark().left = 40;
 
         EditParameters other;
         edited.applyImageTo(other);
-        QCOMPARE(other.brightness, -20);
-        QCOMPARE(other.contrast, 15);
-        QCOMPARE(other.saturation, 100);
+        QCOMPARE(QList<int>({other.brightness, other.contrast, other.saturation}),
+                 QList<int>({-20, 15, 100}));
         QVERIFY(other.enabledEffects().empty());
-
         edited.applyWatermarkTo(other);
-        QCOMPARE(other.watermark().text, QStringLiteral("mine"));
+        QCOMPARE(other.watermark().text, u"mine"_s);
         QCOMPARE(other.watermark().left, 40);
         QVERIFY(other.watermark().id != edited.watermark().id);
-        other.watermark().text = QStringLiteral("changed");
-        QCOMPARE(edited.watermark().text, QStringLiteral("mine"));
+        other.watermark().text = u"changed"_s;
+        QCOMPARE(edited.watermark().text, u"mine"_s);
     }
 
-    void renderPictureWatermark_data()
+    void renderWatermark_data()
     {
-        QTest::addColumn<QRect>("entry"); // inclusive rectangle in output pixels
-        QTest::addColumn<QRect>("placed");
+        QTest::addColumn<QString>("text"); // none: a picture, its left half red, the right blue
+        QTest::addColumn<QRect>("entry");  // inclusive rectangle in output pixels
+        QTest::addColumn<QRect>("placed"); // none: nothing made
         QTest::addColumn<QColor>("leftColour");
         QTest::addColumn<QColor>("rightColour");
-        QTest::newRow("inside") << QRect(QPoint(10, 5), QPoint(29, 14))
-                                << QRect(QPoint(10, 5), QPoint(29, 14)) << QColor(Qt::red)
-                                << QColor(Qt::blue);
-        QTest::newRow("past right and bottom")
-            << QRect(QPoint(90, 45), QPoint(109, 54)) << QRect(QPoint(90, 45), QPoint(99, 49))
-            << QColor(Qt::red) << QColor(Qt::red);
-        QTest::newRow("left of the frame")
-            << QRect(QPoint(-10, 0), QPoint(9, 9)) << QRect(QPoint(0, 0), QPoint(9, 9))
-            << QColor(Qt::blue) << QColor(Qt::blue);
-        QTest::newRow("scaled to the rectangle")
-            << QRect(QPoint(0, 0), QPoint(39, 19)) << QRect(QPoint(0, 0), QPoint(39, 19))
-            << QColor(Qt::red) << QColor(Qt::blue);
+        const auto row = [](const char *name, const char *text, QRect entry, QRect placed,
+                            QColor left = {}, QColor right = {}) {
+            QTest::newRow(name) << QString::fromLatin1(text) << entry << placed << left << right;
+        };
+        const QColor red(Qt::red), blue(Qt::blue);
+        row("inside", "", QRect(10, 5, 20, 10), QRect(10, 5, 20, 10), red, blue);
+        row("past right and bottom", "", QRect(90, 45, 20, 10), QRect(90, 45, 10, 5), red, red);
+        row("left of the frame", "", QRect(-10, 0, 20, 10), QRect(0, 0, 10, 10), blue, blue);
+        row("scaled to the rectangle", "", QRect(0, 0, 40, 20), QRect(0, 0, 40, 20), red, blue);
+        row("no watermark", nullptr, QRect(1, 1, 160, 120), QRect());
+        row("inverted width", "x", QRect(QPoint(50, 1), QPoint(20, 40)), QRect());
+        row("inverted height", "x", QRect(QPoint(1, 30), QPoint(60, 10)), QRect());
+        row("outside the frame", "x", QRect(400, 1, 100, 20), QRect());
     }
 
-    void renderPictureWatermark()
+    void renderWatermark()
     {
+        QFETCH(QString, text);
         QFETCH(QRect, entry);
         QFETCH(QRect, placed);
         QFETCH(QColor, leftColour);
         QFETCH(QColor, rightColour);
-        const QString picture = dir.filePath(QStringLiteral("halves.png"));
-        QVERIFY(halves().save(picture));
-
         EditParameters edit;
-        WatermarkEntry &mark = edit.watermark();
-        mark.picturePath = picture;
-        mark.left = entry.left();
-        mark.top = entry.top();
-        mark.right = entry.right();
-        mark.bottom = entry.bottom();
-        const QString path
-            = dir.filePath(QStringLiteral("Watermark/%1.png")
-                               .arg(QString::fromUtf8(QTest::currentDataTag())
-                                        .replace(QLatin1Char(' '), QLatin1Char('-'))));
-        QVERIFY(edit.renderWatermark(100, 50, path));
+        edit.watermark().text = text;
+        if (text.isEmpty() && !text.isNull()) {
+            QImage halves(20, 10, QImage::Format_ARGB32);
+            halves.fill(Qt::red);
+            QPainter(&halves).fillRect(10, 0, 10, 10, Qt::blue);
+            edit.watermark().picturePath = dir.filePath(u"halves.png"_s);
+            QVERIFY(halves.save(edit.watermark().picturePath));
+        }
+        place(edit.watermark(), entry);
+        const QString path = dir.filePath(u"Watermark/%1.png"_s.arg(
+            QString::fromUtf8(QTest::currentDataTag()).replace(u' ', u'-')));
+        QCOMPARE(edit.renderWatermark(100, 50, path), !placed.isNull());
+        if (placed.isNull()) {
+            QVERIFY(!QFile::exists(path));
+            QVERIFY(edit.watermarkFile.isEmpty());
+            return;
+        }
         QCOMPARE(edit.watermarkFile, path);
-        QCOMPARE(edit.watermarkX, placed.left());
-        QCOMPARE(edit.watermarkY, placed.top());
-        QCOMPARE(edit.watermarkRight, placed.right());
-        QCOMPARE(edit.watermarkBottom, placed.bottom());
-
+        QCOMPARE(QRect(QPoint(edit.watermarkX, edit.watermarkY),
+                       QPoint(edit.watermarkRight, edit.watermarkBottom)),
+                 placed);
         const QImage saved(path);
         QCOMPARE(saved.size(), placed.size());
         const int y = saved.height() / 2;
@@ -367,14 +333,11 @@ private slots:
     {
         EditParameters edit;
         WatermarkEntry &mark = edit.watermark();
-        mark.text = QStringLiteral("WWWW");
+        mark.text = u"WWWW"_s;
         mark.color = Qt::green;
         mark.transparency = 128;
-        mark.left = 4;
-        mark.top = 6;
-        mark.right = 83;
-        mark.bottom = 35;
-        const QString path = dir.filePath(QStringLiteral("text.png"));
+        place(mark, QRect(4, 6, 80, 30));
+        const QString path = dir.filePath(u"text.png"_s);
         QVERIFY(edit.renderWatermark(320, 240, path));
         const QImage saved(path);
         QCOMPARE(saved.size(), QSize(80, 30));
@@ -397,40 +360,11 @@ private slots:
         QVERIFY2(maxAlpha >= 120 && maxAlpha <= 135, qPrintable(QString::number(maxAlpha)));
     }
 
-    void renderNothing_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QRect>("entry");
-        QTest::newRow("no watermark") << QString() << QRect(QPoint(1, 1), QPoint(160, 120));
-        QTest::newRow("inverted width")
-            << QStringLiteral("x") << QRect(QPoint(50, 1), QPoint(20, 120));
-        QTest::newRow("inverted height")
-            << QStringLiteral("x") << QRect(QPoint(1, 50), QPoint(160, 10));
-        QTest::newRow("outside the frame")
-            << QStringLiteral("x") << QRect(QPoint(400, 1), QPoint(500, 20));
-    }
-
-    void renderNothing()
-    {
-        QFETCH(QString, text);
-        QFETCH(QRect, entry);
-        EditParameters edit;
-        edit.watermark().text = text;
-        edit.watermark().left = entry.left();
-        edit.watermark().top = entry.top();
-        edit.watermark().right = entry.right();
-        edit.watermark().bottom = entry.bottom();
-        const QString path = dir.filePath(QStringLiteral("nothing.png"));
-        QVERIFY(!edit.renderWatermark(320, 240, path));
-        QVERIFY(!QFile::exists(path));
-        QVERIFY(edit.watermarkFile.isEmpty());
-    }
-
     void watermarkPathIsFresh()
     {
         const QString first = EditParameters::newWatermarkPath();
-        QVERIFY(first.startsWith(QDir::tempPath() + QStringLiteral("/Watermark/")));
-        QVERIFY(first.endsWith(QStringLiteral(".png")));
+        QVERIFY(first.startsWith(QDir::tempPath() + u"/Watermark/"_s));
+        QVERIFY(first.endsWith(u".png"_s));
         QVERIFY(first != EditParameters::newWatermarkPath());
     }
 };
