@@ -88,16 +88,6 @@ class TestCli : public QObject
     QString fixtures;
     QByteArray storedSettings;
 
-    QProcessEnvironment environment() const
-    {
-        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-        env.insert(u"HOME"_s, home.path());
-        env.insert(u"TMPDIR"_s, home.path());
-        env.remove(u"XDG_CONFIG_HOME"_s);
-        env.remove(u"XDG_DATA_HOME"_s);
-        return env;
-    }
-
     // A fixture, or a file that initTestCase made in the home folder.
     QString input(const QString &name) const
     {
@@ -109,7 +99,6 @@ class TestCli : public QObject
                const QString &program = QStringLiteral(KESTROVE_CLI))
     {
         QProcess process;
-        process.setProcessEnvironment(environment());
         process.start(program, args);
         Result result;
         if (!process.waitForFinished(timeoutMs) || process.exitStatus() != QProcess::NormalExit) {
@@ -153,6 +142,11 @@ private slots:
     void initTestCase()
     {
         QVERIFY(home.isValid());
+        // The programs started here inherit these.
+        qputenv("HOME", QFile::encodeName(home.path()));
+        qputenv("TMPDIR", QFile::encodeName(home.path()));
+        qunsetenv("XDG_CONFIG_HOME");
+        qunsetenv("XDG_DATA_HOME");
         REQUIRE_MEDIA_FIXTURES(fixtures);
         QVERIFY(!writeFile(home.filePath(u"junk.mp4"_s), QByteArray(4096, 'x')).isEmpty());
         QVERIFY(QDir().mkpath(home.filePath(u"empty"_s)));
@@ -490,7 +484,7 @@ private slots:
 
         QTemporaryDir out;
         QProcess process;
-        QProcessEnvironment env = environment();
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
         env.insert(u"KESTROVE_FFMPEG"_s, fake);
         process.setProcessEnvironment(env);
         process.start(QStringLiteral(KESTROVE_CLI),
@@ -529,8 +523,9 @@ private slots:
     void unreadableFileSaysPermissionDenied()
     {
         // Root reads anything: the scan then runs as nobody.
-        QTemporaryDir dir;
-        QVERIFY(QFile::setPermissions(dir.path(), QFile::ReadOwner | QFile::WriteOwner
+        QTemporaryDir dir; // below home, which nobody must be able to pass too
+        for (const QString &folder : {home.path(), dir.path()})
+            QVERIFY(QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner
                                                       | QFile::ExeOwner | QFile::ExeOther));
         const QString file = dir.filePath(u"locked.mp4"_s);
         QVERIFY(QFile::copy(fixture(fixtures, "clip.mp4"), file));
