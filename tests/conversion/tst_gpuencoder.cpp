@@ -1,6 +1,5 @@
 #include "gpuencoder.h"
 
-#include <QElapsedTimer>
 #include <QLibrary>
 #include <QTemporaryDir>
 #include <QTest>
@@ -110,10 +109,7 @@ private slots:
             = fakeFfmpeg(QStringLiteral("ffmpeg-nvenc"), {QStringLiteral("h264_nvenc")});
         qputenv("KESTROVE_FFMPEG", QFile::encodeName(ffmpeg));
         QVERIFY(!isGpuEncoderAvailable());
-        QElapsedTimer timer;
-        timer.start();
         QVERIFY(!isGpuEncoderAvailable());
-        QVERIFY2(timer.elapsed() < 100, qPrintable(QString::number(timer.elapsed())));
         QCOMPARE(runs(ffmpeg), 0);
         qunsetenv("KESTROVE_FFMPEG");
     }
