@@ -52,14 +52,14 @@ inline QList<qint64> processTree(qint64 root)
     return tree;
 }
 
+// '?' for a process that is gone.
 inline char processState(qint64 pid)
 {
-    QFile stat(QStringLiteral("/proc/%1/stat").arg(pid));
-    if (!stat.open(QIODevice::ReadOnly))
-        return '?';
-    const QByteArray text = stat.readAll();
-    const int at = text.lastIndexOf(')') + 2;
-    return at > 1 && at < text.size() ? text.at(at) : '?';
+    for (const ProcEntry &entry : processTable()) {
+        if (entry.pid == pid)
+            return entry.state;
+    }
+    return '?';
 }
 
 // Live (not zombie) children of `parent` with the command name `name`.

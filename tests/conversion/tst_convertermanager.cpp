@@ -103,10 +103,8 @@ public:
 bool allAtRest(const TaskList &list)
 {
     for (int i = 0; i < list.count(); ++i) {
-        const Task::EState state = list.at(i)->state;
-        if (state == Task::Waiting || state == Task::Running || state == Task::Paused
-            || state == Task::Pending)
-            return false;
+        if (list.at(i)->state != Task::Idle && list.at(i)->state < Task::Succeed)
+            return false; // waiting, running, paused or pending
     }
     return true;
 }
@@ -170,13 +168,8 @@ void TestConverterManager::initTestCase()
     pacedFfmpeg = work.filePath(QStringLiteral("paced-ffmpeg"));
     QFile script(pacedFfmpeg);
     QVERIFY(script.open(QIODevice::WriteOnly));
-    script.write("#!/bin/bash\n"
-                 "args=()\n"
-                 "for a in \"$@\"; do\n"
-                 "    [ \"$a\" = -i ] && args+=(-re)\n"
-                 "    args+=(\"$a\")\n"
-                 "done\n"
-                 "exec ffmpeg \"${args[@]}\"\n");
+    script.write("#!/bin/bash\nargs=()\nfor a in \"$@\"; do [ \"$a\" = -i ] && args+=(-re); "
+                 "args+=(\"$a\"); done\nexec ffmpeg \"${args[@]}\"\n");
     script.close();
     QVERIFY(script.setPermissions(script.permissions() | QFile::ExeOwner));
 }
