@@ -93,12 +93,7 @@ void TestCommandBuilder::titleToMp4InA4to3Frame()
     // profile with its defaults and a 640*480 picture.
     const auto disc = LoadDvdDisc(fixture(fixtures, "dvd-ntsc/VIDEO_TS/VTS_01_0.IFO"), false);
     QVERIFY(disc && !disc->titles.empty());
-    const QString mp4 = QStringLiteral("1,68");
-    QCOMPARE(
-        ProfileGroupLoader::instance()->profileFileName(QStringLiteral("1"), QStringLiteral("68")),
-        QStringLiteral("mp4.xml"));
-    const int id = list->addTitle(mp4, *disc->titles[0], 1, 1);
-    Task &task = *list->byId(id);
+    Task &task = *list->byId(list->addTitle(QStringLiteral("1,68"), *disc->titles[0], 1, 1));
     task.output.settings = Profile(QStringLiteral(":/profile/mp4.xml")).values();
     task.output.settings[QStringLiteral("s")] = QStringLiteral("640*480");
     task.items[0]->edit.zoomMode = QStringLiteral("16:9");
