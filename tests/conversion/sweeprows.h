@@ -27,8 +27,7 @@ inline QList<CatalogueEntry> catalogueEntries()
         for (int i = 0; i < profiles.size(); ++i) {
             const QString id = value(profiles.at(i), "Id");
             entries.append({ProfileGroupLoader::profileKey(groupId, id),
-                            value(profiles.at(i), "Name"),
-                            catalogue->profileFileName(groupId, id),
+                            value(profiles.at(i), "Name"), catalogue->profileFileName(groupId, id),
                             catalogue->profileExtName(groupId, id)});
         }
     }

@@ -1,7 +1,7 @@
-#include "preparedarguments.h"
 #include "encoderjob.h"
 #include "inputprobe.h"
 #include "mediafixtures.h"
+#include "preparedarguments.h"
 #include "profile.h"
 #include "profilegrouploader.h"
 #include "settings.h"

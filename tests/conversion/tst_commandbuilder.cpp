@@ -1,6 +1,6 @@
-#include "preparedarguments.h"
 #include "dvddisc.h"
 #include "mediafixtures.h"
+#include "preparedarguments.h"
 #include "profile.h"
 #include "profilegrouploader.h"
 #include "settings.h"
@@ -101,13 +101,14 @@ void TestCommandBuilder::titleToMp4InA4to3Frame()
 
     const QStringList args = preparedArguments(task, list->commonRootPath());
     const QString out = QDir::toNativeSeparators(outDir() + QStringLiteral("/Title_1.mp4"));
-    QCOMPARE(args,
-             words(QStringLiteral(
-                       "-y -ss 0 -pgc 0 -audio_track 0 -subtitle -1 -i %1 "
-                       "-vf scale=640:360,pad=640:480:0:60 -b:v 1200000 -r 30000/1001 -vcodec mpeg4 "
-                       "-threads 4 -aspect 4:3 -ab 192k -ac 2 -ar 44100 -acodec libfaac")
-                       .arg(QDir::toNativeSeparators(task.items[0]->sourcePath)))
-                 << out);
+    QCOMPARE(
+        args,
+        words(QStringLiteral(
+                  "-y -ss 0 -pgc 0 -audio_track 0 -subtitle -1 -i %1 "
+                  "-vf scale=640:360,pad=640:480:0:60 -b:v 1200000 -r 30000/1001 -vcodec mpeg4 "
+                  "-threads 4 -aspect 4:3 -ab 192k -ac 2 -ar 44100 -acodec libfaac")
+                  .arg(QDir::toNativeSeparators(task.items[0]->sourcePath)))
+            << out);
     QCOMPARE(task.output.filePath, out);
     QVERIFY(QFile::exists(out)); // reserved, empty
     QCOMPARE(QFileInfo(out).size(), 0);
@@ -138,8 +139,10 @@ void TestCommandBuilder::processorShare_data()
 {
     QTest::addColumn<QString>("usage");
     QTest::addColumn<QString>("expected"); // empty: no share is given
-    QTest::newRow("40% is raised to 50") << "40%" << "50";
-    QTest::newRow("75%") << "75%" << "75";
+    QTest::newRow("40% is raised to 50") << "40%"
+                                         << "50";
+    QTest::newRow("75%") << "75%"
+                         << "75";
     for (const char *none : {"100%", "150%", "85", "9%"})
         QTest::newRow(none) << none << "";
 }
@@ -212,11 +215,11 @@ void TestCommandBuilder::values_data()
     QTest::addColumn<QStringList>("settings"); // key=value pairs
     QTest::addColumn<QString>("expected");     // arguments that must stand in the list, in a row
     QTest::addColumn<QString>("absent");       // arguments that must not, each on its own
-    auto row = [](const char *name, const char *settings, const char *expected,
-                  const char *absent) {
-        QTest::newRow(name) << QString::fromUtf8(settings).split(QLatin1Char(';')) << expected
-                            << absent;
-    };
+    auto row
+        = [](const char *name, const char *settings, const char *expected, const char *absent) {
+              QTest::newRow(name) << QString::fromUtf8(settings).split(QLatin1Char(';')) << expected
+                                  << absent;
+          };
     row("audio only", "s=;g=12", "-vn", "-vf -g -aspect");
     row("ac with its label", "ac=2 (Stereo)", "-ac 2", "");
     row("ac 5.1", "ac=5.1", "-ac 6", "");

@@ -2,9 +2,9 @@
 #include "dvddisc.h"
 #include "ffmpegtools.h"
 #include "mediafixtures.h"
-#include "sanitizerreports.h"
 #include "processtools.h"
 #include "profilelookup.h"
+#include "sanitizerreports.h"
 #include "settings.h"
 #include "tasklist.h"
 #include "timetracker.h"
@@ -399,12 +399,13 @@ void TestConverterManager::remainingTimeFollowsThePace()
         const qint64 paced = qint64((content - sample.done) * double(sample.busy) / sample.done);
         const double taskDone = sample.done - (content - 12.0);
         const qint64 taskPaced = qint64((12.0 - taskDone) * double(sample.taskBusy) / taskDone);
-        const QString figures = QStringLiteral("%1 s done: batch %2 ms, paced %3; task %4, paced %5")
-                                    .arg(sample.done)
-                                    .arg(sample.remaining)
-                                    .arg(paced)
-                                    .arg(sample.taskRemaining)
-                                    .arg(taskPaced);
+        const QString figures
+            = QStringLiteral("%1 s done: batch %2 ms, paced %3; task %4, paced %5")
+                  .arg(sample.done)
+                  .arg(sample.remaining)
+                  .arg(paced)
+                  .arg(sample.taskRemaining)
+                  .arg(taskPaced);
         // The batch counts each task's length in whole seconds: a tenth of
         // the whole batch's time at this pace leaves room for that.
         QVERIFY2(qAbs(sample.remaining - paced) <= (paced + sample.busy) / 10 + 300,
@@ -418,16 +419,23 @@ void TestConverterManager::remainingTimeFollowsThePace()
 
 void TestConverterManager::onlyWholeOutputsRemain_data()
 {
-    QTest::addColumn<QString>("name");  // the source's name: a copy of clip.mp4
+    QTest::addColumn<QString>("name"); // the source's name: a copy of clip.mp4
     // "stop" after the first progress; "vanish": the source, "block": the
     // output folder made impossible before the start
     QTest::addColumn<QString>("event");
     QTest::addColumn<QString>("reason"); // what the failure says; empty: it succeeds
-    QTest::newRow("stopped while writing an MP4") << "clip.mp4" << "stop" << "stopped";
-    QTest::newRow("source gone before the start") << "gone.mp4" << "vanish" << "No such file";
-    QTest::newRow("output folder is a file")
-        << "clip.mp4" << "block" << "cannot create the output file";
-    QTest::newRow("a name with a number pattern") << "clip%03d.mp4" << "" << "";
+    QTest::newRow("stopped while writing an MP4") << "clip.mp4"
+                                                  << "stop"
+                                                  << "stopped";
+    QTest::newRow("source gone before the start") << "gone.mp4"
+                                                  << "vanish"
+                                                  << "No such file";
+    QTest::newRow("output folder is a file") << "clip.mp4"
+                                             << "block"
+                                             << "cannot create the output file";
+    QTest::newRow("a name with a number pattern") << "clip%03d.mp4"
+                                                  << ""
+                                                  << "";
 }
 
 void TestConverterManager::onlyWholeOutputsRemain()

@@ -1,9 +1,9 @@
-#include "preparedarguments.h"
 #include "dvddisc.h"
-#include "ffmpegtools.h"
 #include "encoderjob.h"
+#include "ffmpegtools.h"
 #include "mediafixtures.h"
 #include "optiontable.h"
+#include "preparedarguments.h"
 #include "profile.h"
 #include "profilegrouploader.h"
 #include "settings.h"
@@ -17,10 +17,10 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
-#include <QtMath>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QtMath>
 
 #include "testhome.h"
 

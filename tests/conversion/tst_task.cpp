@@ -39,7 +39,7 @@ class TestTask : public QObject
 private slots:
     void prepareFrame_data()
     {
-        QTest::addColumn<QSize>("source"); // 0x0: no video input
+        QTest::addColumn<QSize>("source");  // 0x0: no video input
         QTest::addColumn<double>("aspect"); // display aspect of the source, 0: its pixels
         QTest::addColumn<QRect>("crop");    // left, top, right, bottom
         QTest::addColumn<QString>("zoom");
@@ -48,39 +48,44 @@ private slots:
         QTest::addColumn<QSize>("inner");
         const QRect no;
         const QString keep = QStringLiteral("Keep Original"), full = QStringLiteral("Full Screen");
-        QTest::newRow("keep, bars above and below") << QSize(720, 480) << 0.0 << QRect(8, 8, 8, 8)
-            << keep << "640*480" << QRect(0, 28, 0, 30) << QSize(640, 422);
-        QTest::newRow("full screen") << QSize(720, 480) << 0.0 << no << full << "640*480" << no
-                                     << QSize(640, 480);
-        QTest::newRow("full screen, odd output") << QSize(720, 480) << 0.0 << no << full
-                                                 << "321*241" << no << QSize(321, 241);
-        QTest::newRow("16:9 into 4:3") << QSize(720, 576) << 0.0 << no << "16:9" << "640*480"
-                                       << QRect(0, 60, 0, 60) << QSize(640, 360);
-        QTest::newRow("4:3 into 16:9") << QSize(720, 576) << 0.0 << no << "4:3" << "1280*720"
-                                       << QRect(160, 0, 160, 0) << QSize(960, 720);
-        QTest::newRow("16:9 filling 16:9") << QSize(720, 576) << 0.0 << no << "16:9" << "1280*720"
-                                           << no << QSize(1280, 720);
-        QTest::newRow("odd bars left and right") << QSize(640, 480) << 0.0 << no << keep
-            << "854*480" << QRect(108, 0, 106, 0) << QSize(640, 480);
-        QTest::newRow("odd bars above and below") << QSize(640, 360) << 0.0 << no << keep
-            << "640*502" << QRect(0, 70, 0, 72) << QSize(640, 360);
-        QTest::newRow("ratio of the output") << QSize(640, 480) << 0.0 << no << keep << "320*240"
-                                             << no << QSize(320, 240);
-        QTest::newRow("crop leaves less than 16 pixels") << QSize(64, 48) << 0.0
-            << QRect(30, 0, 30, 0) << keep << "640*480" << QRect(240, 0, 240, 0) << QSize(160, 480);
+        QTest::newRow("keep, bars above and below")
+            << QSize(720, 480) << 0.0 << QRect(8, 8, 8, 8) << keep << "640*480"
+            << QRect(0, 28, 0, 30) << QSize(640, 422);
+        QTest::newRow("full screen")
+            << QSize(720, 480) << 0.0 << no << full << "640*480" << no << QSize(640, 480);
+        QTest::newRow("full screen, odd output")
+            << QSize(720, 480) << 0.0 << no << full << "321*241" << no << QSize(321, 241);
+        QTest::newRow("16:9 into 4:3") << QSize(720, 576) << 0.0 << no << "16:9"
+                                       << "640*480" << QRect(0, 60, 0, 60) << QSize(640, 360);
+        QTest::newRow("4:3 into 16:9") << QSize(720, 576) << 0.0 << no << "4:3"
+                                       << "1280*720" << QRect(160, 0, 160, 0) << QSize(960, 720);
+        QTest::newRow("16:9 filling 16:9") << QSize(720, 576) << 0.0 << no << "16:9"
+                                           << "1280*720" << no << QSize(1280, 720);
+        QTest::newRow("odd bars left and right")
+            << QSize(640, 480) << 0.0 << no << keep << "854*480" << QRect(108, 0, 106, 0)
+            << QSize(640, 480);
+        QTest::newRow("odd bars above and below")
+            << QSize(640, 360) << 0.0 << no << keep << "640*502" << QRect(0, 70, 0, 72)
+            << QSize(640, 360);
+        QTest::newRow("ratio of the output")
+            << QSize(640, 480) << 0.0 << no << keep << "320*240" << no << QSize(320, 240);
+        QTest::newRow("crop leaves less than 16 pixels")
+            << QSize(64, 48) << 0.0 << QRect(30, 0, 30, 0) << keep << "640*480"
+            << QRect(240, 0, 240, 0) << QSize(160, 480);
         QTest::newRow("size from the source") << QSize(720, 576) << 4.0 / 3.0 << no << keep
                                               << "Auto(Same as source)" << no << QSize(768, 576);
         // Pixels that are not square keep the picture's shape, cropped too.
         QTest::newRow("wide pixels") << QSize(720, 576) << 16.0 / 9.0 << no << keep << "640*480"
                                      << QRect(0, 60, 0, 60) << QSize(640, 360);
-        QTest::newRow("wide pixels cropped") << QSize(720, 576) << 16.0 / 9.0
-            << QRect(45, 0, 45, 0) << keep << "640*480" << QRect(0, 34, 0, 34) << QSize(640, 412);
+        QTest::newRow("wide pixels cropped")
+            << QSize(720, 576) << 16.0 / 9.0 << QRect(45, 0, 45, 0) << keep << "640*480"
+            << QRect(0, 34, 0, 34) << QSize(640, 412);
         QTest::newRow("narrow pixels") << QSize(720, 576) << 4.0 / 3.0 << no << keep << "1280*720"
                                        << QRect(160, 0, 160, 0) << QSize(960, 720);
-        QTest::newRow("no video input") << QSize() << 0.0 << no << keep << "640*480" << no
-                                        << QSize(640, 480);
-        QTest::newRow("no video, tiny output") << QSize() << 0.0 << no << keep << "8*8" << no
-                                               << QSize(16, 16);
+        QTest::newRow("no video input")
+            << QSize() << 0.0 << no << keep << "640*480" << no << QSize(640, 480);
+        QTest::newRow("no video, tiny output")
+            << QSize() << 0.0 << no << keep << "8*8" << no << QSize(16, 16);
     }
 
     void prepareFrame()
@@ -151,7 +156,8 @@ private slots:
         QTest::addColumn<QString>("audio");
         QTest::addColumn<qint64>("expected");
         // 12.5 s trimmed over two inputs.
-        QTest::newRow("both") << "1000" << "128" << qint64(1250000 + 1600000);
+        QTest::newRow("both") << "1000"
+                              << "128" << qint64(1250000 + 1600000);
         QTest::newRow("same quality") << QString() << "128" << qint64(1600000);
         QTest::newRow("no audio rate") << "800" << QString() << qint64(1000000);
     }

@@ -189,12 +189,18 @@ private slots:
         QTest::addColumn<QString>("ranges");
         QTest::addColumn<QString>("rowRanges"); // rangeAtRow of rows 0, 1, ...
         QTest::addColumn<QString>("positions"); // positionAtRow of rows 0, 1, ...
-        QTest::newRow("disc, file, disc") << "m0 m1 m2 c n" << "0-3 4-5" << "0 -1 1 -1"
+        QTest::newRow("disc, file, disc") << "m0 m1 m2 c n"
+                                          << "0-3 4-5"
+                                          << "0 -1 1 -1"
                                           << "0 3 4 -1";
         // A title of the last disc behind a loose task starts a range of its own.
-        QTest::newRow("same disc after a file") << "m0 c m1" << "0-1 2-3" << "0 -1 1 -1"
+        QTest::newRow("same disc after a file") << "m0 c m1"
+                                                << "0-1 2-3"
+                                                << "0 -1 1 -1"
                                                 << "0 1 2 -1";
-        QTest::newRow("loose tasks around a disc") << "c m0 m1 t v" << "1-3" << "-1 0 -1 -1 -1"
+        QTest::newRow("loose tasks around a disc") << "c m0 m1 t v"
+                                                   << "1-3"
+                                                   << "-1 0 -1 -1 -1"
                                                    << "0 1 3 4 -1";
     }
 
