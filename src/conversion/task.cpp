@@ -253,6 +253,8 @@ void Task::prepareFrame(int index)
     const QSize size = outputSize();
     const int W = size.width();
     const int H = size.height();
+    // Bars of an earlier zoom or profile must not outlive it.
+    edit.padLeft = edit.padRight = edit.padTop = edit.padBottom = 0;
     if (!hasVideoInput()) {
         edit.innerWidth = std::max(W, 16);
         edit.innerHeight = std::max(H, 16);
@@ -286,7 +288,6 @@ void Task::prepareFrame(int index)
     const double frame = outputAspect();
     if (frame >= ratio) {
         const int half = (W - int(W * ratio / frame)) / 2;
-        edit.padTop = edit.padBottom = 0;
         edit.padRight = edit.padLeft = half;
         if (half % 2) {
             edit.padRight = half - 1;
@@ -296,7 +297,6 @@ void Task::prepareFrame(int index)
         edit.innerHeight = H;
     } else {
         const int half = (H - int(H * frame / ratio)) / 2;
-        edit.padRight = edit.padLeft = 0;
         edit.padTop = edit.padBottom = half;
         if (half % 2) {
             edit.padTop = half - 1;

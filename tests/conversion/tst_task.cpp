@@ -108,8 +108,7 @@ private slots:
         edit.cropRight = crop.width();
         edit.cropBottom = crop.height();
         edit.zoomMode = zoom;
-        if (source.isValid() && zoom != full())
-            edit.padTop = edit.padBottom = edit.padLeft = 50; // bars of an earlier frame go
+        edit.padTop = edit.padBottom = edit.padLeft = 50; // bars of an earlier frame go
         task.items.push_back(std::move(child));
         task.prepareFrame(0);
         task.prepareFrame(5); // no such input: nothing happens
