@@ -49,6 +49,13 @@
     </message>
 </context>
 <context>
+    <name>PlayerScreen</name>
+    <message>
+        <source>Video</source>
+        <translation>Video</translation>
+    </message>
+</context>
+<context>
     <name>Profile</name>
     <message>
         <source>User Defined</source>

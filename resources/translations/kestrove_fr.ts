@@ -49,6 +49,13 @@
     </message>
 </context>
 <context>
+    <name>PlayerScreen</name>
+    <message>
+        <source>Video</source>
+        <translation>Vidéo</translation>
+    </message>
+</context>
+<context>
     <name>Profile</name>
     <message>
         <source>User Defined</source>
