@@ -89,6 +89,8 @@ private:
             return true;
         reset();
         graph = avfilter_graph_alloc();
+        if (graph)
+            graph->nb_threads = 2; // the slower effects work in slices
         const QByteArray args = QStringLiteral("video_size=%1x%2:pix_fmt=%3:time_base=1/1000:"
                                                "pixel_aspect=1/1")
                                     .arg(w)
@@ -187,27 +189,33 @@ int FFPlayer::showPicture(const PlayerPicture &picture)
     return 0;
 }
 
-QImage FFPlayer::originalImage()
+bool FFPlayer::sizeRgbLocked()
 {
-    std::lock_guard<std::mutex> guard(m_pictureMutex);
     const int width = m_sourcePicture.width;
     const int height = m_sourcePicture.height;
     if (width <= 0 || height <= 0)
-        return {};
+        return false;
     if (width != m_rgbPicture.width || height != m_rgbPicture.height) {
         freePicture(m_rgbPicture);
         m_rgbPicture.linesize[0] = rgbLineSize(width);
-        m_rgbPicture.data[0] = static_cast<uint8_t *>(av_malloc(size_t(m_rgbPicture.linesize[0]) * height));
+        m_rgbPicture.data[0]
+            = static_cast<uint8_t *>(av_malloc(size_t(m_rgbPicture.linesize[0]) * height));
         if (!m_rgbPicture.data[0])
-            return {};
+            return false;
         m_rgbPicture.width = width;
         m_rgbPicture.height = height;
         m_scaler = sws_getCachedContext(m_scaler, width, height, AV_PIX_FMT_YUV420P, width, height,
                                         AV_PIX_FMT_RGB24, SWS_BICUBIC, nullptr, nullptr, nullptr);
     }
-    if (!m_scaler)
+    return m_scaler != nullptr;
+}
+
+QImage FFPlayer::originalImage()
+{
+    std::lock_guard<std::mutex> guard(m_pictureMutex);
+    if (!sizeRgbLocked())
         return {};
-    sws_scale(m_scaler, m_sourcePicture.data, m_sourcePicture.linesize, 0, height,
+    sws_scale(m_scaler, m_sourcePicture.data, m_sourcePicture.linesize, 0, m_sourcePicture.height,
               m_rgbPicture.data, m_rgbPicture.linesize);
     return wrapRgb();
 }
@@ -228,16 +236,17 @@ QImage FFPlayer::outputImage()
                                   m_subtitlePosition, m_subtitleStream, m_subtitleFile);
     }
     const QString graph = FilterTranslator::translate(chain).graph;
-    const QImage original = originalImage(); // sizes the buffer, and the answer without edits
-    if (graph.isEmpty() || original.isNull())
-        return original;
+    if (graph.isEmpty())
+        return originalImage();
     if (!m_edited)
         m_edited = std::make_unique<EditedPicture>();
-    std::lock_guard<std::mutex> guard(m_pictureMutex);
-    if (m_sourcePicture.width != m_rgbPicture.width || m_sourcePicture.height != m_rgbPicture.height)
-        return {}; // a new size came in between: the next paint has it
     const auto milliseconds = int64_t(currentTime() * 1000.0);
-    m_edited->run(m_sourcePicture, graph, milliseconds, m_rgbPicture);
+    std::lock_guard<std::mutex> guard(m_pictureMutex);
+    if (!sizeRgbLocked())
+        return {};
+    if (!m_edited->run(m_sourcePicture, graph, milliseconds, m_rgbPicture))
+        sws_scale(m_scaler, m_sourcePicture.data, m_sourcePicture.linesize, 0,
+                  m_sourcePicture.height, m_rgbPicture.data, m_rgbPicture.linesize);
     return wrapRgb();
 }
 

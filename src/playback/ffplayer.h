@@ -91,5 +91,7 @@ private:
     SwsContext *m_scaler = nullptr;
     std::unique_ptr<EditedPicture> m_edited;
 
+    // Under the picture lock: the RGB buffer and scaler of the picture's size.
+    bool sizeRgbLocked();
     QImage wrapRgb();
 };
