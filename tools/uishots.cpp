@@ -5,8 +5,12 @@
 //   uishots picker OUT.png             the profile popup with a search in progress
 //   uishots settings LANG OUT.png      the settings window in a language, both tabs
 //   uishots controls OUT.png           every custom control and a property tree
+//   uishots surface MEDIA SRT OUT.png  the video surface playing MEDIA with an
+//                                      effect, a watermark and the subtitle file
 
 #include "controls.h"
+#include "ffplayer.h"
+#include "playerscreen.h"
 #include "cprofilecombo.h"
 #include "editablecombo.h"
 #include "focusoutcombo.h"
@@ -22,12 +26,62 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMenuBar>
+#include <QPainter>
 #include <QScreen>
 #include <QTabWidget>
 #include <QTranslator>
 #include <QTest>
 #include <QTimer>
 #include <QVBoxLayout>
+
+namespace {
+
+int surfaceShot(const QString &media, const QString &subtitle, const QString &out)
+{
+    QWidget backdrop(nullptr, Qt::FramelessWindowHint);
+    backdrop.setStyleSheet(QStringLiteral("background: #6b7785;"));
+    backdrop.setGeometry(QGuiApplication::primaryScreen()->geometry());
+    backdrop.show();
+    // A 4:3 source in a 16:9 output: the bars are part of the picture.
+    PlayerScreen screen;
+    screen.setWindowFlag(Qt::FramelessWindowHint);
+    screen.setGeometry(40, 40, 640, 360);
+    screen.setOutputSize(1280, 720);
+    screen.setZoom(0.0);
+    screen.setPictureAdjust(5, 10, 20);
+    screen.setEffects({8});
+    screen.setSubtitleStyle(-1, subtitle, QFont(QStringLiteral("DejaVu Sans"), 22), Qt::white, 0,
+                            90);
+    QImage mark(240, 60, QImage::Format_ARGB32_Premultiplied);
+    mark.fill(Qt::transparent);
+    {
+        QPainter painter(&mark);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::white);
+        painter.setFont(QFont(QStringLiteral("DejaVu Sans"), 26, QFont::Bold));
+        painter.drawText(mark.rect(), Qt::AlignCenter, QStringLiteral("Kestrove"));
+    }
+    screen.setWatermarkImage(mark);
+    screen.setWatermarkRect(980, 40, 1219, 99);
+    screen.setWatermarkTransparency(60);
+    screen.setWatermarkVisible(true);
+    screen.show();
+    FFPlayer *player = FFPlayer::instance();
+    player->open(media, QString(), -1);
+    player->seek(1.5);
+    player->playPause();
+    QTimer::singleShot(1500, qApp, [&] {
+        player->playPause();
+        QTimer::singleShot(500, qApp, [&] {
+            QGuiApplication::primaryScreen()->grabWindow(0, 24, 24, 672, 392).save(out);
+            player->stop();
+            QCoreApplication::quit();
+        });
+    });
+    return QApplication::exec();
+}
+
+} // namespace
 
 int main(int argc, char *argv[])
 {
@@ -41,6 +95,8 @@ int main(int argc, char *argv[])
     for (QTranslator *t : {&application, &browser, &toolkit})
         QCoreApplication::installTranslator(t);
     QxLanguage::setTranslators(&application, &browser, &toolkit);
+    if (args.at(1) == QLatin1String("surface") && args.size() == 5)
+        return surfaceShot(args.at(2), args.at(3), args.at(4));
     const bool settings = args.at(1) == QLatin1String("settings");
     // "picker OUT.png LANG" shows the popup in a language too.
     QxLanguage::instance()->setLanguage(settings ? args.value(2) : args.value(3, QStringLiteral("en")));
