@@ -11,9 +11,12 @@ extern "C" {
 #include <libswscale/swscale.h>
 }
 
+#include <QFile>
 #include <QFileInfo>
+#include <QRect>
 
 #include <algorithm>
+#include <array>
 #include <atomic>
 #include <chrono>
 #include <cmath>
@@ -37,6 +40,8 @@ constexpr double maxSoundSeconds = 0.5;
 // Late by more than this, a picture is dropped where the next one is due too.
 constexpr double dropLateness = 0.1;
 constexpr auto idleWait = std::chrono::milliseconds(10);
+// How far before a seek's target the subpictures are read.
+constexpr double subpictureLead = 3.0;
 
 double wallSeconds()
 {
@@ -79,7 +84,82 @@ struct SoundChunk
     int serial = 0;
 };
 
-CodecPtr openDecoder(AVStream *stream)
+// A subpicture as the decoder gave it, in the picture's pixels: palette
+// indices and the palette as Y, U, V and alpha.
+struct Subpicture
+{
+    struct Piece
+    {
+        QRect area;
+        std::vector<uint8_t> indices; // area.width() per line
+        std::vector<std::array<int, 4>> colours;
+    };
+    double start = 0.0;
+    double end = -1.0; // -1: until the next one
+    std::vector<Piece> pieces;
+};
+
+// Lays `sub` over a 4:2:0 picture; chroma takes the alpha of each 2x2 block's
+// first pixel.
+void blend(AVFrame *frame, const Subpicture &sub)
+{
+    for (const Subpicture::Piece &piece : sub.pieces) {
+        const QRect area = piece.area.intersected(QRect(0, 0, frame->width, frame->height));
+        for (int y = area.top(); y <= area.bottom(); ++y) {
+            const uint8_t *index
+                = piece.indices.data() + size_t(y - piece.area.top()) * piece.area.width();
+            uint8_t *luma = frame->data[0] + y * frame->linesize[0];
+            uint8_t *cb = frame->data[1] + (y / 2) * frame->linesize[1];
+            uint8_t *cr = frame->data[2] + (y / 2) * frame->linesize[2];
+            for (int x = area.left(); x <= area.right(); ++x) {
+                const uint8_t i = index[x - piece.area.left()];
+                if (i >= piece.colours.size())
+                    continue;
+                const std::array<int, 4> &c = piece.colours[i];
+                const int a = c[3];
+                luma[x] = uint8_t((luma[x] * (255 - a) + c[0] * a) / 255);
+                if (x % 2 == 0 && y % 2 == 0) {
+                    cb[x / 2] = uint8_t((cb[x / 2] * (255 - a) + c[1] * a) / 255);
+                    cr[x / 2] = uint8_t((cr[x / 2] * (255 - a) + c[2] * a) / 255);
+                }
+            }
+        }
+    }
+}
+
+// The bitmaps of one decoded subtitle; none for text.
+Subpicture subpictureOf(const AVSubtitle &decoded, double time)
+{
+    Subpicture sub;
+    sub.start = time + decoded.start_display_time / 1000.0;
+    if (decoded.end_display_time > decoded.start_display_time
+        && decoded.end_display_time != UINT32_MAX)
+        sub.end = time + decoded.end_display_time / 1000.0;
+    for (unsigned r = 0; r < decoded.num_rects; ++r) {
+        const AVSubtitleRect *rect = decoded.rects[r];
+        if (rect->type != SUBTITLE_BITMAP || rect->w <= 0 || rect->h <= 0 || !rect->data[0])
+            continue;
+        Subpicture::Piece piece;
+        piece.area = QRect(rect->x, rect->y, rect->w, rect->h);
+        piece.indices.resize(size_t(rect->w) * rect->h);
+        for (int y = 0; y < rect->h; ++y)
+            std::copy_n(rect->data[0] + y * rect->linesize[0], rect->w,
+                        piece.indices.data() + size_t(y) * rect->w);
+        const auto *palette = reinterpret_cast<const uint32_t *>(rect->data[1]);
+        for (int i = 0; palette && i < rect->nb_colors; ++i) {
+            const int a = int(palette[i] >> 24), r8 = int(palette[i] >> 16 & 0xff),
+                      g = int(palette[i] >> 8 & 0xff), b = int(palette[i] & 0xff);
+            // Studio range, as the pictures are.
+            piece.colours.push_back({16 + (66 * r8 + 129 * g + 25 * b + 128) / 256,
+                                     128 + (-38 * r8 - 74 * g + 112 * b + 128) / 256,
+                                     128 + (112 * r8 - 94 * g - 18 * b + 128) / 256, a});
+        }
+        sub.pieces.push_back(std::move(piece));
+    }
+    return sub;
+}
+
+CodecPtr openDecoder(AVStream *stream, AVDictionary **options = nullptr)
 {
     const AVCodec *codec = avcodec_find_decoder(stream->codecpar->codec_id);
     if (!codec)
@@ -90,7 +170,7 @@ CodecPtr openDecoder(AVStream *stream)
     context->pkt_timebase = stream->time_base;
     // Two decode threads at most: the engine's other threads need the rest.
     context->thread_count = 2;
-    if (avcodec_open2(context.get(), codec, nullptr) < 0)
+    if (avcodec_open2(context.get(), codec, options) < 0)
         return nullptr;
     return context;
 }
@@ -104,8 +184,10 @@ struct Session
     FormatContextPtr input;
     CodecPtr video;
     CodecPtr audio;
+    CodecPtr subtitles;
     int videoIndex = -1;
     int audioIndex = -1;
+    int subtitleIndex = -1;
     double startTime = 0.0; // the source's first stamp, taken off every time
     double duration = 0.0;
     double frameLength = 0.04;
@@ -135,6 +217,7 @@ struct Session
     std::deque<Picture> pictures;
     std::deque<SoundChunk> sound;
     size_t soundSamples = 0;
+    std::deque<Subpicture> subpictures; // of `serial`, in time order
 
     bool paused = false;
     bool clockSet = false;
@@ -188,6 +271,7 @@ struct Session
         pictures.clear();
         sound.clear();
         soundSamples = 0;
+        subpictures.clear();
         demuxDone = videoDone = audioDone = false;
         ended = false;
         clockSet = false;
@@ -244,7 +328,9 @@ void Session::demux()
         if (seekPending) {
             seekPending = false;
             const double target = seekTarget;
-            const int64_t stamp = int64_t((target + startTime) * AV_TIME_BASE);
+            // A subpicture shown at the target may have begun a while before.
+            const double from = std::max(target - (subtitleIndex >= 0 ? subpictureLead : 0.0), 0.0);
+            const int64_t stamp = int64_t((from + startTime) * AV_TIME_BASE);
             lock.unlock();
             // The key frame at or before the target; what lies between is
             // decoded and dropped.
@@ -273,6 +359,22 @@ void Session::demux()
             if (audioIndex >= 0)
                 audioPackets.push_back({nullptr, serial});
             changed.notify_all();
+            continue;
+        }
+        if (packet->stream_index == subtitleIndex && subtitleIndex >= 0) {
+            // Small and rare: decoded here, shown with the pictures.
+            AVSubtitle decoded{};
+            int got = 0;
+            const double time
+                = stampSeconds(packet->pts, input->streams[subtitleIndex]->time_base);
+            if (avcodec_decode_subtitle2(subtitles.get(), &decoded, &got, packet) >= 0 && got) {
+                Subpicture sub = subpictureOf(decoded, std::max(time, 0.0));
+                if (!subpictures.empty() && subpictures.back().end < 0.0)
+                    subpictures.back().end = sub.start;
+                subpictures.push_back(std::move(sub));
+                avsubtitle_free(&decoded);
+            }
+            av_packet_unref(packet);
             continue;
         }
         std::deque<Packet> *queue = packet->stream_index == videoIndex ? &videoPackets
@@ -491,6 +593,13 @@ void Session::present(const std::function<void()> &onEnd, const PlayerEngine::Fr
         }
         AVFrame *frame = picture.frame;
         const int serialShown = picture.serial;
+        // Subpictures that have ended go; the one of this moment is laid on.
+        while (!subpictures.empty() && subpictures.front().end >= 0.0
+               && subpictures.front().end <= picture.time)
+            subpictures.pop_front();
+        if (!subpictures.empty() && subpictures.front().start <= picture.time
+            && av_frame_make_writable(frame) >= 0)
+            blend(frame, subpictures.front());
         pictures.pop_front();
         showNext = false;
         changed.notify_all();
@@ -646,8 +755,12 @@ std::unique_ptr<Session> PlayerEngine::Private::prepare()
     selectTitleStreams(s->input.get(), title);
     AVFormatContext *input = s->input.get();
     int audioSeen = 0;
+    int subtitlesSeen = 0;
     // A disc title offers only the chosen track; a file's n-th sound stream.
     const int wantedAudio = title.pgc >= 0 ? 0 : audioTrack;
+    const int wantedSubtitle = title.pgc >= 0 ? (title.subtitle >= 0 ? 0 : -1)
+                               : subtitle == noTrack ? -1
+                                                     : subtitle;
     for (unsigned i = 0; i < input->nb_streams; ++i) {
         AVStream *stream = input->streams[i];
         if (stream->discard == AVDISCARD_ALL)
@@ -659,7 +772,23 @@ std::unique_ptr<Session> PlayerEngine::Private::prepare()
         } else if (type == AVMEDIA_TYPE_AUDIO) {
             if (audioSeen++ == wantedAudio && s->audioIndex < 0)
                 s->audioIndex = int(i);
+        } else if (type == AVMEDIA_TYPE_SUBTITLE) {
+            // Pictures only: text streams go through the edited picture.
+            const AVCodecDescriptor *kind = avcodec_descriptor_get(stream->codecpar->codec_id);
+            if (subtitlesSeen++ == wantedSubtitle && kind
+                && (kind->props & AV_CODEC_PROP_BITMAP_SUB))
+                s->subtitleIndex = int(i);
         }
+    }
+    if (s->subtitleIndex >= 0) {
+        // A disc's colours are in its IFO.
+        AVDictionary *options = nullptr;
+        if (title.pgc >= 0)
+            av_dict_set(&options, "ifo_palette", QFile::encodeName(path).constData(), 0);
+        s->subtitles = openDecoder(input->streams[s->subtitleIndex], &options);
+        av_dict_free(&options);
+        if (!s->subtitles)
+            s->subtitleIndex = -1;
     }
     if (s->videoIndex >= 0 && !(s->video = openDecoder(input->streams[s->videoIndex])))
         s->videoIndex = -1;
@@ -670,7 +799,7 @@ std::unique_ptr<Session> PlayerEngine::Private::prepare()
         return nullptr;
     }
     for (unsigned i = 0; i < input->nb_streams; ++i)
-        if (int(i) != s->videoIndex && int(i) != s->audioIndex)
+        if (int(i) != s->videoIndex && int(i) != s->audioIndex && int(i) != s->subtitleIndex)
             input->streams[i]->discard = AVDISCARD_ALL;
     if (input->start_time != AV_NOPTS_VALUE)
         s->startTime = double(input->start_time) / AV_TIME_BASE;
@@ -917,7 +1046,7 @@ void PlayerEngine::selectAudio(int track)
 
 void PlayerEngine::selectSubtitle(int stream)
 {
-    d->subtitle = stream;
+    d->subtitle = stream < 0 ? noTrack : stream;
 }
 
 int PlayerEngine::state() const

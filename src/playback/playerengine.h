@@ -68,6 +68,9 @@ public:
     double clock() const;
     // The n-th sound stream of the source, counted from 0; noTrack for none.
     void selectAudio(int track);
+    // The n-th subtitle stream of a file, laid on the pictures where it is
+    // made of pictures (a disc's, VobSub); noTrack for none. From the next
+    // open; a title takes its subpicture from the open's selection.
     void selectSubtitle(int stream);
 
     int state() const;

@@ -1,6 +1,7 @@
 #include "ffmpegtools.h"
 #include "ffplayer.h"
 #include "filtertext.h"
+#include "mediafixtures.h"
 
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -55,18 +56,18 @@ class TestEditedPicture : public QObject
         return QTest::qWaitFor([&] { return player->state() == 2; }, 5000);
     }
 
-    QImage encoderFrame(const QString &source, double seconds, const QString &chain)
+    // `input` as the program writes it: "-ss S -i FILE" or a title's options.
+    QImage encoderFrame(const QStringList &input, const QString &chain)
     {
         const QString out = dir.filePath(QStringLiteral("encoded.png"));
         QFile::remove(out);
         QByteArray log;
         const int code = runTool(
             QCoreApplication::applicationDirPath() + QStringLiteral("/kestrove-encoder"),
-            {QStringLiteral("-y"), QStringLiteral("-ss"), QString::number(seconds),
-             QStringLiteral("-i"), source, QStringLiteral("-vf"),
-             QStringLiteral("scale=320:240,") + chain, QStringLiteral("-vframes"),
-             QStringLiteral("1"), QStringLiteral("-vcodec"), QStringLiteral("png"),
-             QStringLiteral("-an"), out},
+            QStringList{QStringLiteral("-y")} + input
+                + QStringList{QStringLiteral("-vf"), chain, QStringLiteral("-vframes"),
+                              QStringLiteral("1"), QStringLiteral("-vcodec"),
+                              QStringLiteral("png"), QStringLiteral("-an"), out},
             &log, dir.path(), 60000);
         if (code != 0)
             qWarning("%s", log.constData());
@@ -102,6 +103,7 @@ private slots:
         player->setPictureAdjust(0, 0, 0);
         player->setEffects({});
         player->setSubtitle(-1, QString());
+        player->setAudioTrack(0);
         player->stop();
     }
 
@@ -134,8 +136,53 @@ private slots:
         QString chain = pictureEffectText(brightness, contrast, saturation, effects);
         if (subtitle)
             chain = subtitleFileText(font, color, 0, 85, -1, srt);
-        const QImage encoded = encoderFrame(still, 2.0, chain);
+        const QImage encoded
+            = encoderFrame({QStringLiteral("-ss"), QStringLiteral("2"), QStringLiteral("-i"), still},
+                           QStringLiteral("scale=320:240,") + chain);
         QVERIFY(!encoded.isNull());
+        const double figure = psnr(preview, encoded);
+        QVERIFY2(figure > 40.0, qPrintable(QStringLiteral("PSNR %1 dB").arg(figure)));
+    }
+
+    // Subpictures, in their own colours, as the encoder lays them on: a
+    // disc title's and a file's stream.
+    void subpictureEqualsTheEncoders_data()
+    {
+        QTest::addColumn<QString>("source");
+        QTest::addColumn<int>("pgc");
+        QTest::addColumn<double>("seconds");
+        QTest::newRow("disc title, inside the subpicture")
+            << QStringLiteral("dvd-main/VIDEO_TS/VTS_01_0.IFO") << 0 << 1.0;
+        // The encoder's seek ahead of a file's input skips a subpicture
+        // begun before it: at its start the two agree.
+        QTest::newRow("stream of a file") << QStringLiteral("subpicture.mkv") << -1 << 0.0;
+    }
+    void subpictureEqualsTheEncoders()
+    {
+        QFETCH(QString, source);
+        QFETCH(int, pgc);
+        QFETCH(double, seconds);
+        const QString path = fixture(mediaFixtures(), qPrintable(source));
+        player->setAudioTrack(0);
+        player->setSubtitle(0, QString());
+        player->stop();
+        QSignalSpy pictures(player, &FFPlayer::videoChanged);
+        player->open(path, QString(), pgc);
+        player->seek(seconds);
+        player->playPause();
+        QVERIFY(pictures.wait(5000));
+        player->playPause();
+        QTRY_COMPARE(player->state(), 2);
+        const QImage preview = player->originalImage().copy();
+        // The subpicture's box is white on the red picture.
+        QVERIFY(qGray(preview.pixel(160, 235)) > 200);
+        QVERIFY(qRed(preview.pixel(160, 300)) > 200 && qGreen(preview.pixel(160, 300)) < 80);
+        QStringList input{QStringLiteral("-ss"), QString::number(seconds)};
+        if (pgc >= 0)
+            input << QStringLiteral("-pgc") << QString::number(pgc)
+                  << QStringLiteral("-audio_track") << QStringLiteral("0");
+        input << QStringLiteral("-subtitle") << QStringLiteral("0") << QStringLiteral("-i") << path;
+        const QImage encoded = encoderFrame(input, QStringLiteral("scale=720:576"));
         const double figure = psnr(preview, encoded);
         QVERIFY2(figure > 40.0, qPrintable(QStringLiteral("PSNR %1 dB").arg(figure)));
     }
