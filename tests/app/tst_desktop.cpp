@@ -94,92 +94,81 @@ public slots:
     // Stands in for the desktop's program for files and folders.
     void openUrl(const QUrl &url) { urls << url; }
 
-private slots:
-    void initTestCase();
-    void cleanup();
-    void openFolderAndSelect_data();
-    void openFolderAndSelect();
-    void openLocalFile();
-
 private:
-    QStringList sevenFolders() const;
     QString root;
     QList<QUrl> urls;
     QProcess fake;
+
+private slots:
+    void initTestCase()
+    {
+        QVERIFY2(QDBusConnection::sessionBus().isConnected(), "no private session bus");
+        QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "openUrl");
+    }
+
+    void cleanup()
+    {
+        urls.clear();
+        if (fake.state() == QProcess::NotRunning)
+            return;
+        fake.kill();
+        fake.waitForFinished();
+        QTRY_VERIFY(!fileManagerRegistered());
+    }
+
+    void openFolderAndSelect_data()
+    {
+        QTest::addColumn<QString>("fileManager");
+        QTest::newRow("file manager selects the files") << "--fake-file-manager";
+        QTest::newRow("file manager refuses: plain folders") << "--refusing-file-manager";
+        QTest::newRow("no file manager: plain folders") << "";
+    }
+
+    void openFolderAndSelect()
+    {
+        QFETCH(QString, fileManager);
+        if (!fileManager.isEmpty()) {
+            fake.start(QCoreApplication::applicationFilePath(), {fileManager});
+            QVERIFY(fake.waitForReadyRead(10000) && fake.readLine().trimmed() == "ready");
+        }
+        QCOMPARE(fileManagerRegistered(), !fileManager.isEmpty());
+        // Files in seven folders, two in the first, in no order; names with blanks
+        // and umlauts; and files that are gone, one of them in a folder that's gone.
+        QStringList files;
+        for (int i = 7; i >= 1; --i)
+            files << root + QStringLiteral("/f%1 ü/clip %1.mp4").arg(i);
+        files << root + QStringLiteral("/f1 ü/Ärger.mkv");
+        for (const QString &file : files)
+            touch(file);
+        Utils::openFolderAndSelect(files << root + QStringLiteral("/a/gone.mp4")
+                                         << root + QStringLiteral("/f2 ü/gone.mp4") << QString(),
+                                   5);
+        // The calls are answered before openFolderAndSelect returns.
+        QStringList calls;
+        while (fake.canReadLine() || fake.waitForReadyRead(300))
+            calls << QString::fromUtf8(fake.readLine()).trimmed();
+        // At most five folders, sorted, each once.
+        QList<QUrl> folders;
+        for (int i = 1; i <= 5; ++i)
+            folders << QUrl::fromLocalFile(root + QStringLiteral("/f%1 ü").arg(i));
+        if (fileManager == QLatin1String("--fake-file-manager")) {
+            QStringList expected{uri(root + QStringLiteral("/f1 ü/clip 1.mp4")) + QLatin1Char('|')
+                                 + uri(root + QStringLiteral("/f1 ü/Ärger.mkv"))};
+            for (int i = 2; i <= 5; ++i)
+                expected << uri(root + QStringLiteral("/f%1 ü/clip %1.mp4").arg(i));
+            QCOMPARE(calls, expected);
+            folders.clear();
+        }
+        QCOMPARE(urls, folders);
+    }
+
+    void openLocalFile()
+    {
+        const QString file = root + QStringLiteral("/o/my clip.mp4");
+        QVERIFY(Utils::openLocalFile(file));
+        QCOMPARE(urls, QList<QUrl>{QUrl::fromLocalFile(file)});
+    }
 };
-
-void TestDesktop::initTestCase()
-{
-    QVERIFY2(QDBusConnection::sessionBus().isConnected(), "no private session bus");
-    QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "openUrl");
-}
-
-void TestDesktop::cleanup()
-{
-    urls.clear();
-    if (fake.state() == QProcess::NotRunning)
-        return;
-    fake.kill();
-    fake.waitForFinished();
-    QTRY_VERIFY(!fileManagerRegistered());
-}
-
-// Files in seven folders, two in the first, in no order; names with blanks
-// and umlauts; and files that are gone, one of them in a folder that's gone.
-QStringList TestDesktop::sevenFolders() const
-{
-    QStringList files;
-    for (int i = 7; i >= 1; --i)
-        files << root + QStringLiteral("/f%1 ü/clip %1.mp4").arg(i);
-    files << root + QStringLiteral("/f1 ü/Ärger.mkv");
-    for (const QString &file : files)
-        touch(file);
-    return files << root + QStringLiteral("/a/gone.mp4") << root + QStringLiteral("/f2 ü/gone.mp4")
-                 << QString();
-}
-
-void TestDesktop::openFolderAndSelect_data()
-{
-    QTest::addColumn<QString>("fileManager");
-    QTest::newRow("file manager selects the files") << "--fake-file-manager";
-    QTest::newRow("file manager refuses: plain folders") << "--refusing-file-manager";
-    QTest::newRow("no file manager: plain folders") << "";
-}
-
-void TestDesktop::openFolderAndSelect()
-{
-    QFETCH(QString, fileManager);
-    if (!fileManager.isEmpty()) {
-        fake.start(QCoreApplication::applicationFilePath(), {fileManager});
-        QVERIFY(fake.waitForReadyRead(10000) && fake.readLine().trimmed() == "ready");
-    }
-    QCOMPARE(fileManagerRegistered(), !fileManager.isEmpty());
-    Utils::openFolderAndSelect(sevenFolders(), 5);
-    // The calls are answered before openFolderAndSelect returns.
-    QStringList calls;
-    while (fake.canReadLine() || fake.waitForReadyRead(300))
-        calls << QString::fromUtf8(fake.readLine()).trimmed();
-    // At most five folders, sorted, each once.
-    QList<QUrl> folders;
-    for (int i = 1; i <= 5; ++i)
-        folders << QUrl::fromLocalFile(root + QStringLiteral("/f%1 ü").arg(i));
-    if (fileManager == QLatin1String("--fake-file-manager")) {
-        QStringList expected{uri(root + QStringLiteral("/f1 ü/clip 1.mp4")) + QLatin1Char('|')
-                             + uri(root + QStringLiteral("/f1 ü/Ärger.mkv"))};
-        for (int i = 2; i <= 5; ++i)
-            expected << uri(root + QStringLiteral("/f%1 ü/clip %1.mp4").arg(i));
-        QCOMPARE(calls, expected);
-        folders.clear();
-    }
-    QCOMPARE(urls, folders);
-}
-
-void TestDesktop::openLocalFile()
-{
-    const QString file = root + QStringLiteral("/o/my clip.mp4");
-    QVERIFY(Utils::openLocalFile(file));
-    QCOMPARE(urls, QList<QUrl>{QUrl::fromLocalFile(file)});
-}
 
 int main(int argc, char *argv[])
 {

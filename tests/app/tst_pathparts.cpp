@@ -1,6 +1,8 @@
 #include "pathparts.h"
+#include "utils.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
@@ -34,133 +36,200 @@ class TestPathParts : public QObject
     Q_OBJECT
 
 private slots:
-    void split_data();
-    void split();
-    void makeUnique_data();
-    void makeUnique();
-    void reserveUniqueHoldsTheNameAndOverwritesNothing();
-};
 
-// Split, then renamed: the parts and the rest of the path stay.
-void TestPathParts::split_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QStringList>("parts"); // drive, folder, base name, extension
-    QTest::addColumn<QString>("rename");
-    QTest::addColumn<QString>("renamed");
-    const auto row = [](const char *tag, const char *path,
-                        std::initializer_list<const char *> parts, const char *rename,
-                        const char *renamed) {
-        QTest::newRow(tag) << QString::fromUtf8(path) << names(parts) << QString::fromUtf8(rename)
-                           << QString::fromUtf8(renamed);
-    };
-    row("drive", "C:/a/b.c.mp4", {"C:", "C:/a", "b.c", "mp4"}, "Title_2", "C:/a/Title_2.mp4");
-    row("backslashes", "D:\\v\\t.vob", {"D:", "D:\\v", "t", "vob"}, "b.mkv", "D:\\v/b.mkv");
-    row("mixed separators", "/a\\b/c.x", {"", "/a\\b", "c", "x"}, ".profile", "/a\\b/.profile.x");
-    row("hidden", "/home/u/.hidden", {"", "/home/u", ".hidden", ""}, "x", "/home/u/x");
-    row("dots in folder", "/my.videos/v1.0/clip", {"", "/my.videos/v1.0", "clip", ""}, "a.b",
-        "/my.videos/v1.0/a.b");
-    row("no folder, drive", "C:name.mp4", {"C:", "", "C:name", "mp4"}, "x", "/x.mp4");
-    row("trailing separator", "/a/b/", {"", "/a/b", "", ""}, "x", "/a/b/x");
-    row("root file", "/x.mkv", {"", "", "x", "mkv"}, "y", "/y.mkv");
-    row("blanks and umlauts", "/home/ü s/Ça va.mp4", {"", "/home/ü s", "Ça va", "mp4"}, "Ça",
-        "/home/ü s/Ça.mp4");
-    row("empty", "", {"", "", "", ""}, "a.mp4", "/a.mp4");
-}
-
-void TestPathParts::split()
-{
-    QFETCH(QString, path);
-    QFETCH(QString, rename);
-    PathParts parts(path);
-    QTEST((QStringList{parts.drive(), parts.folder(), parts.baseName(), parts.extension()}),
-          "parts");
-    parts.setFileName(rename);
-    QTEST(parts.fullPath(), "renamed");
-}
-
-void TestPathParts::makeUnique_data()
-{
-    QTest::addColumn<QString>("fileName");
-    QTest::addColumn<int>("position");
-    QTest::addColumn<QStringList>("present");
-    QTest::addColumn<int>("number");
-    QTest::addColumn<QString>("expected");
-    const auto row = [](const char *tag, const char *name, int position,
-                        std::initializer_list<const char *> present, int number,
-                        const char *expected) {
-        QTest::newRow(tag) << QString::fromUtf8(name) << position << names(present) << number
-                           << QString::fromUtf8(expected);
-    };
-    row("free", "a.mp4", plain, {"b.mp4"}, 0, "a.mp4");
-    row("two taken", "a.mp4", plain, {"a.mp4", "a(1).mp4"}, 2, "a(2).mp4");
-    row("gap is used", "a.mp4", plain, {"a.mp4", "a(2).mp4"}, 1, "a(1).mp4");
-    row("other extension is free", "a.mp4", plain, {"a.mkv"}, 0, "a.mp4");
-    row("no extension", "Title_1", plain, {"Title_1"}, 1, "Title_1(1)");
-    row("folder of that name", "out.avi", plain, {"out.avi/"}, 1, "out(1).avi");
-    row("blanks and dots", "my clip.v2.mp4", plain, {"my clip.v2.mp4", "my clip.v2(1).mp4"}, 2,
-        "my clip.v2(2).mp4");
-    row("non-ASCII", "Vidéo ü 日本.mp4", plain, {"Vidéo ü 日本.mp4"}, 1, "Vidéo ü 日本(1).mp4");
-    // The picture series: the number goes before the digits.
-    row("series, twice", "clip001.jpg", 4, {"clip001.jpg", "clip(1)001.jpg"}, 2,
-        "clip(2)001.jpg");
-    row("series, at start", "clip001.jpg", 0, {"clip001.jpg"}, 1, "(1)clip001.jpg");
-    row("series, last character", "clip001.jpg", 6, {"clip001.jpg"}, 1, "clip00(1)1.jpg");
-    row("series, past the end", "clip001.jpg", 7, {"clip001.jpg"}, 1, "clip001(1).jpg");
-    row("series, negative", "clip001.jpg", -1, {"clip001.jpg"}, 1, "clip001(1).jpg");
-}
-
-void TestPathParts::makeUnique()
-{
-    QFETCH(QString, fileName);
-    QFETCH(int, position);
-    QFETCH(QStringList, present);
-    QTemporaryDir dir;
-    // A folder with blanks and dots in its name, as users have; given with
-    // its separator at the end.
-    const QString folder = dir.path() + QStringLiteral("/out put.d/");
-    QVERIFY(QDir().mkpath(folder));
-    for (const QString &name : present) {
-        if (name.endsWith(QLatin1Char('/')))
-            QVERIFY(QDir(folder).mkdir(name));
-        else
-            touch(folder + name);
+    // Split, then renamed: the parts and the rest of the path stay.
+    void split_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QStringList>("parts"); // drive, folder, base name, extension
+        QTest::addColumn<QString>("rename");
+        QTest::addColumn<QString>("renamed");
+        const auto row
+            = [](const char *tag, const char *path, std::initializer_list<const char *> parts,
+                 const char *rename, const char *renamed) {
+                  QTest::newRow(tag) << QString::fromUtf8(path) << names(parts)
+                                     << QString::fromUtf8(rename) << QString::fromUtf8(renamed);
+              };
+        row("drive", "C:/a/b.c.mp4", {"C:", "C:/a", "b.c", "mp4"}, "Title_2", "C:/a/Title_2.mp4");
+        row("backslashes", "D:\\v\\t.vob", {"D:", "D:\\v", "t", "vob"}, "b.mkv", "D:\\v/b.mkv");
+        row("mixed separators", "/a\\b/c.x", {"", "/a\\b", "c", "x"}, ".profile",
+            "/a\\b/.profile.x");
+        row("hidden", "/home/u/.hidden", {"", "/home/u", ".hidden", ""}, "x", "/home/u/x");
+        row("dots in folder", "/my.videos/v1.0/clip", {"", "/my.videos/v1.0", "clip", ""}, "a.b",
+            "/my.videos/v1.0/a.b");
+        row("no folder, drive", "C:name.mp4", {"C:", "", "C:name", "mp4"}, "x", "/x.mp4");
+        row("trailing separator", "/a/b/", {"", "/a/b", "", ""}, "x", "/a/b/x");
+        row("root file", "/x.mkv", {"", "", "x", "mkv"}, "y", "/y.mkv");
+        row("blanks and umlauts", "/home/ü s/Ça va.mp4", {"", "/home/ü s", "Ça va", "mp4"}, "Ça",
+            "/home/ü s/Ça.mp4");
+        row("empty", "", {"", "", "", ""}, "a.mp4", "/a.mp4");
     }
-    PathParts parts;
-    parts.setFolder(folder);
-    parts.setFileName(fileName);
-    QTEST(position == plain ? parts.makeUnique() : parts.makeUniqueAt(position), "number");
-    QFETCH(QString, expected);
-    QCOMPARE(parts.fullPath(), folder + expected);
-    // Testing alone creates nothing.
-    QCOMPARE(QDir(folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot).size(),
-             present.size());
-}
 
-void TestPathParts::reserveUniqueHoldsTheNameAndOverwritesNothing()
-{
-    QTemporaryDir dir;
-    const QString kept = dir.filePath(QStringLiteral("Title_1.mp4"));
-    touch(kept);
-    PathParts first(kept);
-    PathParts second(kept);
-    QCOMPARE(first.reserveUnique(), 1);
-    QCOMPARE(QFileInfo(first.fullPath()).size(), 0);
-    // The reservation holds the name against the next caller; the user's file stays.
-    QCOMPARE(second.reserveUnique(), 2);
-    QFile file(kept);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll(), QByteArray("x"));
-    // A dangling link counts as taken.
-    const QString link = dir.filePath(QStringLiteral("a.mp4"));
-    QVERIFY(QFile::link(dir.filePath(QStringLiteral("gone.mp4")), link));
-    QCOMPARE(PathParts(link).reserveUnique(), 1);
-    QVERIFY(!QFile::exists(dir.filePath(QStringLiteral("gone.mp4"))));
-    // A folder that isn't there: no file, no report, the first number.
-    PathParts nowhere(dir.filePath(QStringLiteral("missing/x.mp4")));
-    QCOMPARE(nowhere.reserveUnique(), 0);
-    QVERIFY(!QFile::exists(nowhere.fullPath()));
-}
+    void split()
+    {
+        QFETCH(QString, path);
+        QFETCH(QString, rename);
+        PathParts parts(path);
+        QTEST((QStringList{parts.drive(), parts.folder(), parts.baseName(), parts.extension()}),
+              "parts");
+        parts.setFileName(rename);
+        QTEST(parts.fullPath(), "renamed");
+    }
+
+    void makeUnique_data()
+    {
+        QTest::addColumn<QString>("fileName");
+        QTest::addColumn<int>("position");
+        QTest::addColumn<QStringList>("present");
+        QTest::addColumn<int>("number");
+        QTest::addColumn<QString>("expected");
+        const auto row
+            = [](const char *tag, const char *name, int position,
+                 std::initializer_list<const char *> present, int number, const char *expected) {
+                  QTest::newRow(tag) << QString::fromUtf8(name) << position << names(present)
+                                     << number << QString::fromUtf8(expected);
+              };
+        row("free", "a.mp4", plain, {"b.mp4"}, 0, "a.mp4");
+        row("two taken", "a.mp4", plain, {"a.mp4", "a(1).mp4"}, 2, "a(2).mp4");
+        row("gap is used", "a.mp4", plain, {"a.mp4", "a(2).mp4"}, 1, "a(1).mp4");
+        row("other extension is free", "a.mp4", plain, {"a.mkv"}, 0, "a.mp4");
+        row("no extension", "Title_1", plain, {"Title_1"}, 1, "Title_1(1)");
+        row("folder of that name", "out.avi", plain, {"out.avi/"}, 1, "out(1).avi");
+        row("blanks and dots", "my clip.v2.mp4", plain, {"my clip.v2.mp4", "my clip.v2(1).mp4"}, 2,
+            "my clip.v2(2).mp4");
+        row("non-ASCII", "Vidéo ü 日本.mp4", plain, {"Vidéo ü 日本.mp4"}, 1, "Vidéo ü 日本(1).mp4");
+        // The picture series: the number goes before the digits.
+        row("series, twice", "clip001.jpg", 4, {"clip001.jpg", "clip(1)001.jpg"}, 2,
+            "clip(2)001.jpg");
+        row("series, at start", "clip001.jpg", 0, {"clip001.jpg"}, 1, "(1)clip001.jpg");
+        row("series, last character", "clip001.jpg", 6, {"clip001.jpg"}, 1, "clip00(1)1.jpg");
+        row("series, past the end", "clip001.jpg", 7, {"clip001.jpg"}, 1, "clip001(1).jpg");
+        row("series, negative", "clip001.jpg", -1, {"clip001.jpg"}, 1, "clip001(1).jpg");
+    }
+
+    void makeUnique()
+    {
+        QFETCH(QString, fileName);
+        QFETCH(int, position);
+        QFETCH(QStringList, present);
+        QTemporaryDir dir;
+        // A folder with blanks and dots in its name, as users have; given with
+        // its separator at the end.
+        const QString folder = dir.path() + QStringLiteral("/out put.d/");
+        QVERIFY(QDir().mkpath(folder));
+        for (const QString &name : present) {
+            if (name.endsWith(QLatin1Char('/')))
+                QVERIFY(QDir(folder).mkdir(name));
+            else
+                touch(folder + name);
+        }
+        PathParts parts;
+        parts.setFolder(folder);
+        parts.setFileName(fileName);
+        QTEST(position == plain ? parts.makeUnique() : parts.makeUniqueAt(position), "number");
+        QFETCH(QString, expected);
+        QCOMPARE(parts.fullPath(), folder + expected);
+        // Testing alone creates nothing.
+        QCOMPARE(QDir(folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot).size(),
+                 present.size());
+    }
+
+    void reserveUniqueHoldsTheNameAndOverwritesNothing()
+    {
+        QTemporaryDir dir;
+        const QString kept = dir.filePath(QStringLiteral("Title_1.mp4"));
+        touch(kept);
+        PathParts first(kept);
+        PathParts second(kept);
+        QCOMPARE(first.reserveUnique(), 1);
+        QCOMPARE(QFileInfo(first.fullPath()).size(), 0);
+        // The reservation holds the name against the next caller; the user's file stays.
+        QCOMPARE(second.reserveUnique(), 2);
+        QFile file(kept);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(), QByteArray("x"));
+        // A dangling link counts as taken.
+        const QString link = dir.filePath(QStringLiteral("a.mp4"));
+        QVERIFY(QFile::link(dir.filePath(QStringLiteral("gone.mp4")), link));
+        QCOMPARE(PathParts(link).reserveUnique(), 1);
+        QVERIFY(!QFile::exists(dir.filePath(QStringLiteral("gone.mp4"))));
+        // A folder that isn't there: no file, no report, the first number.
+        PathParts nowhere(dir.filePath(QStringLiteral("missing/x.mp4")));
+        QCOMPARE(nowhere.reserveUnique(), 0);
+        QVERIFY(!QFile::exists(nowhere.fullPath()));
+    }
+
+    // Every text maker in one table: which one, what it is given (two paths
+    // split by "|", a picture's size as "WxH"), the text it gives.
+    void texts_data()
+    {
+        QTest::addColumn<QString>("call");
+        QTest::addColumn<QString>("input");
+        QTest::addColumn<QString>("expected");
+        const auto row
+            = [](const char *call, const char *tag, const char *input, const char *expected) {
+                  QTest::newRow(tag) << QString::fromLatin1(call) << QString::fromUtf8(input)
+                                     << QString::fromUtf8(expected);
+              };
+        row("name", "every forbidden character", "a/b*c?d:e<f>g|h\"i\\j", "abcdefghij");
+        row("name", "blanks trimmed, inner ones and non-ASCII stay", " Amélie:  Ça va? ",
+            "Amélie  Ça va");
+        row("name", "blanks behind removed characters", "Title : ", "Title");
+        row("name", "nothing left", " /?* ", "");
+        row("parent", "sibling folders", "D:/x/y/a.vob|D:/x/z/b.vob", "D:/x");
+        row("parent", "equal", "/m/v/a.mp4|/m/v/a.mp4", "/m/v/a.mp4");
+        row("parent", "nothing common", "C:/a/x|D:/a/x", "");
+        row("parent", "root only", "/a/x|/b/x", "");
+        row("parent", "prefix of a name is no folder", "/mov/a|/movies/a", "");
+        row("parent", "folder and a file in it", "/m/v|/m/v/a.mp4", "/m/v");
+        row("parent", "longer name at the same level", "/m/va/a|/m/v/a", "/m");
+        row("parent", "backslash doesn't separate", "C:\\x\\a|C:\\x\\b", "");
+        row("bytes", "below a kB", "1023", "1023.00B");
+        row("bytes", "one kB", "1024", "1.00kB");
+        row("bytes", "fraction is cut", "1536", "1.00kB");
+        row("bytes", "below a MB", "1048575", "1023.00kB");
+        row("bytes", "largest", "18446744073709551615", "15.00EB");
+        row("duration", "fraction is cut", "59.99", "00:00:59");
+        row("duration", "below a day", "86399.9", "23:59:59");
+        row("duration", "one day", "86400", "1.00:00:00");
+        row("duration", "days and more", "1040465", "12.01:01:05");
+        row("duration", "negative", "-5", "00:00:00");
+        row("duration", "not a number", "nan", "00:00:00");
+        row("duration", "infinite", "inf", "11574074.01:46:40");
+        row("size", "picture", "720x576", "720x576");
+        row("size", "no width", "0x480", "");
+        row("size", "no height", "640x0", "");
+    }
+
+    void texts()
+    {
+        QFETCH(QString, call);
+        QFETCH(QString, input);
+        const QString a = input.section(QLatin1Char('|'), 0, 0);
+        const QString b = input.section(QLatin1Char('|'), 1);
+        QString text;
+        if (call == QLatin1String("name"))
+            text = sanitizeFileName(input);
+        else if (call == QLatin1String("parent"))
+            text = commonParent(a, b);
+        else if (call == QLatin1String("bytes"))
+            text = Utils::byteText(input.toULongLong());
+        else if (call == QLatin1String("duration"))
+            text = Utils::durationText(input.toDouble());
+        else
+            text = Utils::sizeLabel(input.section(QLatin1Char('x'), 0, 0).toInt(),
+                                    input.section(QLatin1Char('x'), 1).toInt());
+        QTEST(text, "expected");
+    }
+
+    void sleepLastsTheWholeTime()
+    {
+        QElapsedTimer timer;
+        timer.start();
+        Utils::sleepMs(120);
+        QVERIFY2(timer.elapsed() >= 120, qPrintable(QString::number(timer.elapsed())));
+    }
+};
 
 QTEST_GUILESS_MAIN(TestPathParts)
 #include "tst_pathparts.moc"
