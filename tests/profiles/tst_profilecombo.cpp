@@ -177,11 +177,7 @@ private:
     CProfileCombo *combo = nullptr;
 };
 
-int main(int argc, char *argv[])
-{
-    TestHome home;
-    QApplication app(argc, argv);
-    TestProfileCombo test;
-    return QTest::qExec(&test, argc, argv);
-}
+// Made before the application, so the store and the user's folders are the test's own.
+static TestHome home;
+QTEST_MAIN(TestProfileCombo)
 #include "tst_profilecombo.moc"

@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QImage>
 #include <QRegularExpression>
@@ -13,8 +14,17 @@
 #include "testhome.h"
 
 using namespace Qt::StringLiterals;
+using Values = QMap<QString, QString>;
 
 namespace {
+
+const QString samplePath = u":/profile/sample.xml"_s;
+
+// "a|b|c"; an empty text is an empty list, "|x" a list starting empty.
+QStringList names(const QString &items)
+{
+    return items.isEmpty() ? QStringList() : items.split(u'|');
+}
 
 // "key=name;..." of the user profiles in catalogue order, then " | " and the
 // documents in the user's folder: what the user would find at the next start.
@@ -49,7 +59,11 @@ class TestProfileGroupLoader : public QObject
     Q_OBJECT
 
 private slots:
-    void init() { QDir(userProfilesDir()).removeRecursively(); }
+    void init()
+    {
+        QDir(userProfilesDir()).removeRecursively();
+        QVERIFY(QDir().mkpath(userProfilesDir()));
+    }
 
     void lookups_data()
     {
@@ -269,14 +283,133 @@ private slots:
                          qPrintable(file + QLatin1Char(' ') + Profile::key(parameter)));
         }
     }
+
+    void sectionsAndKeysInDocumentOrder()
+    {
+        const Profile profile(samplePath);
+        QStringList sections;
+        for (const QDomElement &section : profile.sections())
+            sections << section.attribute(u"value"_s);
+        QCOMPARE(sections, names(u"Summary|Video|Audio|Expert|Extra"_s));
+        QCOMPARE(profile.keys(),
+                 names(u"title|genre|vcodec|s|b|aspect|sameq|level|acodec|ab|ac|vol|"
+                       "an|pix_fmt|deinterlace|qscale|bitexact|futureoption|map1"_s));
+        QCOMPARE(profile.parameter(u"map1"_s).tagName(), u"map_num_1"_s);
+        QStringList simple;
+        for (const QDomNode &node : profile.simpleParameters())
+            simple << Profile::key(node) + u'=' + Profile::simpleName(node);
+        QCOMPARE(simple, names(u"s=Video Size|b=Video Quality|ab=Audio Quality|ac=Channels"_s));
+        QCOMPARE(Profile::simpleValues(profile.parameter(u"ab"_s)), names(u"160|128|128|96|64"_s));
+        // A path holding "user/" is read from the user's folder ("~" here).
+        QStringList read;
+        for (const char *path :
+             {":/profile/user/a b.xml", "/d/user/x/p.xml", "/users/p.xml", "/User/p"})
+            read << Profile(QString::fromUtf8(path)).fileName.replace(userProfilesDir(), u"~"_s);
+        QCOMPARE(read, names(u"~/a b.xml|~/p.xml|/users/p.xml|/User/p"_s));
+    }
+
+    // Each parameter of the sample as read: kind, default, candidates, the
+    // read-only mark, and what it shows for a task's value.
+    void parameters()
+    {
+        const Profile profile(samplePath);
+        const Values task{
+            {u"title"_s, u""_s},         {u"genre"_s, u""_s}, {u"vcodec"_s, u"h264"_s},
+            {u"s"_s, u"720*480"_s},      {u"b"_s, u""_s},     {u"sameq"_s, u"True"_s},
+            {u"level"_s, u"30"_s},       {u"ac"_s, u"5.1"_s}, {u"bitexact"_s, u""_s},
+            {u"futureoption"_s, u"z"_s}, {u"map1"_s, u""_s}};
+        const char *kinds[] = {"text", "flag", "closed", "open"};
+        Values given = task;
+        given.insert(u"other"_s, u"x"_s);
+        const Values shown = profile.values(given);
+        QStringList rows;
+        for (const QString &key : task.keys()) {
+            const QDomElement element = profile.parameter(key);
+            rows << u"%1 %2 %3 [%4]%5 = %6"_s.arg(
+                Profile::key(element), QLatin1String(kinds[Profile::kind(element)]),
+                Profile::defaultValue(element), Profile::candidates(element).join(u'|'),
+                isReadOnly(element) ? u" ro"_s : u""_s, shown.value(key));
+        }
+        // Candidates marked "no" are candidates still; read-only "no" is read-only:
+        // the mark counts, not its value. An empty value means the default.
+        QCOMPARE(rows, u"ac closed 2 (Stereo) [1 (Mono)|2 (Stereo)] = 1 (Mono)\n"
+                       "b open 1200 [2500|1500|1200|800|512] = 1200\n"
+                       "bitexact flag True [] = True\n"
+                       "futureoption text x,y [] = z\n"
+                       "genre closed  [|Blues|Classic Rock] = \n"
+                       "level closed 31 [22|30|31] ro = 30\n"
+                       "map1 text 0:1 [] = 0:1\n"
+                       "s open Auto [Auto|128*96 (sqcif)|320*240] = 720*480\n"
+                       "sameq flag False [] = True\n"
+                       "title text  [] = \n"
+                       "vcodec closed mpeg4 [mpeg4] ro = mpeg4"_s.split(u'\n'));
+        QCOMPARE(shown.size(), profile.keys().size());
+        QVERIFY(!shown.contains(u"other"_s));
+    }
+
+    void saveAndLoadAgain()
+    {
+        Profile profile(samplePath);
+        Values values = profile.values();
+        values[u"title"_s] = u"Ferien in Zürich & <Bern>"_s;
+        values[u"b"_s] = u"777"_s;
+        values[u"bitexact"_s] = u"False"_s;
+        values[u"genre"_s] = u"Classic Rock"_s;
+        values[u"map1"_s] = u"0:2"_s;
+        const QString target = userProfilesDir() + u"/My Profile ü.xml"_s;
+        QVERIFY(profile.saveValues(values, target));
+        QCOMPARE(profile.fileName, samplePath);
+        // Read back through the user path: values, candidates and hints all there.
+        const Profile again(u":/profile/user/My Profile ü.xml"_s);
+        QCOMPARE(again.values(), values);
+        QCOMPARE(Profile::simpleName(again.parameter(u"s"_s)), u"Video Size"_s);
+        QVERIFY(isReadOnly(again.parameter(u"vcodec"_s)));
+        QCOMPARE(attributeValue(again.parameter(u"futureoption"_s), u"unknownHint"_s), u"1"_s);
+        QCOMPARE(Profile::candidates(again.parameter(u"genre"_s)), names(u"|Blues|Classic Rock"_s));
+
+        // A missing folder or a folder in the way: false, a word in the log, nothing replaced.
+        const QString folder = userProfilesDir() + u"/taken.xml"_s;
+        QVERIFY(QDir().mkpath(folder + u"/inside"_s));
+        for (const QString &path : {userProfilesDir() + u"/missing/x.xml"_s, folder}) {
+            QTest::ignoreMessage(QtDebugMsg, QRegularExpression(u"^Can't write "_s));
+            QVERIFY(!profile.saveValues(values, path));
+        }
+        QVERIFY(!QFile::exists(userProfilesDir() + u"/missing"_s));
+        QVERIFY(QFileInfo(folder + u"/inside"_s).isDir());
+    }
+
+    void unreadableDocumentIsEmpty_data()
+    {
+        QTest::addColumn<QByteArray>("contents"); // null: no file
+        QTest::addColumn<bool>("parses");
+        QTest::newRow("malformed")
+            << QByteArray("<Parameter><Section value=\"V\"><s value=\"A\">") << false;
+        QTest::newRow("other root")
+            << QByteArray("<Group><Section value=\"V\"><s/></Section></Group>") << true;
+        QTest::newRow("missing file") << QByteArray() << false;
+    }
+
+    void unreadableDocumentIsEmpty()
+    {
+        QFETCH(QByteArray, contents);
+        QFETCH(bool, parses);
+        const QString path = userProfilesDir() + u"/bad.xml"_s;
+        QFile file(path);
+        QVERIFY(contents.isNull()
+                || (file.open(QIODevice::WriteOnly) && file.write(contents) >= 0));
+        file.close();
+        // A file that is there but doesn't parse is named in the log.
+        if (!contents.isNull() && !parses)
+            QTest::ignoreMessage(QtDebugMsg, QRegularExpression(u"^Can't read .*bad.xml"_s));
+        const Profile profile(path);
+        QVERIFY(profile.sections().isEmpty() && profile.keys().isEmpty());
+        QVERIFY(profile.values().isEmpty() && profile.simpleParameters().isEmpty());
+        QCOMPARE(profile.fileName, path);
+    }
 };
 
-int main(int argc, char *argv[])
-{
-    TestHome home;
-    QGuiApplication app(argc, argv);
-    TestProfileGroupLoader test;
-    return QTest::qExec(&test, argc, argv);
-}
+// Made before the application, so the store and the user's folders are the test's own.
+static TestHome home;
+QTEST_MAIN(TestProfileGroupLoader)
 
 #include "tst_profilegrouploader.moc"

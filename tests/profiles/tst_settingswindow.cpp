@@ -1,3 +1,4 @@
+#include "csaveasdlg.h"
 #include "editablecombo.h"
 #include "fixedtranslator.h"
 #include "focusoutcombo.h"
@@ -6,8 +7,10 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QDialogButtonBox>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QTabWidget>
 #include <QTest>
@@ -79,7 +82,8 @@ private slots:
         QTest::newRow("exact") << rates << u"1200"_s << u"1200"_s;
         QTest::newRow("decimal, exact") << decimals << u"6.7"_s << u"6.7"_s;
         QTest::newRow("decimal, between") << decimals << u"8"_s << u"7.95"_s;
-        QTest::newRow("size, exact of two equal heights") << sizes << u"1920*1080"_s << u"1920*1080"_s;
+        QTest::newRow("size, exact of two equal heights")
+            << sizes << u"1920*1080"_s << u"1920*1080"_s;
         QTest::newRow("size by its height") << sizes << u"800*600"_s << u"1440*1080"_s;
         QTest::newRow("size above all") << sizes << u"4096*2160"_s << u"1920*1080"_s;
     }
@@ -141,6 +145,39 @@ private slots:
         QVERIFY(!window->findChild<QWidget *>(u"btnApplyToAll"_s)->isEnabled());
     }
 
+    // The name asked for a new profile: what the user types is taken only when
+    // they say OK.
+    void saveAsAnswers_data()
+    {
+        QTest::addColumn<QString>("action"); // which button: OK, Cancel or one by its name
+        QTest::addColumn<bool>("accepted");
+        QTest::newRow("OK takes the typed name") << "ok" << true;
+        QTest::newRow("Cancel keeps the suggestion") << "cancel" << false;
+        QTest::newRow("the title bar's close") << "closeBtn" << false;
+    }
+
+    void saveAsAnswers()
+    {
+        QFETCH(QString, action);
+        QFETCH(bool, accepted);
+        CSaveAsDlg dialog;
+        dialog.setName(u"iPhone H.264 Video - 1"_s);
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        auto *edit = dialog.findChild<QLineEdit *>(u"nameLineEidt"_s);
+        // The suggestion stands selected: typing replaces it.
+        QTest::keyClicks(edit, u"Edited"_s);
+        auto *box = dialog.findChild<QDialogButtonBox *>(u"okCancelBtnBox"_s);
+        QAbstractButton *button = action == "ok"_L1       ? box->button(QDialogButtonBox::Ok)
+                                  : action == "cancel"_L1 ? box->button(QDialogButtonBox::Cancel)
+                                                          : dialog.findChild<QPushButton *>(action);
+        QVERIFY(button && button->isVisible());
+        QTest::mouseClick(button, Qt::LeftButton);
+        QCOMPARE(dialog.result(), accepted ? QDialog::Accepted : QDialog::Rejected);
+        QVERIFY(!dialog.isVisible());
+        QCOMPARE(dialog.name(), accepted ? u"Edited"_s : u"iPhone H.264 Video - 1"_s);
+    }
+
 private:
     // The row's value as shown, marked when bold (set apart from the default).
     QString shown(const QString &caption) const
@@ -160,11 +197,7 @@ private:
     std::unique_ptr<SettingsWindow> window;
 };
 
-int main(int argc, char *argv[])
-{
-    TestHome home;
-    QApplication app(argc, argv);
-    TestSettingsWindow test;
-    return QTest::qExec(&test, argc, argv);
-}
+// Made before the application, so the store and the user's folders are the test's own.
+static TestHome home;
+QTEST_MAIN(TestSettingsWindow)
 #include "tst_settingswindow.moc"
