@@ -145,47 +145,21 @@ void TestPropertyBrowser::editableCombo_data()
     // \x1b for Escape, \n to pick the list's first entry; the focus then leaves by Tab.
     QTest::addColumn<QString>("typed");
     QTest::addColumn<QString>("result");
-    QTest::newRow("a size") << "s"
-                            << "320*240"
-                            << "720*480"
-                            << "720*480";
-    QTest::newRow("a size with x") << "s"
-                                   << "320*240"
-                                   << "720x480"
-                                   << "720x480";
-    QTest::newRow("half a size goes back") << "s"
-                                           << "320*240"
-                                           << "720*"
-                                           << "320*240";
-    QTest::newRow("Escape goes back") << "b"
-                                      << "1200"
-                                      << "1500\x1b"
-                                      << "1200";
-    QTest::newRow("no zero bit rate") << "b"
-                                      << "1200"
-                                      << "0"
-                                      << "1200";
-    QTest::newRow("no leading zero in a size") << "s"
-                                               << "320*240"
-                                               << "0"
-                                               << "320*240";
-    QTest::newRow("a volume needs its sign") << "vol"
-                                             << "75%"
-                                             << "100"
-                                             << "75%";
-    QTest::newRow("a volume") << "vol"
-                              << "75%"
-                              << "150%"
-                              << "150%";
-    QTest::newRow("an aspect ratio") << "aspect"
-                                     << "Auto"
-                                     << "16:9"
-                                     << "16:9";
+    const auto add = [](const char *name, const char *key, const char *stored, const char *typed,
+                        const char *result) {
+        QTest::newRow(name) << key << stored << typed << result;
+    };
+    add("a size", "s", "320*240", "720*480", "720*480");
+    add("a size with x", "s", "320*240", "720x480", "720x480");
+    add("half a size goes back", "s", "320*240", "720*", "320*240");
+    add("Escape goes back", "b", "1200", "1500\x1b", "1200");
+    add("no zero bit rate", "b", "1200", "0", "1200");
+    add("no leading zero in a size", "s", "320*240", "0", "320*240");
+    add("a volume needs its sign", "vol", "75%", "100", "75%");
+    add("a volume", "vol", "75%", "150%", "150%");
+    add("an aspect ratio", "aspect", "Auto", "16:9", "16:9");
     // "Auto" can't be typed as a size, but it can be picked.
-    QTest::newRow("picked from the list") << "s"
-                                          << "320*240"
-                                          << "\n"
-                                          << "Auto";
+    add("picked from the list", "s", "320*240", "\n", "Auto");
 }
 
 void TestPropertyBrowser::editableCombo()
