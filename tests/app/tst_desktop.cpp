@@ -145,13 +145,6 @@ private slots:
                                       "~/f3 ü/clip 3.mp4 ~/f4 ü/clip 4.mp4 ~/f5 ü/clip 5.mp4")
                      : QStringLiteral("~/f1 ü ~/f2 ü ~/f3 ü ~/f4 ü ~/f5 ü"));
     }
-
-    void openLocalFile()
-    {
-        const QString file = root + QStringLiteral("/o/my clip.mp4");
-        QVERIFY(Utils::openLocalFile(file));
-        QCOMPARE(urls, QList<QUrl>{QUrl::fromLocalFile(file)});
-    }
 };
 
 int main(int argc, char *argv[])
