@@ -608,14 +608,7 @@ QString EncoderJob::sourceFilters(int i, const InputLayout &layout) const
         // The filter reads the file by itself, on the file's own time line;
         // the frames' time starts at the file's start and seek point.
         const double shift = layout.startTime + optionValue(in.options, "-ss").toDouble();
-        const QString shiftText = QString::number(shift, 'g', 10);
-        if (shift != 0)
-            filters << QStringLiteral("setpts=PTS+%1/TB").arg(shiftText);
-        filters << QStringLiteral("subtitles=filename=%1:si=%2")
-                       .arg(FilterTranslator::escapeValue(in.path))
-                       .arg(in.subtitle);
-        if (shift != 0)
-            filters << QStringLiteral("setpts=PTS-%1/TB").arg(shiftText);
+        filters << FilterTranslator::sourceSubtitleFilter(in.path, in.subtitle, shift);
     }
     return filters.join(QLatin1Char(','));
 }

@@ -61,6 +61,15 @@ QString subtitleFilter(const QStringList &args, QStringList &notes)
 
 } // namespace
 
+QString FilterTranslator::sourceSubtitleFilter(const QString &path, int stream, double shift)
+{
+    const QString text = QStringLiteral("subtitles=filename=%1:si=%2").arg(escapeValue(path)).arg(stream);
+    if (shift == 0.0)
+        return text;
+    const QString shiftText = QString::number(shift, 'g', 10);
+    return QStringLiteral("setpts=PTS+%1/TB,%2,setpts=PTS-%1/TB").arg(shiftText, text);
+}
+
 QString FilterTranslator::escapeValue(const QString &value)
 {
     // First the option level (quote, backslash, colon), then the graph level.

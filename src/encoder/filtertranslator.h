@@ -22,6 +22,11 @@ public:
     static Result translate(const QString &chain, const QString &labelPrefix = QString(),
                             double subtitleShift = 0.0);
 
+    // Subtitle stream `stream` of the file at `path` burnt in, in the file's
+    // own style; `shift` seconds of the file's time line come before the
+    // frames' time 0.
+    static QString sourceSubtitleFilter(const QString &path, int stream, double shift);
+
     // The stock filters of one effect number, or empty when the number is unknown.
     static QString effectFilter(int type);
     // brightness, contrast and saturation from -100 to 100, 0 neutral.

@@ -235,7 +235,15 @@ QImage FFPlayer::outputImage()
         chain += subtitleFileText(m_subtitleFont, m_subtitleColor, m_subtitleTransparency,
                                   m_subtitlePosition, m_subtitleStream, m_subtitleFile);
     }
-    const QString graph = FilterTranslator::translate(chain).graph;
+    QString graph = FilterTranslator::translate(chain).graph;
+    // A text stream of the source, as the encoder burns it in: on the
+    // source's picture, ahead of the edits.
+    const int textStream = m_subtitleFile.isEmpty() ? m_engine.textSubtitle() : -1;
+    if (textStream >= 0) {
+        const QString own
+            = FilterTranslator::sourceSubtitleFilter(m_path, textStream, m_engine.startTime());
+        graph = graph.isEmpty() ? own : own + QLatin1Char(',') + graph;
+    }
     if (graph.isEmpty())
         return originalImage();
     if (!m_edited)

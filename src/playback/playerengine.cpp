@@ -188,6 +188,7 @@ struct Session
     int videoIndex = -1;
     int audioIndex = -1;
     int subtitleIndex = -1;
+    int textSubtitle = -1;
     double startTime = 0.0; // the source's first stamp, taken off every time
     double duration = 0.0;
     double frameLength = 0.04;
@@ -775,9 +776,12 @@ std::unique_ptr<Session> PlayerEngine::Private::prepare()
         } else if (type == AVMEDIA_TYPE_SUBTITLE) {
             // Pictures only: text streams go through the edited picture.
             const AVCodecDescriptor *kind = avcodec_descriptor_get(stream->codecpar->codec_id);
-            if (subtitlesSeen++ == wantedSubtitle && kind
-                && (kind->props & AV_CODEC_PROP_BITMAP_SUB))
+            if (subtitlesSeen++ != wantedSubtitle)
+                continue;
+            if (kind && (kind->props & AV_CODEC_PROP_BITMAP_SUB))
                 s->subtitleIndex = int(i);
+            else
+                s->textSubtitle = wantedSubtitle;
         }
     }
     if (s->subtitleIndex >= 0) {
@@ -1052,6 +1056,18 @@ void PlayerEngine::selectSubtitle(int stream)
 int PlayerEngine::state() const
 {
     return d->state;
+}
+
+int PlayerEngine::textSubtitle() const
+{
+    std::lock_guard<std::mutex> guard(d->mutex);
+    return d->session ? d->session->textSubtitle : -1;
+}
+
+double PlayerEngine::startTime() const
+{
+    std::lock_guard<std::mutex> guard(d->mutex);
+    return d->session ? d->session->startTime : 0.0;
 }
 
 double PlayerEngine::duration() const

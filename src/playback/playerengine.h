@@ -73,6 +73,13 @@ public:
     // open; a title takes its subpicture from the open's selection.
     void selectSubtitle(int stream);
 
+    // The selected subtitle stream, counted among the source's subtitle
+    // streams, where it is text, which the engine leaves to the edited
+    // picture; -1 otherwise.
+    int textSubtitle() const;
+    // Seconds of the source's own time line before its position 0.
+    double startTime() const;
+
     int state() const;
     // Seconds the source lasts; 0 when not known or nothing is open.
     double duration() const;

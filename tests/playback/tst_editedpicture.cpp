@@ -42,18 +42,22 @@ class TestEditedPicture : public QObject
     QString srt;     // "Preview" from 1 s to 3 s
     FFPlayer *player = nullptr;
 
-    // The player paused on its picture at `seconds`.
+    // The player paused on its picture at `seconds`: a seek while paused
+    // shows that very picture.
     bool showAt(const QString &source, double seconds)
     {
         player->stop();
         QSignalSpy pictures(player, &FFPlayer::videoChanged);
         player->open(source, QString(), -1);
-        player->seek(seconds);
         player->playPause();
         if (!pictures.wait(5000))
             return false;
         player->playPause();
-        return QTest::qWaitFor([&] { return player->state() == 2; }, 5000);
+        if (!QTest::qWaitFor([&] { return player->state() == 2; }, 5000))
+            return false;
+        pictures.clear();
+        player->seek(seconds);
+        return pictures.wait(5000);
     }
 
     // `input` as the program writes it: "-ss S -i FILE" or a title's options.
@@ -109,17 +113,26 @@ private slots:
 
     void previewEqualsTheEncodersFrame_data()
     {
+        QTest::addColumn<QString>("source"); // empty: the still
+        QTest::addColumn<double>("seconds");
         QTest::addColumn<int>("brightness");
         QTest::addColumn<std::vector<int>>("effects");
-        QTest::addColumn<bool>("subtitle");
-        QTest::newRow("picture values and two effects") << 30 << std::vector<int>{2, 5} << false;
-        QTest::newRow("a subtitle file burnt in") << 0 << std::vector<int>{} << true;
+        QTest::addColumn<QString>("subtitle"); // "file", "stream" or none
+        QTest::newRow("picture values and two effects")
+            << QString() << 2.0 << 30 << std::vector<int>{2, 5} << QString();
+        QTest::newRow("a subtitle file burnt in")
+            << QString() << 2.0 << 0 << std::vector<int>{} << QStringLiteral("file");
+        QTest::newRow("picture values and a text stream of the source")
+            << QStringLiteral("movie.mkv") << 1.0 << 20 << std::vector<int>{} << QStringLiteral("stream");
     }
     void previewEqualsTheEncodersFrame()
     {
+        QFETCH(QString, source);
+        QFETCH(double, seconds);
         QFETCH(int, brightness);
         QFETCH(std::vector<int>, effects);
-        QFETCH(bool, subtitle);
+        QFETCH(QString, subtitle);
+        const QString path = source.isEmpty() ? still : fixture(mediaFixtures(), qPrintable(source));
         const int contrast = brightness ? -20 : 0;
         const int saturation = brightness ? 40 : 0;
         QFont font(QStringLiteral("DejaVu Sans"), 20);
@@ -127,18 +140,22 @@ private slots:
         const QColor color(255, 220, 0);
         player->setPictureAdjust(brightness, contrast, saturation);
         player->setEffects(effects);
-        if (subtitle)
+        if (subtitle == QLatin1String("file"))
             player->setSubtitleStyle(-1, srt, font, color, 0, 85);
-        QVERIFY(showAt(still, 2.0));
+        if (subtitle == QLatin1String("stream"))
+            player->setSubtitle(0, QString());
+        QVERIFY(showAt(path, seconds));
         const QImage preview = player->outputImage().copy();
         QVERIFY(psnr(preview, player->originalImage()) < 30); // the edits show
 
         QString chain = pictureEffectText(brightness, contrast, saturation, effects);
-        if (subtitle)
+        if (subtitle == QLatin1String("file"))
             chain = subtitleFileText(font, color, 0, 85, -1, srt);
-        const QImage encoded
-            = encoderFrame({QStringLiteral("-ss"), QStringLiteral("2"), QStringLiteral("-i"), still},
-                           QStringLiteral("scale=320:240,") + chain);
+        QStringList input{QStringLiteral("-ss"), QString::number(seconds)};
+        if (subtitle == QLatin1String("stream"))
+            input << QStringLiteral("-subtitle") << QStringLiteral("0");
+        const QImage encoded = encoderFrame(input << QStringLiteral("-i") << path,
+                                            QStringLiteral("scale=320:240,") + chain);
         QVERIFY(!encoded.isNull());
         const double figure = psnr(preview, encoded);
         QVERIFY2(figure > 40.0, qPrintable(QStringLiteral("PSNR %1 dB").arg(figure)));
