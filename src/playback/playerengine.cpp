@@ -977,12 +977,17 @@ void PlayerEngine::pause()
 void PlayerEngine::seek(double seconds)
 {
     seconds = std::max(seconds, 0.0);
-    std::lock_guard<std::mutex> guard(d->mutex);
-    Session *s = d->session.get();
-    if (!s || s->threads.empty() || d->state == Stopped) {
-        d->startAt = seconds;
-        return;
+    Session *s = nullptr;
+    {
+        std::lock_guard<std::mutex> guard(d->mutex);
+        s = d->session.get();
+        if (!s || s->threads.empty() || d->state == Stopped) {
+            d->startAt = seconds;
+            return;
+        }
     }
+    // Not under the engine's lock: a picture being handed out may ask for
+    // the clock, which takes it. Only this thread ends the session.
     std::lock_guard<std::mutex> shown(s->showing);
     std::lock_guard<std::mutex> sessionGuard(s->mutex);
     s->flushLocked();

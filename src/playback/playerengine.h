@@ -22,7 +22,8 @@ struct PlayerPicture
 // stream with bounded queues between them, and a thread that hands each
 // picture out at its time. The clock is the sound device's played position,
 // or a wall clock where there is no device or no sound. Callbacks run on the
-// engine's threads.
+// engine's threads; they may read the clock, and must not call the other
+// operations, which are called from one thread.
 //
 // States: 0 stopped, 1 playing, 2 paused. Every stop, the end of the source
 // and a failed open report 0, so that no caller waits for ever.
