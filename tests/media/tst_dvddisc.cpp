@@ -1,15 +1,92 @@
 #include "dvddisc.h"
+#include "dvdtitlereader.h"
 #include "ifoparse.h"
 #include "mediafixtures.h"
+#include "mediainput.h"
 
-#include <QMap>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 
 #include <cmath>
+#include <dlfcn.h>
+#include <dvdread/dvd_reader.h>
+#include <set>
+
+extern "C" {
+#include <libavformat/avformat.h>
+}
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+// Read errors put on sectors of the title VOBs.
+struct
+{
+    std::set<int> bad;   // fail every time
+    std::set<int> flaky; // fail the first time only
+    int reads = 0;
+} faults;
+
+} // namespace
+
+// The reader's calls come here before they reach libdvdread.
+extern "C" ssize_t DVDReadBlocks(dvd_file_t *file, int sector, size_t count, unsigned char *data)
+{
+    using Read = ssize_t (*)(dvd_file_t *, int, size_t, unsigned char *);
+    static const auto real = reinterpret_cast<Read>(dlsym(RTLD_NEXT, "DVDReadBlocks"));
+    ++faults.reads;
+    for (int s = sector; s < sector + int(count); ++s) {
+        if (faults.bad.count(s) || faults.flaky.erase(s))
+            return -1;
+    }
+    return real(file, sector, count, data);
+}
+
+namespace {
+
+// The title's blocks cut out of the VOB by hand, less those past its end and
+// those on sectors that `lost` names; `skipped` counts those left out.
+QByteArray readableBytes(const QString &videoTs, int pgc,
+                         const std::function<bool(quint32)> &lost = {}, qint64 *skipped = nullptr)
+{
+    IfoRecord record;
+    QFile vob(videoTs + u"/VTS_01_1.VOB"_s);
+    if (ifoParse(QFile::encodeName(videoTs + u"/VTS_01_0.IFO"_s).toStdString(), &record) <= pgc
+        || !vob.open(QIODevice::ReadOnly))
+        return {};
+    QByteArray bytes;
+    qint64 left = 0;
+    for (const IfoCell &cell : record.pgcs[size_t(pgc)].cells) {
+        for (quint32 sector = cell.start_lba; sector <= cell.end_lba; ++sector) {
+            if ((lost && lost(sector)) || (qint64(sector) + 1) * 2048 > vob.size()) {
+                ++left;
+                continue;
+            }
+            vob.seek(qint64(sector) * 2048);
+            bytes += vob.read(2048);
+        }
+    }
+    if (skipped)
+        *skipped = left;
+    return bytes;
+}
+
+// All the reader gives; `end` is the last read's result, 0 or -1.
+QByteArray readAll(DvdTitleReader &reader, int chunk, qint64 *end = nullptr)
+{
+    QByteArray all;
+    QByteArray buffer(chunk, Qt::Uninitialized);
+    qint64 n = 0;
+    while ((n = reader.read(buffer.data(), chunk)) > 0)
+        all += buffer.left(int(n));
+    if (end)
+        *end = n;
+    return n == 0 || end ? all : QByteArray();
+}
+
+} // namespace
 
 namespace {
 
@@ -99,18 +176,26 @@ void damageField(QByteArray &ifo, const QString &field, quint32 value)
 
 } // namespace
 
+// The disc scan, and the title reader that reads what it found.
 class TestDvdDisc : public QObject
 {
     Q_OBJECT
 
     QString fixtures;
+    QString videoTs;
+    QString ifo;
     QString vts(const char *ending) const
     {
-        return fixture(fixtures, "dvd-main/VIDEO_TS/VTS_01_0.") + QLatin1String(ending);
+        return videoTs + u"/VTS_01_0."_s + QLatin1String(ending);
     }
 
 private slots:
-    void initTestCase() { REQUIRE_MEDIA_FIXTURES(fixtures); }
+    void initTestCase()
+    {
+        REQUIRE_MEDIA_FIXTURES(fixtures);
+        videoTs = fixture(fixtures, "dvd-main/VIDEO_TS");
+        ifo = vts("IFO");
+    }
 
     void scanRules_data()
     {
@@ -201,18 +286,18 @@ private slots:
         QTest::addColumn<QString>("name"); // a name ending in '/' is a folder
         QTest::addColumn<QByteArray>("content");
 
-        const QByteArray valid = readFile(vts("IFO"));
+        const QByteArray valid = readFile(ifo);
         QVERIFY(!valid.isEmpty());
-        const QString ifo = u"VIDEO_TS/VTS_01_0.IFO"_s;
-        QTest::newRow("empty IFO") << ifo << QByteArray("");
-        QTest::newRow("truncated IFO, no backup") << ifo << valid.left(700);
-        QTest::newRow("IFO cut inside its tables") << ifo << valid.left(2100);
+        const QString name = u"VIDEO_TS/VTS_01_0.IFO"_s;
+        QTest::newRow("empty IFO") << name << QByteArray("");
+        QTest::newRow("truncated IFO, no backup") << name << valid.left(700);
+        QTest::newRow("IFO cut inside its tables") << name << valid.left(2100);
         QTest::newRow("text named VIDEO_TS.IFO")
             << u"VIDEO_TS/VIDEO_TS.IFO"_s << QByteArray("text\n");
-        QTest::newRow("random bytes as IFO") << ifo << randomBytes(12288);
+        QTest::newRow("random bytes as IFO") << name << randomBytes(12288);
         QTest::newRow("random bytes as image") << u"disc.iso"_s << randomBytes(1 << 20);
         QTest::newRow("folder without IFOs") << u"VIDEO_TS/"_s << QByteArray("");
-        QTest::newRow("missing file") << ifo << QByteArray();
+        QTest::newRow("missing file") << name << QByteArray();
     }
 
     void badInput()
@@ -272,15 +357,15 @@ private slots:
         QFETCH(QString, backup);
         QFETCH(QString, damage);
 
-        const std::unique_ptr<DvdDisc> sound = loadDisc(vts("IFO"));
+        const std::unique_ptr<DvdDisc> sound = loadDisc(ifo);
         QVERIFY(sound);
-        QByteArray ifo = readFile(vts("IFO"));
-        damageField(ifo, field, value);
+        QByteArray bytes = readFile(ifo);
+        damageField(bytes, field, value);
         QTemporaryDir dir;
-        const QString path = writeFile(dir.filePath(u"VTS_01_0.IFO"_s), ifo);
+        const QString path = writeFile(dir.filePath(u"VTS_01_0.IFO"_s), bytes);
         const QString bup = dir.filePath(u"VTS_01_0.BUP"_s);
         if (backup != "none"_L1)
-            QVERIFY(!writeFile(bup, backup == "good"_L1 ? readFile(vts("BUP")) : ifo).isEmpty());
+            QVERIFY(!writeFile(bup, backup == "good"_L1 ? readFile(vts("BUP")) : bytes).isEmpty());
 
         QString error;
         if (backup == "good"_L1) {
@@ -305,11 +390,10 @@ private slots:
             const QString copy = dir.filePath(u"VTS_01_0."_s + QLatin1String(name));
             QVERIFY(QFile::copy(vts(name), copy) && QFile::setPermissions(copy, {}));
         }
-        QVERIFY(QFile::copy(fixture(fixtures, "dvd-main/VIDEO_TS/VTS_01_1.VOB"),
-                            dir.filePath(u"VTS_01_1.VOB"_s)));
-        const QString ifo = dir.filePath(u"VTS_01_0.IFO"_s);
-        const bool readable = QFile(ifo).open(QIODevice::ReadOnly);
-        const std::unique_ptr<DvdDisc> disc = loadDisc(ifo, readable ? 2 : 0);
+        QVERIFY(QFile::copy(videoTs + u"/VTS_01_1.VOB"_s, dir.filePath(u"VTS_01_1.VOB"_s)));
+        const QString path = dir.filePath(u"VTS_01_0.IFO"_s);
+        const bool readable = QFile(path).open(QIODevice::ReadOnly);
+        const std::unique_ptr<DvdDisc> disc = loadDisc(path, readable ? 2 : 0);
         QCOMPARE(disc ? disc->titles.size() : 0, readable ? size_t(3) : 0);
     }
 
@@ -345,6 +429,199 @@ private slots:
             expected << dir.filePath(name);
         QCOMPARE(DvdIfoFiles(dir.path() + folder), expected);
         QVERIFY(IsDvdSource(dir.path() + folder));
+    }
+
+    void readsTheCells_data()
+    {
+        QTest::addColumn<int>("pgc");
+        QTest::addColumn<int>("chunk");
+        // Chunks that end inside blocks, and reads longer than the internal buffer.
+        QTest::newRow("red, four cells, odd chunks") << 0 << 5001;
+        QTest::newRow("blue, one cell") << 1 << 2048;
+        QTest::newRow("red again, large reads") << 6 << 300000;
+        QTest::newRow("short title") << 4 << 777;
+    }
+
+    void readsTheCells()
+    {
+        QFETCH(int, pgc);
+        QFETCH(int, chunk);
+        const QByteArray expected = readableBytes(videoTs, pgc);
+        QVERIFY(!expected.isEmpty());
+        DvdTitleReader reader;
+        QVERIFY(reader.open(ifo, pgc));
+        QCOMPARE(reader.size(), qint64(expected.size()));
+        QVERIFY(readAll(reader, chunk) == expected);
+        QCOMPARE(reader.pos(), reader.size());
+        QByteArray buffer(chunk, Qt::Uninitialized);
+        for (const qint64 at : {expected.size() / 2 + 7LL, 3LL, expected.size() - 100LL, 0LL}) {
+            QVERIFY(reader.seek(at));
+            const qint64 n = reader.read(buffer.data(), chunk);
+            QCOMPARE(n, std::min<qint64>(chunk, expected.size() - at));
+            QVERIFY(buffer.left(int(n)) == expected.mid(int(at), int(n)));
+        }
+        QVERIFY(reader.seek(reader.size()));
+        QCOMPARE(reader.read(buffer.data(), 10), qint64(0));
+        QVERIFY(!reader.seek(reader.size() + 1) && !reader.seek(-1));
+        // Only the red clip carries the subpicture.
+        const QList<int> ids{reader.audioStreamId(0), reader.audioStreamId(1),
+                             reader.audioStreamId(2), reader.subtitleStreamId(0),
+                             reader.subtitleStreamId(-1)};
+        QCOMPARE(ids, QList<int>({0x80, 0xc0, -1, pgc % 6 == 0 ? 0x20 : -1, -1}));
+    }
+
+    void refusesBadTitles_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<int>("pgc");
+        QTest::newRow("negative PGC") << ifo << -1;
+        QTest::newRow("PGC past the end") << ifo << 7;
+        QTest::newRow("missing IFO") << fixture(fixtures, "dvd-main/VIDEO_TS/VTS_02_0.IFO") << 0;
+        QTest::newRow("a media file") << fixture(fixtures, "movie.mkv") << 0;
+    }
+
+    void refusesBadTitles()
+    {
+        QFETCH(QString, path);
+        QFETCH(int, pgc);
+        DvdTitleReader reader;
+        QVERIFY(!reader.open(path, pgc));
+        QVERIFY(!reader.isOpen());
+        char byte = 0;
+        QCOMPARE(reader.read(&byte, 1), qint64(-1));
+        QCOMPARE(reader.size(), qint64(0));
+    }
+
+    void unreadableBlocks_data()
+    {
+        QTest::addColumn<int>("pgc");
+        QTest::addColumn<QString>("bad");    // "first-last" sectors that fail; "~" first: just once
+        QTest::addColumn<qint64>("vobSize"); // the VOB cut to this many bytes
+        QTest::addColumn<int>("stretch");    // blocks added to the PGC's first cell
+        QTest::addColumn<QString>("failure");
+        // The VOB holds 180 blocks; PGC 0 is sectors 0-96 in four cells: 0-20,
+        // 21-57, 58-79, 80-96; PGC 5 is 158-179.
+        const QString from = u"unreadable from sector %1 to the end of the title"_s;
+        const auto row = [](const char *name, int pgc, const char *bad, qint64 vobSize, int stretch,
+                            const QString &failure) {
+            QTest::newRow(name) << pgc << QString::fromLatin1(bad) << vobSize << stretch << failure;
+        };
+        const qint64 whole = 180 * 2048;
+        row("one block", 0, "30-30", whole, 0, {});
+        row("a block that reads the second time", 0, "~30-30", whole, 0, {});
+        row("the first block", 0, "0-0", whole, 0, {});
+        row("a run across two cells", 0, "15-30", whole, 0, {});
+        row("more than one whole read", 0, "2-75", whole, 0, {});
+        row("the end of the title", 0, "90-96", whole, 0, from.arg(90));
+        // A shortened VOB or a cell that ends past it: the blocks past the
+        // end count as unreadable, never as the end of the title.
+        row("VOB cut inside the title", 0, "", 90 * 2048, 0, from.arg(90));
+        row("VOB cut inside a block", 5, "", 170 * 2048 - 100, 0, from.arg(169));
+        row("VOB cut before the title", 5, "", 150 * 2048, 0,
+            u"the title lies beyond the end of its VOB files"_s);
+        row("cell past the VOB, then cells in it", 0, "", whole, 1200, {});
+        row("more than 4 MiB past the VOB", 0, "", whole, 3000,
+            u"2841 blocks in a row unreadable from sector 180"_s);
+    }
+
+    void unreadableBlocks()
+    {
+        QFETCH(int, pgc);
+        QFETCH(QString, bad);
+        QFETCH(qint64, vobSize);
+        QFETCH(int, stretch);
+        QFETCH(QString, failure);
+        const bool flaky = bad.startsWith(u'~');
+        const int first = bad.mid(flaky).section(u'-', 0, 0).toInt();
+        const int last = bad.isEmpty() ? -1 : bad.section(u'-', 1).toInt();
+        QTemporaryDir dir;
+        const QString copy = copyDisc(videoTs, dir.path());
+        QVERIFY(!copy.isEmpty());
+        QVERIFY(QFile::resize(copy + u"/VTS_01_1.VOB"_s, vobSize));
+        if (stretch > 0) {
+            QVERIFY(changeFile(copy + u"/VTS_01_0.IFO"_s, [&](QByteArray &ifo) {
+                const int lastSector = cellTableOfPgc(ifo, pgc) + 20;
+                setIfoField(ifo, lastSector, 4, ifoField(ifo, lastSector, 4) + quint32(stretch));
+            }));
+            QVERIFY(QFile::remove(copy + u"/VTS_01_0.BUP"_s));
+        }
+        DvdTitleReader reader;
+        if (!reader.open(copy + u"/VTS_01_0.IFO"_s, pgc)) {
+            QCOMPARE(reader.errorString(), failure);
+            return;
+        }
+        qint64 skipped = 0;
+        const QByteArray expected = readableBytes(
+            copy, pgc, [&](quint32 s) { return !flaky && int(s) >= first && int(s) <= last; },
+            &skipped);
+        // A passing error costs one read more, not a read for each block.
+        faults.reads = 0;
+        if (flaky) {
+            readAll(reader, 5001);
+            QVERIFY(reader.seek(0));
+        }
+        const int cleanReads = faults.reads;
+        for (int s = first; s <= last; ++s)
+            (flaky ? faults.flaky : faults.bad).insert(s);
+        qint64 end = 0;
+        const QByteArray got = readAll(reader, 5001, &end);
+        faults.bad.clear();
+        faults.flaky.clear();
+
+        QCOMPARE(reader.errorString(), failure);
+        QCOMPARE(end, failure.isEmpty() ? 0 : -1);
+        if (flaky)
+            QCOMPARE(faults.reads, 2 * cleanReads + 1);
+        // A long run stops the title: what came before it is whole.
+        if (failure.contains("in a row"_L1))
+            QVERIFY(!got.isEmpty() && expected.startsWith(got));
+        else
+            QVERIFY2(got == expected && reader.skippedBlocks() == skipped,
+                     qPrintable(u"%1 of %2 bytes, %3 of %4 blocks skipped"_s.arg(got.size())
+                                    .arg(expected.size())
+                                    .arg(reader.skippedBlocks())
+                                    .arg(skipped)));
+        // A failed title stays failed until a seek.
+        char byte;
+        QCOMPARE(reader.read(&byte, 1), failure.isEmpty() ? 0 : -1);
+    }
+
+    void selectsTracksUnderTheDemuxer_data()
+    {
+        QTest::addColumn<int>("audioTrack");
+        QTest::addColumn<int>("subtitle");
+        QTest::addColumn<QString>("kept"); // stream ids that are not discarded
+        QTest::newRow("everything") << -1 << -1 << u"e0 80 c0 20"_s;
+        QTest::newRow("second audio track") << 1 << -1 << u"e0 c0 20"_s;
+        QTest::newRow("first audio, the subtitle") << 0 << 0 << u"e0 80 20"_s;
+        QTest::newRow("missing subtitle") << 0 << 3 << u"e0 80"_s;
+    }
+
+    void selectsTracksUnderTheDemuxer()
+    {
+        QFETCH(int, audioTrack);
+        QFETCH(int, subtitle);
+        QFETCH(QString, kept);
+        TitleSelection selection;
+        selection.pgc = 0;
+        selection.audioTrack = audioTrack;
+        selection.subtitle = subtitle;
+        int error = 0;
+        const FormatContextPtr context = openMediaInput(ifo, QString(), selection, &error);
+        QVERIFY(context);
+        QCOMPARE(error, 0);
+        QVERIFY(avformat_find_stream_info(context.get(), nullptr) >= 0);
+        selectTitleStreams(context.get(), selection);
+        QStringList ids;
+        for (unsigned i = 0; i < context->nb_streams; ++i) {
+            const AVStream *stream = context->streams[i];
+            const AVMediaType type = stream->codecpar->codec_type;
+            if (stream->discard != AVDISCARD_ALL
+                && (type == AVMEDIA_TYPE_VIDEO || type == AVMEDIA_TYPE_AUDIO
+                    || type == AVMEDIA_TYPE_SUBTITLE))
+                ids << QString::number(stream->id & 0xff, 16);
+        }
+        QCOMPARE(ids.join(u' '), kept);
     }
 };
 
