@@ -298,6 +298,7 @@ private slots:
         QTest::newRow("random bytes as image") << u"disc.iso"_s << randomBytes(1 << 20);
         QTest::newRow("folder without IFOs") << u"VIDEO_TS/"_s << QByteArray("");
         QTest::newRow("missing file") << name << QByteArray();
+        QTest::newRow("a media file") << name << readFile(fixture(fixtures, "movie.mkv"));
     }
 
     void badInput()
@@ -314,6 +315,11 @@ private slots:
         IfoRecord parsed;
         QVERIFY(ifoParse(QFile::encodeName(path).toStdString(), &parsed) < 0);
         QVERIFY(parsed.pgcs.empty());
+        DvdTitleReader reader;
+        QVERIFY(!reader.open(path, 0) && !reader.isOpen());
+        char byte = 0;
+        QCOMPARE(reader.read(&byte, 1), qint64(-1));
+        QCOMPARE(reader.size(), qint64(0));
     }
 
     void damagedTables_data()
@@ -449,6 +455,7 @@ private slots:
         const QByteArray expected = readableBytes(videoTs, pgc);
         QVERIFY(!expected.isEmpty());
         DvdTitleReader reader;
+        QVERIFY(!reader.open(ifo, -1) && !reader.open(ifo, 7));
         QVERIFY(reader.open(ifo, pgc));
         QCOMPARE(reader.size(), qint64(expected.size()));
         QVERIFY(readAll(reader, chunk) == expected);
@@ -468,28 +475,6 @@ private slots:
                              reader.audioStreamId(2), reader.subtitleStreamId(0),
                              reader.subtitleStreamId(-1)};
         QCOMPARE(ids, QList<int>({0x80, 0xc0, -1, pgc % 6 == 0 ? 0x20 : -1, -1}));
-    }
-
-    void refusesBadTitles_data()
-    {
-        QTest::addColumn<QString>("path");
-        QTest::addColumn<int>("pgc");
-        QTest::newRow("negative PGC") << ifo << -1;
-        QTest::newRow("PGC past the end") << ifo << 7;
-        QTest::newRow("missing IFO") << fixture(fixtures, "dvd-main/VIDEO_TS/VTS_02_0.IFO") << 0;
-        QTest::newRow("a media file") << fixture(fixtures, "movie.mkv") << 0;
-    }
-
-    void refusesBadTitles()
-    {
-        QFETCH(QString, path);
-        QFETCH(int, pgc);
-        DvdTitleReader reader;
-        QVERIFY(!reader.open(path, pgc));
-        QVERIFY(!reader.isOpen());
-        char byte = 0;
-        QCOMPARE(reader.read(&byte, 1), qint64(-1));
-        QCOMPARE(reader.size(), qint64(0));
     }
 
     void unreadableBlocks_data()
