@@ -143,17 +143,6 @@ QString describe(const DvdDisc &disc, double fps = 0, bool labels = false)
     return titles.join(u' ');
 }
 
-QString attributes(const DvdDisc &disc)
-{
-    return u"%1x%2 %3 %4 %5 %6 %7 %8ch"_s.arg(disc.width)
-        .arg(disc.height)
-        .arg(disc.aspect == 16.0 / 9.0 ? u"16:9"_s : u"4:3"_s)
-        .arg(disc.videoStandard ? u"PAL"_s : u"NTSC"_s)
-        .arg(VideoFormatLabel(disc.mpegVersion), AudioFormatLabel(disc.audioFormat))
-        .arg(disc.audioRate == 0 ? 48000 : 0)
-        .arg(disc.audioChannels);
-}
-
 // Changes one field of a title set IFO, named as in damagedTables_data().
 void damageField(QByteArray &ifo, const QString &field, quint32 value)
 {
@@ -275,7 +264,14 @@ private slots:
         QVERIFY(disc);
         QCOMPARE(disc->path, path);
         QCOMPARE(describe(*disc, fps, true), titles);
-        QCOMPARE(::attributes(*disc), attributes);
+        QCOMPARE(u"%1x%2 %3 %4 %5 %6 %7 %8ch"_s.arg(disc->width)
+                     .arg(disc->height)
+                     .arg(disc->aspect == 16.0 / 9.0 ? u"16:9"_s : u"4:3"_s)
+                     .arg(disc->videoStandard ? u"PAL"_s : u"NTSC"_s)
+                     .arg(VideoFormatLabel(disc->mpegVersion), AudioFormatLabel(disc->audioFormat))
+                     .arg(disc->audioRate == 0 ? 48000 : 0)
+                     .arg(disc->audioChannels),
+                 attributes);
         // Past the ends of the label tables.
         QCOMPARE(AudioFormatLabel(-1) + AudioFormatLabel(8) + VideoFormatLabel(2),
                  u"ErrorErrorError"_s);
