@@ -141,27 +141,28 @@ private slots:
         QCOMPARE(edit.effects.back().type, 13);
     }
 
-    void audioSelection()
+    // Audio tracks and subtitles: streams of the input and added files.
+    void selection()
     {
         EditParameters edit;
         edit.addStreamAudio(0, sourceWithStreams());
         edit.addStreamAudio(1, sourceWithStreams());
         const int added = edit.addAudioFile(u"/music/song.mp3"_s);
         QCOMPARE(texts(edit.audioTracks), u"ac3 (en)|mp2|song.mp3"_s);
-
-        QVERIFY(!edit.anyAudioSelected());
-        QVERIFY(edit.selectAudio(added) && edit.anyAudioSelected());
-        // The added file is selected: no stream of the input.
-        QCOMPARE(edit.selectedAudioStream(), -1);
-        QVERIFY(edit.selectAudio(1));
-        QCOMPARE(edit.selectedAudioStream(), 1);
-        QVERIFY(!edit.selectAudio(3) && !edit.selectAudio(-1));
+        // Whether any track is selected, and which stream of the input.
+        const auto audio = [&edit] {
+            return u"%1 %2"_s.arg(edit.anyAudioSelected()).arg(edit.selectedAudioStream());
+        };
+        QStringList states{audio()};
+        QVERIFY(edit.selectAudio(added));
+        states << audio(); // the added file: no stream of the input
+        QVERIFY(edit.selectAudio(1) && !edit.selectAudio(3) && !edit.selectAudio(-1));
+        states << audio();
         edit.clearAudioSelection();
-        QVERIFY(!edit.anyAudioSelected());
+        QCOMPARE((states << audio()).join(u", "), u"0 -1, 1 -1, 1 1, 0 -1"_s);
 
         QVERIFY(!edit.removeAudioFile(0) && !edit.removeAudioFile(7));
         QVERIFY(edit.removeAudioFile(added));
-        QCOMPARE(edit.audioTracks.size(), size_t(2));
         edit.addAudioFile(u"/a.wav"_s);
         edit.addAudioFile(dir.filePath(u"missing.mp3"_s));
         AudioStreamInfo stream;
@@ -170,19 +171,13 @@ private slots:
         QVERIFY(!EditParameters::loadAudioInfo(*edit.audioTracks[3], stream));
         QVERIFY(!edit.audioTracks[3]->infoLoaded);
         edit.removeAllAudioFiles();
-        QCOMPARE(edit.audioTracks.size(), size_t(2));
-        QVERIFY(!edit.audioTracks[1]->external);
-    }
+        QCOMPARE(texts(edit.audioTracks), u"ac3 (en)|mp2"_s);
 
-    void subtitleSelection()
-    {
-        EditParameters edit;
         edit.addStreamSubtitle(0, sourceWithStreams());
         const int file = edit.addSubtitleFile(u"/subs/movie.idx"_s, u"fr"_s, 0);
         const int plain = edit.addSubtitleFile(u"/subs/movie.srt"_s, QString(), 0);
         QVERIFY(!edit.subtitles[0]->customStyle && edit.subtitles[size_t(file)]->customStyle);
         QCOMPARE(texts(edit.subtitles), u"de|movie.idx(fr)|movie.srt"_s);
-
         QVERIFY(!edit.selectedSubtitleFile());
         QVERIFY(edit.selectSubtitle(plain));
         QCOMPARE(edit.selectedSubtitleFile(), edit.subtitles[size_t(plain)].get());
@@ -193,7 +188,7 @@ private slots:
         edit.clearSubtitleSelection();
         QVERIFY(!edit.anySubtitleSelected());
         edit.removeAllSubtitleFiles();
-        QCOMPARE(edit.subtitles.size(), size_t(1));
+        QCOMPARE(texts(edit.subtitles), u"de"_s);
     }
 
     void applyCrop_data()
