@@ -290,11 +290,13 @@ private slots:
         }
         QCOMPARE(!keys.isEmpty(), hits);
         if (text.isNull()) {
-            QCOMPARE(keys.size(), 85);
-            QCOMPARE(recommended, 6);
-            QVERIFY(keys.contains(u"1,68"_s));
-            // The listing for a person has one line per profile with its key.
-            QCOMPARE(cli({u"profiles"_s}).out.count("(*."), 85);
+            // Profiles, recommended ones, the MP4 one, and the lines of the
+            // listing for a person, one per profile.
+            QCOMPARE(u"%1 %2 %3 %4"_s.arg(keys.size())
+                         .arg(recommended)
+                         .arg(keys.contains(u"1,68"_s))
+                         .arg(cli({u"profiles"_s}).out.count("(*.")),
+                     u"85 6 1 85"_s);
             return;
         }
         // The hits are exactly the profiles whose name and extension hold the
@@ -463,22 +465,17 @@ private slots:
 
         QTemporaryDir out;
         QProcess process;
-        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-        env.insert(u"KESTROVE_FFMPEG"_s, fake);
-        process.setProcessEnvironment(env);
+        qputenv("KESTROVE_FFMPEG", QFile::encodeName(fake));
         process.start(QStringLiteral(KESTROVE_CLI),
                       words(u"convert %1 %2 %3 --profile 1,68 --jobs 2 --output-dir %4 --json"_s,
                             {input(u"clip.mp4"_s), input(u"movie.mkv"_s), input(u"tone.flac"_s),
                              out.path()}));
+        qunsetenv("KESTROVE_FFMPEG");
         QVERIFY(process.waitForStarted());
-        const auto started = [&pids] {
-            return readFile(pids).count('\n');
-        };
-        QTRY_COMPARE_WITH_TIMEOUT(started(), 2, 60000);
+        QTRY_COMPARE_WITH_TIMEOUT(readFile(pids).count('\n'), 2, 60000);
         ::kill(pid_t(process.processId()), SIGINT);
         QVERIFY(process.waitForFinished(30000));
-        QCOMPARE(process.exitStatus(), QProcess::NormalExit);
-        QCOMPARE(process.exitCode(), 1);
+        QCOMPARE(process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1, 1);
 
         const QJsonObject report
             = QJsonDocument::fromJson(process.readAllStandardOutput()).object();
@@ -494,7 +491,7 @@ private slots:
                 QTRY_VERIFY_WITH_TIMEOUT(QByteArray("?Z").contains(processState(pid.toLongLong())),
                                          10000);
         }
-        QCOMPARE(started(), 2);
+        QCOMPARE(readFile(pids).count('\n'), 2);
         // Nothing is left, not even the empty names the queue reserved.
         QCOMPARE(QDir(out.path()).entryList(QDir::Files), QStringList());
     }
