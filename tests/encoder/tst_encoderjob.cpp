@@ -1,4 +1,5 @@
 #include "encoderjob.h"
+#include "encoderlimits.h"
 #include "ffmpegtools.h"
 #include "filtertranslator.h"
 #include "mediafixtures.h"
@@ -15,6 +16,11 @@
 #include <csignal>
 #include <sys/resource.h>
 #include <unistd.h>
+
+extern "C" {
+#include <libavcodec/avcodec.h>
+#include <libavformat/avformat.h>
+}
 
 namespace {
 
@@ -209,24 +215,22 @@ const struct
      "-i pipe:3 -itsoffset -0.023220 -f nut -i pipe:4 | -map 0:v:0? -map 1:a:0 | -ss 10 | -t 5 | "
      "-c:v libx264 | -c:a copy /o/out.mp4",
      "-b:a | -ar | -af | 0:i:0x80", "", "file"},
-};
-
-// %T: a picture and sound to encode
-const struct
-{
-    const char *name, *list;
-    bool apart, hasAudio = true;
-} soundApartCases[] = {
-    {"title with sound", "-pgc 0 -audio_track 0 -subtitle -1 -i /d/VTS_01_0.IFO %T", true},
-    {"title without a track", "-pgc 0 -audio_track -1 -subtitle -1 -i /d/VTS_01_0.IFO %T", false},
-    {"file with sound", "-i /a.mkv %T", true},
-    {"file without sound", "-i /a.mkv %T", false, false},
-    {"share of the processor", "-cpu_percent 50 -i /a.mkv %T", false},
-    {"two inputs", "-i /a.mkv -si -i /b.mkv %T", false},
-    {"no picture", "-i /a.mkv -vn -ab 128k -acodec mp3 /o.mp3", false},
-    {"no sound", "-i /a.mkv -an -vcodec mpeg4 /o.mp4", false},
-    {"PCM is quick anyway", "-i /a.mkv -vcodec dvvideo -acodec pcm_s16le /o.dv", false},
-    {"WMA loses its block size in NUT", "-i /a.mkv -vcodec wmv2 -acodec wma7x /o.wmv", false},
+    // Sound in an ffmpeg of its own where that is sure to pay; "silent": the
+    // source has no sound.
+    {"title with sound", "-pgc 0 -audio_track 0 -i /d.IFO -acodec libfaac /o.mp4", "apart", "", "",
+     "apart"},
+    {"title without a track", "-pgc 0 -audio_track -1 -i /d.IFO -acodec libfaac /o.mp4", "together",
+     "", "", "apart"},
+    {"file with sound", "-i /a.mkv -acodec libfaac /o.mp4", "apart", "", "", "apart"},
+    {"file without sound", "-i /a.mkv -acodec libfaac /o.mp4", "together", "", "", "silent"},
+    {"share of the processor", "-cpu_percent 50 -i /a.mkv -acodec libfaac /o.mp4", "together", "",
+     "", "apart"},
+    {"two inputs", "-i /a.mkv -si -i /b.mkv -acodec libfaac /o.mp4", "together", "", "", "apart"},
+    {"no picture", "-i /a.mkv -vn -acodec libfaac /o.mp4", "together", "", "", "apart"},
+    {"no sound", "-i /a.mkv -an -acodec libfaac /o.mp4", "together", "", "", "apart"},
+    {"PCM is quick anyway", "-i /a.mkv -acodec pcm_s16le /o.dv", "together", "", "", "apart"},
+    {"WMA loses its block size in NUT", "-i /a.mkv -acodec wma7x /o.wmv", "together", "", "",
+     "apart"},
 };
 
 // Text between < and > stands for its hexadecimal form, as the program writes it.
@@ -286,8 +290,6 @@ private slots:
     void awkwardPathsReachFfmpeg();
     void arguments_data();
     void arguments();
-    void soundApart_data();
-    void soundApart();
     // Real conversions through kestrove-encoder
     void encodesWhole_data();
     void encodesWhole();
@@ -298,6 +300,13 @@ private slots:
     void fullDiskRemovesTheUnfinishedFile_data();
     void fullDiskRemovesTheUnfinishedFile();
     void terminationEndsBothEncoders();
+    // The table of encoder limits against the libavcodec and libavformat that
+    // ffmpeg loads: an FFmpeg upgrade that changes a limit shows here.
+    void audioEncodersAsLibavcodecHasThem_data();
+    void audioEncodersAsLibavcodecHasThem();
+    void standardFrameRates();
+    void containerDefaults();
+    void nearestValue();
 
 private:
     // %F the fixtures, %I the fixture disc's title set, %D this test's folder.
@@ -571,6 +580,11 @@ void TestEncoderJob::arguments()
         layout.duration = 3;
     }
     QFETCH(QString, mode);
+    if (mode == QLatin1String("apart") || mode == QLatin1String("silent")) {
+        layouts[0].hasAudio = mode == QLatin1String("apart");
+        QCOMPARE(QString::fromLatin1(job->soundApart(layouts) ? "apart" : "together"), expected);
+        return;
+    }
     const QStringList args = mode == QLatin1String("sound")
                                  ? job->soundArguments(sources[0], layouts[0])
                              : mode == QLatin1String("file")
@@ -590,28 +604,6 @@ void TestEncoderJob::arguments()
                                  "^(?!option -|audio codec|video codec|flag |preset )")))
                              .join(QLatin1Char('\n'));
     QVERIFY2(fits.isEmpty() == note.isEmpty() && fits.contains(note), qPrintable(fits));
-}
-
-void TestEncoderJob::soundApart_data()
-{
-    QTest::addColumn<QString>("list");
-    QTest::addColumn<bool>("hasAudio");
-    QTest::addColumn<bool>("apart");
-    const QString tail = QStringLiteral("-vf scale=320:240 -vcodec libx264 -acodec libfaac /o.mp4");
-    for (const auto &c : soundApartCases)
-        QTest::newRow(c.name) << QString::fromUtf8(c.list).replace(QStringLiteral("%T"), tail)
-                              << c.hasAudio << c.apart;
-}
-
-void TestEncoderJob::soundApart()
-{
-    QFETCH(QString, list);
-    QFETCH(bool, hasAudio);
-    const auto job = EncoderJob::parse(words(list), nullptr);
-    QVERIFY(job);
-    InputLayout layout;
-    layout.hasAudio = hasAudio;
-    QTEST(job->soundApart(QList<InputLayout>(job->inputs.size(), layout)), "apart");
 }
 
 void TestEncoderJob::encodesWhole_data()
@@ -913,6 +905,108 @@ void TestEncoderJob::terminationEndsBothEncoders()
     for (const QString &pid : encoders)
         QTRY_VERIFY2_WITH_TIMEOUT(gone(pid), qPrintable(pid), 5000);
     QVERIFY(!QFile::exists(out));
+}
+
+void TestEncoderJob::audioEncodersAsLibavcodecHasThem_data()
+{
+    QTest::addColumn<QString>("encoder");
+    for (const QString &name : EncoderLimits::audioEncoders())
+        QTest::newRow(qPrintable(name)) << name;
+}
+
+void TestEncoderJob::audioEncodersAsLibavcodecHasThem()
+{
+    QFETCH(QString, encoder);
+    const AVCodec *codec = avcodec_find_encoder_by_name(encoder.toLatin1().constData());
+    QVERIFY2(codec, "this FFmpeg has no such encoder");
+    QVERIFY(codec->type == AVMEDIA_TYPE_AUDIO);
+
+    QSet<int> rates;
+    for (const int *rate = codec->supported_samplerates; rate && *rate; ++rate)
+        rates.insert(*rate);
+    const QList<int> table = EncoderLimits::sampleRates(encoder);
+    QCOMPARE(QSet<int>(table.begin(), table.end()), rates);
+
+    // Channels: some encoders list their layouts, others check when they
+    // open; so open them.
+    auto opens = [codec](int channels, int sampleRate, int bitRate) {
+        AVCodecContext *context = avcodec_alloc_context3(codec);
+        context->sample_fmt = codec->sample_fmts[0];
+        context->sample_rate = sampleRate;
+        // ffmpeg takes the encoder's own layout for a channel count where it has one.
+        av_channel_layout_default(&context->ch_layout, channels);
+        for (const AVChannelLayout *layout = codec->ch_layouts; layout && layout->nb_channels;
+             ++layout) {
+            if (layout->nb_channels == channels)
+                av_channel_layout_copy(&context->ch_layout, layout);
+        }
+        context->bit_rate = bitRate;
+        const int result = avcodec_open2(context, codec, nullptr);
+        avcodec_free_context(&context);
+        return result == 0;
+    };
+    const int rate = table.isEmpty() ? 44100 : table.first();
+    // Vorbis runs on its quality scale, as the front asks for it.
+    const int bitRate = codec->id == AV_CODEC_ID_VORBIS ? 0 : 128000;
+    const int most = EncoderLimits::maxChannels(encoder);
+    QVERIFY2(opens(2, rate, bitRate), "stereo");
+    QVERIFY2(opens(most > 0 ? most : 8, rate, bitRate), qPrintable(QString::number(most)));
+    QVERIFY2(most == 0 || !opens(most + 1, rate, bitRate), qPrintable(QString::number(most + 1)));
+    // Every bit rate of the table is one the encoder opens with.
+    for (const int sampleRate : table) {
+        for (const int kbits : EncoderLimits::audioBitRates(encoder, sampleRate))
+            QVERIFY2(opens(2, sampleRate, kbits * 1000),
+                     qPrintable(QStringLiteral("%1 kbit/s at %2 Hz").arg(kbits).arg(sampleRate)));
+    }
+}
+
+void TestEncoderJob::standardFrameRates()
+{
+    for (const QString &name : EncoderLimits::videoEncoders()) {
+        const AVCodec *codec = avcodec_find_encoder_by_name(name.toLatin1().constData());
+        QVERIFY2(codec && codec->supported_framerates, qPrintable(name));
+        // These are the rates it opens with under the standard's rules.
+        QList<QPair<int, int>> standard;
+        for (const AVRational *rate = codec->supported_framerates; rate->num; ++rate) {
+            if (rate->num < 20 * rate->den)
+                break; // the unofficial rates that follow need -strict
+            standard << qMakePair(rate->num, rate->den);
+        }
+        QCOMPARE(EncoderLimits::frameRates(name), standard);
+    }
+    QVERIFY(EncoderLimits::frameRates(QStringLiteral("libx264")).isEmpty());
+}
+
+void TestEncoderJob::containerDefaults()
+{
+    for (const QString &name : EncoderLimits::containerNames()) {
+        const QByteArray file = QByteArray("out.") + name.toLatin1();
+        const AVOutputFormat *muxer = av_guess_format(nullptr, file.constData(), nullptr);
+        QVERIFY2(muxer, qPrintable(name));
+        const AVCodec *audio = avcodec_find_encoder(muxer->audio_codec);
+        QVERIFY2(audio, qPrintable(name));
+        QCOMPARE(EncoderLimits::defaultAudioEncoder(QString::fromLatin1(file), QString()),
+                 QString::fromLatin1(audio->name));
+        const QString video = EncoderLimits::defaultVideoEncoder(QString::fromLatin1(file), {});
+        if (!video.isEmpty()) {
+            const AVCodec *codec = avcodec_find_encoder(muxer->video_codec);
+            QVERIFY2(codec, qPrintable(name));
+            QCOMPARE(video, QString::fromLatin1(codec->name));
+        }
+    }
+    // A -f format counts ahead of the extension.
+    QCOMPARE(EncoderLimits::defaultAudioEncoder(QStringLiteral("out.bin"), QStringLiteral("dv")),
+             QStringLiteral("pcm_s16le"));
+    QVERIFY(EncoderLimits::defaultAudioEncoder(QStringLiteral("out.mp4"), {}).isEmpty());
+}
+
+void TestEncoderJob::nearestValue()
+{
+    const QList<int> rates{48000, 44100, 32000};
+    QCOMPARE(EncoderLimits::nearest(rates, 22050), 32000);
+    QCOMPARE(EncoderLimits::nearest(rates, 46050), 48000); // a tie goes up
+    QCOMPARE(EncoderLimits::nearest(rates, 96000), 48000);
+    QCOMPARE(EncoderLimits::nearest({}, 1234), 1234);
 }
 
 QTEST_GUILESS_MAIN(TestEncoderJob)
