@@ -577,37 +577,33 @@ void TestEncoderJob::encodesWhole_data()
     QTest::addColumn<QString>("size");
     QTest::addColumn<QPoint>("mark");   // where the watermark shows, if any
     QTest::addColumn<double>("toneAt"); // where a tone after silence sets in, if any
+    const QString vga = QStringLiteral("width=320 height=240");
+    // clang-format off
     QTest::newRow("trimmed and cropped file")
-        << "-ss 0.5 -t 1 -i %F/movie.mkv -vf crop=100:80:30:20,scale=200:160 -vcodec mpeg4" << 1.0
-        << "va"
-        << "width=200 height=160" << QPoint() << 0.0;
+        << "-ss 0.5 -t 1 -i %F/movie.mkv -vf crop=100:80:30:20,scale=200:160 -vcodec mpeg4"
+        << 1.0 << "va" << "width=200 height=160" << QPoint() << 0.0;
     // The file's two seconds, then two of the title.
     QTest::newRow("join of a file and a title cut short")
-        << "-ss 0 -i %F/clip.mp4 -vf scale=320:240 -si -ss 1 -t 2 -pgc 0 -audio_track 0 -subtitle "
-           "-1 -i %I "
-           "-vf scale=320:180,pad=320:240:0:30 -vcodec mpeg4 -acodec libfaac"
-        << 4.0 << "va"
-        << "width=320 height=240" << QPoint() << 0.0;
+        << "-ss 0 -i %F/clip.mp4 -vf scale=320:240 -si -ss 1 -t 2 -pgc 0 -audio_track 0 "
+           "-subtitle -1 -i %I -vf scale=320:180,pad=320:240:0:30 -vcodec mpeg4 -acodec libfaac"
+        << 4.0 << "va" << vga << QPoint() << 0.0;
     QTest::newRow("watermark")
-        << "-i %F/clip.mp4 -vf scale=320:240,watermark2=100:50:%M -vcodec mpeg4 -qscale 2" << 2.0
-        << "va"
-        << "width=320 height=240" << QPoint(120, 65) << 0.0;
+        << "-i %F/clip.mp4 -vf scale=320:240,watermark2=100:50:%M -vcodec mpeg4 -qscale 2"
+        << 2.0 << "va" << vga << QPoint(120, 65) << 0.0;
     // Sound apart: read from the file's start, the tone sets in where it did.
     QTest::newRow("sound apart keeps the sync")
         << "-i %D/late-sound.mkv -vf scale=320:240 -vcodec libx264 -ab 128k -ac 2 -ar 44100 "
            "-acodec libfaac"
-        << 4.0 << "va"
-        << "width=320 height=240" << QPoint() << 2.5;
+        << 4.0 << "va" << vga << QPoint() << 2.5;
     // A busy machine only lowers the share; a small one leaves an unheld
     // encoder above it even there.
     QTest::newRow("share of the processor")
-        << "-cpu_percent 10 -t 6 -f lavfi -i testsrc2=s=640x480:r=25 -vcodec libx264 -preset "
-           "medium -threads 2"
-        << 6.0 << "v"
-        << "width=640 height=480" << QPoint() << 0.0;
-    QTest::newRow("interlaced source")
-        << "-i %D/interlaced.mkv -vf scale=320:240 -vcodec libx264" << 2.0 << "v"
-        << "width=320 height=240" << QPoint() << 0.0;
+        << "-cpu_percent 10 -t 6 -f lavfi -i testsrc2=s=640x480:r=25 -vcodec libx264 "
+           "-preset medium -threads 2"
+        << 6.0 << "v" << "width=640 height=480" << QPoint() << 0.0;
+    QTest::newRow("interlaced source") << "-i %D/interlaced.mkv -vf scale=320:240 -vcodec libx264"
+                                       << 2.0 << "v" << vga << QPoint() << 0.0;
+    // clang-format on
 }
 
 void TestEncoderJob::encodesWhole()
@@ -679,12 +675,14 @@ void TestEncoderJob::burntSubtitleShowsInItsIntervalOnly_data()
     QTest::addColumn<double>("shown"); // a moment with the subtitle on
     QTest::addColumn<double>("gone");  // and one after it
     // The title's second track is the 660 Hz one; the first is 440 Hz.
+    // clang-format off
     QTest::newRow("DVD title, second audio track")
         << "-pgc 0 -audio_track 1 -subtitle %1 -i %I" << 4.8 << 660.0 << 1.0 << 3.5;
     QTest::newRow("text stream of a file")
         << "-subtitle %1 -i %F/movie.mkv" << 3.0 << 440.0 << 1.0 << 2.5;
     QTest::newRow("picture stream of a file")
         << "-subtitle %1 -i %F/subpicture.mkv" << 4.8 << 0.0 << 1.0 << 3.5;
+    // clang-format on
 }
 
 void TestEncoderJob::burntSubtitleShowsInItsIntervalOnly()
@@ -722,39 +720,33 @@ void TestEncoderJob::failuresSayWhyAndLeaveNoFakeResult_data()
     QTest::addColumn<QString>("list");    // %V the copied VIDEO_TS
     QTest::addColumn<bool>("whole");
     QTest::addColumn<QString>("said"); // lines split at '|'
-    QTest::newRow("missing source") << ""
-                                    << "-y -i %D/no-such.mkv" << false << "No such file";
-    QTest::newRow("pgc out of range")
-        << ""
-        << "-y -pgc 99 -audio_track 0 -subtitle -1 -i %I" << false << "cannot read title 99";
-    QTest::newRow("not a disc") << ""
-                                << "-y -pgc 0 -audio_track 0 -subtitle -1 -i %D/VTS_01_0.IFO"
-                                << false << "cannot read title 0";
-    QTest::newRow("no such audio track")
-        << ""
-        << "-y -pgc 0 -audio_track 7 -subtitle -1 -i %I" << false << "no audio track 7";
-    QTest::newRow("no such subtitle")
-        << ""
-        << "-y -pgc 0 -audio_track 0 -subtitle 3 -i %I" << false << "no subtitle track 3";
-    // Without -y the user's own file stays as it is.
-    QTest::newRow("existing file") << ""
-                                   << "-i %F/clip.mp4" << false << "already exists";
-    // The IFOs say there are 200 PGCs, which once crashed libdvdread.
     const QString copied
         = QStringLiteral("-y -pgc 0 -audio_track 0 -subtitle -1 -i %V/VTS_01_0.IFO");
-    QTest::newRow("IFO damaged, backup sound")
-        << "IFO" << copied << true
+    // clang-format off
+    QTest::newRow("missing source") << "" << "-y -i %D/no-such.mkv" << false << "No such file";
+    QTest::newRow("pgc out of range")
+        << "" << "-y -pgc 99 -audio_track 0 -subtitle -1 -i %I" << false << "cannot read title 99";
+    QTest::newRow("not a disc") << "" << "-y -pgc 0 -audio_track 0 -subtitle -1 -i %D/VTS_01_0.IFO"
+                                << false << "cannot read title 0";
+    QTest::newRow("no such audio track")
+        << "" << "-y -pgc 0 -audio_track 7 -subtitle -1 -i %I" << false << "no audio track 7";
+    QTest::newRow("no such subtitle")
+        << "" << "-y -pgc 0 -audio_track 0 -subtitle 3 -i %I" << false << "no subtitle track 3";
+    // Without -y the user's own file stays as it is.
+    QTest::newRow("existing file") << "" << "-i %F/clip.mp4" << false << "already exists";
+    // The IFOs say there are 200 PGCs, which once crashed libdvdread.
+    QTest::newRow("IFO damaged, backup sound") << "IFO" << copied << true
         << "VTS_01_0.IFO: damaged program chain table; reading its backup";
     QTest::newRow("IFO and backup damaged") << "IFO BUP" << copied << false
-                                            << "cannot read title 0 of the DVD behind|: damaged "
-                                               "program chain table, and no sound backup";
-    QTest::newRow("sound encoder fails") << "ffmpeg"
-                                         << "-y -i %F/clip.mp4" << false << "sound encoder gone";
+        << "cannot read title 0 of the DVD behind|: damaged program chain table, and no sound "
+           "backup";
+    QTest::newRow("sound encoder fails")
+        << "ffmpeg" << "-y -i %F/clip.mp4" << false << "sound encoder gone";
     // Title 0 is sectors 0-96.
-    QTest::newRow("VOB cut short")
-        << "VOB" << copied << false
-        << "skipped 7 unreadable blocks of title 0|title 0 could not be read whole: "
-           "unreadable from sector 90 to the end of the title|removed the unfinished output";
+    QTest::newRow("VOB cut short") << "VOB" << copied << false
+        << "skipped 7 unreadable blocks of title 0|title 0 could not be read whole: unreadable "
+           "from sector 90 to the end of the title|removed the unfinished output";
+    // clang-format on
 }
 
 void TestEncoderJob::failuresSayWhyAndLeaveNoFakeResult()
@@ -808,10 +800,10 @@ void TestEncoderJob::fullDiskRemovesTheUnfinishedFile_data()
     QTest::addColumn<QString>("output");
     QTest::addColumn<QString>("options");
     QTest::addColumn<bool>("reserved"); // the program made the file to reserve its name
-    QTest::newRow("one file") << "out.mkv"
-                              << "-vcodec mpeg4 -b:v 5000000" << true;
-    QTest::newRow("picture series") << "out%03d.png"
-                                    << "-an" << false;
+    QTest::newRow("one file") << QStringLiteral("out.mkv")
+                              << QStringLiteral("-vcodec mpeg4 -b:v 5000000") << true;
+    QTest::newRow("picture series")
+        << QStringLiteral("out%03d.png") << QStringLiteral("-an") << false;
 }
 
 void TestEncoderJob::fullDiskRemovesTheUnfinishedFile()
