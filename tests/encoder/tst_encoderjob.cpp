@@ -309,22 +309,26 @@ void TestEncoderJob::initTestCase()
     QVERIFY(QFile::exists(expand(QStringLiteral("%I")).first()));
     plain = render(QStringLiteral("scale=160:120"));
     QVERIFY(!plain.isNull());
-    // A red watermark, and a source whose sound begins a second after the
-    // picture, with a tone from 2.5 s on; moving pictures at 50 fields a
-    // second, woven into frames and coded interlaced; a clip for decoding options.
+    // A red watermark, and sources made once.
     QImage mark(40, 30, QImage::Format_ARGB32);
     mark.fill(QColor(255, 0, 0));
     QVERIFY(mark.save(dir.filePath(QStringLiteral("mark,'one'.png"))));
-    QVERIFY(
-        !make("late-sound.mkv", words("-f lavfi -i testsrc2=s=320x240:r=25:d=4 -itsoffset 1 "
-                                      "-f lavfi -i aevalsrc=sin(2*PI*440*t)*(1+sgn(t-1.5))/2:d=3 "
-                                      "-c:v mpeg4 -c:a mp2"))
-             .isEmpty());
-    QVERIFY(
-        !make("interlaced.mkv", words("-f lavfi -i testsrc2=s=320x240:r=50:d=2 -vf interlace "
-                                      "-c:v libx264 -crf 12 -flags +ildct+ilme -field_order tt"))
-             .isEmpty());
-    QVERIFY(!make("clip.mkv", words("-f lavfi -i testsrc2=s=64x48:d=0.2 -c:v mpeg4")).isEmpty());
+    // clang-format off
+    const char *const sources[][2] = {
+        // Sound a second after the picture, with a tone from 2.5 s on.
+        {"late-sound.mkv", "-f lavfi -i testsrc2=s=320x240:r=25:d=4 -itsoffset 1 -f lavfi -i "
+                           "aevalsrc=sin(2*PI*440*t)*(1+sgn(t-1.5))/2:d=3 -c:v mpeg4 -c:a mp2"},
+        // Moving pictures at 50 fields a second, woven into frames and coded interlaced.
+        {"interlaced.mkv", "-f lavfi -i testsrc2=s=320x240:r=50:d=2 -vf interlace -c:v libx264 "
+                           "-crf 12 -flags +ildct+ilme -field_order tt"},
+        // For decoding options, and for a conversion long enough to stop.
+        {"clip.mkv", "-f lavfi -i testsrc2=s=64x48:d=0.2 -c:v mpeg4"},
+        {"long.mkv", "-f lavfi -i testsrc2=s=320x240:r=25:d=30 -f lavfi -i sine=d=30 -c:v mpeg4 "
+                     "-c:a mp2"},
+    };
+    // clang-format on
+    for (const auto &source : sources)
+        QVERIFY(!make(source[0], words(source[1])).isEmpty());
     // An ffmpeg that can't encode sound, but writes pictures.
     const QString script
         = writeFile(dir.filePath(QStringLiteral("no-sound-ffmpeg")),
@@ -833,9 +837,7 @@ void TestEncoderJob::fullDiskRemovesTheUnfinishedFile()
 
 void TestEncoderJob::terminationEndsBothEncoders()
 {
-    const QString source = make("long.mkv", words("-f lavfi -i testsrc2=s=320x240:r=25:d=30 "
-                                                  "-f lavfi -i sine=d=30 -c:v mpeg4 -c:a mp2"));
-    QVERIFY(!source.isEmpty());
+    const QString source = dir.filePath(QStringLiteral("long.mkv"));
     const QString out = dir.filePath(QStringLiteral("terminated.mp4"));
     QProcess running;
     running.start(encoderPath(), words(QStringLiteral("-y -i %1 -vf scale=1280:960 -vcodec libx264 "
@@ -873,8 +875,7 @@ void TestEncoderJob::audioEncodersAsLibavcodecHasThem()
 {
     QFETCH(QString, encoder);
     const AVCodec *codec = avcodec_find_encoder_by_name(encoder.toLatin1().constData());
-    QVERIFY2(codec, "this FFmpeg has no such encoder");
-    QVERIFY(codec->type == AVMEDIA_TYPE_AUDIO);
+    QVERIFY2(codec && codec->type == AVMEDIA_TYPE_AUDIO, "this FFmpeg has no such encoder");
 
     QSet<int> rates;
     for (const int *rate = codec->supported_samplerates; rate && *rate; ++rate)
