@@ -401,21 +401,19 @@ private slots:
             = QStringList(expected)
                   .replaceInStrings(QStringLiteral("-c:v"), QStringLiteral("-vcodec"))
                   .replaceInStrings(QStringLiteral("-c:a"), QStringLiteral("-acodec"));
-        QVERIFY2(job->notes.isEmpty() == (written == respelt && out.inputArgs.isEmpty()),
+        QVERIFY2(job->notes.isEmpty() == (written == respelt && out.inputArgs.isEmpty())
+                     && notes.contains(note),
                  qPrintable(notes));
-        QVERIFY2(notes.contains(note), qPrintable(notes));
 
         // The ffmpeg we run must take the translation as it stands (NVENC needs a
         // GPU); decoding options need an encoded video input, -vstats writes beside it.
         if (out.videoCodec == QLatin1String("h264_nvenc"))
             return;
         QByteArray log;
-        QVERIFY2(runTool(QStringLiteral("ffmpeg"),
-                         words("-nostdin -v error") + out.inputArgs
-                             + words("-i clip.mkv -f lavfi -i sine=d=0.2 "
-                                     "-c:v mpeg4 -c:a aac")
-                             + withFilters(out.preFilters) + words("-f null -"),
-                         &log, dir.path())
+        const QStringList input = words("-i clip.mkv -f lavfi -i sine=d=0.2 -c:v mpeg4 -c:a aac");
+        const QStringList args
+            = words("-nostdin -v error") + out.inputArgs + input + withFilters(out.preFilters);
+        QVERIFY2(runTool(QStringLiteral("ffmpeg"), args + words("-f null -"), &log, dir.path())
                      == 0,
                  log.constData());
     }
