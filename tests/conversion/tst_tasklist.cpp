@@ -2,6 +2,7 @@
 #include "mediafixtures.h"
 #include "profilelookup.h"
 #include "tasklist.h"
+#include "utils.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -14,26 +15,36 @@ class FakeCatalogue : public ProfileLookup
 public:
     QString profileFileName(const QString &groupId, const QString &id) const override
     {
-        return entry(groupId, id, 0);
+        return entry(groupId, id).value(0);
     }
     QString profileExtName(const QString &groupId, const QString &id) const override
     {
-        return entry(groupId, id, 1);
+        return entry(groupId, id).value(1);
     }
 
 private:
-    static QString entry(const QString &groupId, const QString &id, int field)
+    static QStringList entry(const QString &groupId, const QString &id)
     {
         const QString key = groupId + QLatin1Char(',') + id;
-        if (key == QLatin1String("1,68"))
-            return field ? QStringLiteral("mp4") : QStringLiteral("mp4.xml");
-        if (key == QLatin1String("0,1000"))
-            return field ? QStringLiteral("mkv") : QStringLiteral("user/Mine.xml");
-        return {};
+        return key == QLatin1String("1,68") ? QStringLiteral("mp4.xml mp4").split(QLatin1Char(' '))
+               : key == QLatin1String("0,1000")
+                   ? QStringLiteral("user/Mine.xml mkv").split(QLatin1Char(' '))
+                   : QStringList();
     }
 };
 
 const QString mp4 = QStringLiteral("1,68");
+
+std::unique_ptr<ChildTask> videoInput(int width, int height, double duration = 10.0)
+{
+    auto child = std::make_unique<ChildTask>();
+    child->hasVideo = true;
+    child->width = width;
+    child->height = height;
+    child->duration = duration;
+    child->edit.trimEnd = duration;
+    return child;
+}
 
 // The task ids of the list in list order, and its disc ranges, as text.
 QString order(const TaskList &list)
@@ -54,6 +65,7 @@ QString ranges(const TaskList &list)
 
 } // namespace
 
+// Tasks, and the list that makes them from files and titles.
 class TestTaskList : public QObject
 {
     Q_OBJECT
@@ -96,6 +108,249 @@ private slots:
         QVERIFY(ntscDisc && ntscDisc->titles.size() == 1);
     }
 
+    void prepareFrame_data()
+    {
+        QTest::addColumn<QSize>("source");  // 0x0: no video input
+        QTest::addColumn<double>("aspect"); // display aspect of the source, 0: its pixels
+        QTest::addColumn<QRect>("crop");    // left, top, right, bottom
+        QTest::addColumn<QString>("zoom");
+        QTest::addColumn<QString>("size");
+        QTest::addColumn<QRect>("pads"); // left, top, right, bottom
+        QTest::addColumn<QSize>("inner");
+        const QRect no;
+        const QString keep = QStringLiteral("Keep Original"), full = QStringLiteral("Full Screen");
+        QTest::newRow("keep, bars above and below")
+            << QSize(720, 480) << 0.0 << QRect(8, 8, 8, 8) << keep << "640*480"
+            << QRect(0, 28, 0, 30) << QSize(640, 422);
+        QTest::newRow("full screen")
+            << QSize(720, 480) << 0.0 << no << full << "640*480" << no << QSize(640, 480);
+        QTest::newRow("full screen, odd output")
+            << QSize(720, 480) << 0.0 << no << full << "321*241" << no << QSize(321, 241);
+        QTest::newRow("16:9 into 4:3") << QSize(720, 576) << 0.0 << no << "16:9"
+                                       << "640*480" << QRect(0, 60, 0, 60) << QSize(640, 360);
+        QTest::newRow("4:3 into 16:9") << QSize(720, 576) << 0.0 << no << "4:3"
+                                       << "1280*720" << QRect(160, 0, 160, 0) << QSize(960, 720);
+        QTest::newRow("16:9 filling 16:9") << QSize(720, 576) << 0.0 << no << "16:9"
+                                           << "1280*720" << no << QSize(1280, 720);
+        QTest::newRow("odd bars left and right")
+            << QSize(640, 480) << 0.0 << no << keep << "854*480" << QRect(108, 0, 106, 0)
+            << QSize(640, 480);
+        QTest::newRow("odd bars above and below")
+            << QSize(640, 360) << 0.0 << no << keep << "640*502" << QRect(0, 70, 0, 72)
+            << QSize(640, 360);
+        QTest::newRow("ratio of the output")
+            << QSize(640, 480) << 0.0 << no << keep << "320*240" << no << QSize(320, 240);
+        QTest::newRow("crop leaves less than 16 pixels")
+            << QSize(64, 48) << 0.0 << QRect(30, 0, 30, 0) << keep << "640*480"
+            << QRect(240, 0, 240, 0) << QSize(160, 480);
+        QTest::newRow("size from the source") << QSize(720, 576) << 4.0 / 3.0 << no << keep
+                                              << "Auto(Same as source)" << no << QSize(768, 576);
+        // Pixels that are not square keep the picture's shape, cropped too.
+        QTest::newRow("wide pixels") << QSize(720, 576) << 16.0 / 9.0 << no << keep << "640*480"
+                                     << QRect(0, 60, 0, 60) << QSize(640, 360);
+        QTest::newRow("wide pixels cropped")
+            << QSize(720, 576) << 16.0 / 9.0 << QRect(45, 0, 45, 0) << keep << "640*480"
+            << QRect(0, 34, 0, 34) << QSize(640, 412);
+        QTest::newRow("narrow pixels") << QSize(720, 576) << 4.0 / 3.0 << no << keep << "1280*720"
+                                       << QRect(160, 0, 160, 0) << QSize(960, 720);
+        QTest::newRow("no video input")
+            << QSize() << 0.0 << no << keep << "640*480" << no << QSize(640, 480);
+        QTest::newRow("no video, tiny output")
+            << QSize() << 0.0 << no << keep << "8*8" << no << QSize(16, 16);
+    }
+
+    void prepareFrame()
+    {
+        QFETCH(QSize, source);
+        QFETCH(double, aspect);
+        QFETCH(QRect, crop);
+        QFETCH(QString, zoom);
+        QFETCH(QString, size);
+        QFETCH(QRect, pads);
+        QFETCH(QSize, inner);
+        Task task;
+        task.output.settings.insert(QStringLiteral("s"), size);
+        auto child = videoInput(source.width(), source.height());
+        child->hasVideo = source.isValid();
+        child->displayAspect = aspect;
+        EditParameters &edit = child->edit;
+        edit.cropLeft = crop.x();
+        edit.cropTop = crop.y();
+        edit.cropRight = crop.width();
+        edit.cropBottom = crop.height();
+        edit.zoomMode = zoom;
+        edit.padTop = edit.padBottom = edit.padLeft = 50; // bars of an earlier frame go
+        task.items.push_back(std::move(child));
+        task.prepareFrame(0);
+        task.prepareFrame(5); // no such input: nothing happens
+        QCOMPARE(QRect(edit.padLeft, edit.padTop, edit.padRight, edit.padBottom), pads);
+        QCOMPARE(QSize(edit.innerWidth, edit.innerHeight), inner);
+        QCOMPARE(edit.padLeft % 2 + edit.padTop % 2, 0);
+        if (source.isValid() && zoom != QLatin1String("Full Screen")) {
+            QCOMPARE(edit.padLeft + edit.innerWidth + edit.padRight, task.outputSize().width());
+            QCOMPARE(edit.padTop + edit.innerHeight + edit.padBottom, task.outputSize().height());
+        }
+    }
+
+    void outputSize_data()
+    {
+        QTest::addColumn<QString>("size");
+        QTest::addColumn<QSize>("expected");
+        const QSize none(0, 0);
+        QTest::newRow("audio only") << QString() << none;
+        QTest::newRow("plain") << "640*480" << QSize(640, 480);
+        QTest::newRow("with a label") << "320*240(QVGA)" << QSize(320, 240);
+        QTest::newRow("auto, 16:9 source") << "Auto" << QSize(1024, 576);
+        QTest::newRow("auto with a label") << "Auto(Original)" << QSize(1024, 576);
+        QTest::newRow("x between the sides") << " 320x240 " << QSize(320, 240);
+        // No usable size: no picture size at all rather than a wrong one.
+        for (const char *bad : {"0*240", "-320x240", "99999999999x2", "20000x20000", "big"})
+            QTest::newRow(bad) << bad << none;
+    }
+
+    void outputSize()
+    {
+        QFETCH(QString, size);
+        QFETCH(QSize, expected);
+        Task task;
+        if (!size.isEmpty())
+            task.output.settings.insert(QStringLiteral("s"), size);
+        task.items.push_back(videoInput(720, 576));
+        task.items.back()->displayAspect = 16.0 / 9.0;
+        QCOMPARE(task.outputSize(), expected);
+    }
+
+    void estimatedSize_data()
+    {
+        QTest::addColumn<QString>("video");
+        QTest::addColumn<QString>("audio");
+        QTest::addColumn<qint64>("expected");
+        // 12.5 s trimmed over two inputs.
+        QTest::newRow("both") << "1000"
+                              << "128" << qint64(1250000 + 1600000);
+        QTest::newRow("same quality") << QString() << "128" << qint64(1600000);
+        QTest::newRow("no audio rate") << "800" << QString() << qint64(1000000);
+    }
+
+    void estimatedSize()
+    {
+        QFETCH(QString, video);
+        QFETCH(QString, audio);
+        QFETCH(qint64, expected);
+        Task task;
+        task.output.settings.insert(QStringLiteral("b"), video);
+        task.output.settings.insert(QStringLiteral("ab"), audio);
+        task.items.push_back(videoInput(320, 240, 10.0));
+        task.items.back()->edit.trimStart = 2.5;
+        task.items.push_back(videoInput(320, 240, 5.0));
+        QCOMPARE(task.estimatedSize(), expected);
+    }
+
+    void durations()
+    {
+        Task task;
+        QCOMPARE(task.totalDuration(false), 0.0);
+        QVERIFY(!task.hasVideoInput());
+        task.items.push_back(videoInput(320, 240, 100.0));
+        task.items.push_back(videoInput(320, 240, 20.0));
+        task.items[0]->edit.trimStart = 10.0;
+        task.items[0]->edit.trimEnd = 40.0;
+        task.items[0]->edit.convertEnd = 30.0;
+        task.items[1]->edit.convertEnd = 20.0;
+        task.setChecked(false, 1);
+        QCOMPARE(task.totalDuration(false), 120.0);
+        QCOMPARE(task.totalDuration(true), 100.0);
+        QCOMPARE(task.trimmedDuration(), 50.0);
+        QCOMPARE(task.trimmedDurationText(), Utils::durationText(50.0));
+        QCOMPARE(task.convertDuration(), 40.0);
+        QVERIFY(task.hasVideoInput());
+    }
+
+    void children()
+    {
+        Task task;
+        auto source = videoInput(320, 240);
+        for (const char *path : {"/video/a.mkv", "/video/b.mkv", "/video/c.mkv"}) {
+            source->sourcePath = QLatin1String(path);
+            task.appendItem(*source);
+        }
+        QCOMPARE(task.item(2)->id, 1002);
+        QCOMPARE(task.item(0)->owner, &task);
+        // Contents and ids move together.
+        QCOMPARE(task.moveItemUp(2), 0);
+        QCOMPARE(task.item(1)->id, 1002);
+        QCOMPARE(task.item(1)->sourcePath, QStringLiteral("/video/c.mkv"));
+        QCOMPARE(task.moveItemDown(0), 0);
+        QCOMPARE(task.displayPath(0), QStringLiteral("/video/c.mkv"));
+        QCOMPARE(task.moveItemUp(3), -1);
+        QCOMPARE(task.moveItemDown(-1), -1);
+        QCOMPARE(task.indexOfItem(task.itemById(1001)), 2);
+        // Ids are not given twice.
+        task.removeItem(2);
+        task.removeItem(9);
+        QCOMPARE(task.itemCount(), 2);
+        QCOMPARE(task.appendItem(*source), 1003);
+
+        task.setChecked(false, 1);
+        QVERIFY(!task.isChecked(1) && task.isChecked(0) && task.isChecked() && !task.isChecked(8));
+        task.setChecked(false);
+        QVERIFY(!task.isChecked());
+        task.name = QStringLiteral("Merge 1");
+        QCOMPARE(task.displayPath(), QStringLiteral("Merge 1"));
+        QCOMPARE(task.displayPath(9), QString());
+    }
+
+    void outputName()
+    {
+        Task task;
+        task.output.profileKey = mp4;
+        task.setOutputBaseName(QStringLiteral("holiday"), catalogue);
+        QCOMPARE(task.output.fileName, QStringLiteral("holiday.mp4"));
+        task.output.profileKey = QStringLiteral("9,9");
+        task.setOutputBaseName(QStringLiteral("holiday"), catalogue);
+        QCOMPARE(task.output.fileName, QStringLiteral("holiday"));
+    }
+
+    void stateResetsTheStopwatch()
+    {
+        Task task;
+        task.start();
+        task.setState(Task::Running);
+        QVERIFY(!task.isRunning());
+        QCOMPARE(task.elapsedMs(), qint64(0));
+        task.start();
+        QTest::qSleep(30);
+        task.setState(Task::Running); // unchanged: the clock runs on
+        QVERIFY(task.elapsedMs() >= 30);
+        task.setState(Task::Paused);
+        QVERIFY(task.isRunning());
+        task.setState(Task::Running); // a resume counts afresh too
+        QCOMPARE(task.elapsedMs(), qint64(0));
+    }
+
+    void resetEdit()
+    {
+        ChildTask child;
+        child.audioStreams.resize(2);
+        child.subtitleStreams.resize(1);
+        child.addAudioTracks();
+        child.addSubtitleTracks();
+        child.edit.trimStart = 3.0;
+        child.edit.cropTop = 10;
+        child.edit.rotation = 90;
+        child.edit.watermark().text = QStringLiteral("mark");
+        child.edit.addAudioFile(QStringLiteral("/a.mp3"));
+        child.edit.clearAudioSelection();
+        child.edit.selectAudio(1);
+        child.resetEdit();
+        QCOMPARE(child.edit.trimStart, 3.0); // the trim stays
+        QCOMPARE(child.edit.cropTop + child.edit.rotation, 0);
+        QVERIFY(!child.edit.hasWatermark());
+        QCOMPARE(child.edit.audioTracks.size(), size_t(2));
+        QCOMPARE(child.edit.subtitles.size(), size_t(1));
+        QCOMPARE(child.edit.selectedAudioStream(), 0);
+    }
+
     void files()
     {
         TaskList list(&catalogue);
@@ -103,26 +358,25 @@ private slots:
         QCOMPARE(list.addFile(mp4, movie), 0);
         QCOMPARE(list.addFile(QStringLiteral("0,1000"), fixture(fixtures, "tone.flac")), 1);
         const Task *task = list.byId(0);
-        QCOMPARE(task->output.profileFile, QStringLiteral("mp4.xml"));
-        QCOMPARE(task->output.fileName, QStringLiteral("movie.mp4"));
         const ChildTask *child = task->item(0);
         QCOMPARE(child->owner, task);
-        QCOMPARE(child->title, QStringLiteral("movie"));
         QCOMPARE(child->sourcePath, movie);
-        QVERIFY(!child->isDiscTitle() && child->hasVideo);
-        QCOMPARE(child->edit.zoomMode, QStringLiteral("Keep Original"));
+        QVERIFY(!child->isDiscTitle() && child->hasVideo && !child->edit.anySubtitleSelected());
         QCOMPARE(child->edit.trimEnd, child->duration);
         QVERIFY(qAbs(child->duration - 3.0) < 0.2);
-        // Two audio streams, the first selected; one subtitle stream, none selected.
-        QCOMPARE(child->edit.audioTracks.size(), size_t(2));
-        QCOMPARE(child->edit.selectedAudioStream(), 0);
-        QCOMPARE(child->edit.audioTracks[1]->text(), QStringLiteral("ac3 (fre)"));
-        QCOMPARE(child->edit.subtitles.size(), size_t(1));
-        QVERIFY(!child->edit.anySubtitleSelected());
+        // Two audio streams, the first selected; one subtitle stream.
+        QCOMPARE(QStringList({task->output.profileFile, task->output.fileName, child->title,
+                              child->edit.zoomMode, child->edit.audioTracks[1]->text()})
+                         .join(QLatin1Char('|'))
+                     + QStringLiteral("|%1 %2 %3")
+                           .arg(child->edit.audioTracks.size())
+                           .arg(child->edit.selectedAudioStream())
+                           .arg(child->edit.subtitles.size()),
+                 QStringLiteral("mp4.xml|movie.mp4|movie|Keep Original|ac3 (fre)|2 0 1"));
 
         const Task *tone = list.byId(1);
-        QCOMPARE(tone->output.fileName, QStringLiteral("tone.mkv"));
-        QCOMPARE(tone->output.profileFile, QStringLiteral("user/Mine.xml"));
+        QCOMPARE(tone->output.fileName + tone->output.profileFile,
+                 QStringLiteral("tone.mkvuser/Mine.xml"));
         QVERIFY(!tone->hasVideoInput());
         QVERIFY(list.ranges().empty());
     }
@@ -149,23 +403,22 @@ private slots:
         TaskList list(&catalogue);
         fill(list, QStringLiteral("m0 m1 m2 c n"));
         const ChildTask *first = list.at(0)->item(0);
-        QCOMPARE(first->title, QStringLiteral("Title_1"));
-        QCOMPARE(list.at(0)->output.fileName, QStringLiteral("Title_1.mp4"));
+        const ChildTask *ntsc = list.at(4)->item(0);
         QCOMPARE(first->sourcePath, mainDisc->path);
         QVERIFY(first->isDiscTitle());
-        QCOMPARE(first->edit.zoomMode, QStringLiteral("4:3"));
         QVERIFY(qAbs(first->edit.trimEnd - 4.8) < 0.05);
-        QCOMPARE(first->edit.audioTracks.size(), size_t(2));
         QCOMPARE(first->edit.audioTracks[0]->text(),
                  QStringLiteral("AC3 (%1)").arg(mainDisc->titles[0]->audioNames[0]));
-        QCOMPARE(first->edit.subtitles.size(), size_t(1));
         QCOMPARE(first->edit.subtitles[0]->text(), mainDisc->titles[0]->subtitleNames[0]);
-        QCOMPARE(list.at(1)->item(0)->pgcIndex, 1);
-        QCOMPARE(list.at(2)->item(0)->pgcIndex, 6);
-        QCOMPARE(list.at(2)->item(0)->title, QStringLiteral("Title_3"));
-        const ChildTask *ntsc = list.at(4)->item(0);
-        QCOMPARE(ntsc->title, QStringLiteral("Title_4"));
-        QCOMPARE(ntsc->edit.zoomMode, QStringLiteral("16:9"));
+        QCOMPARE(QStringList({first->title, list.at(0)->output.fileName, first->edit.zoomMode,
+                              list.at(2)->item(0)->title, ntsc->title, ntsc->edit.zoomMode})
+                         .join(QLatin1Char('|'))
+                     + QStringLiteral("|%1 %2 %3 %4")
+                           .arg(first->edit.audioTracks.size())
+                           .arg(first->edit.subtitles.size())
+                           .arg(list.at(1)->item(0)->pgcIndex)
+                           .arg(list.at(2)->item(0)->pgcIndex),
+                 QStringLiteral("Title_1|Title_1.mp4|4:3|Title_3|Title_4|16:9|2 1 1 6"));
 
         // A title of another aspect keeps the picture as it is.
         DvdDisc wide;
