@@ -9,11 +9,10 @@
 
 #include <QDir>
 #include <QFile>
-#include <QGuiApplication>
 #include <QTemporaryDir>
 #include <QTest>
 
-#include "testhome.h"
+#include "homemain.h"
 
 namespace {
 
@@ -30,11 +29,6 @@ class TestCommandBuilder : public QObject
 {
     Q_OBJECT
 
-public:
-    explicit TestCommandBuilder(const QString &home)
-        : home(home)
-    {}
-
 private:
     Task &fileTask(const QString &path)
     {
@@ -47,7 +41,7 @@ private:
     }
     QString outDir() const { return home + QStringLiteral("/out"); }
 
-    QString home;
+    const QString home = QDir::homePath(); // TestHome's
     QString fixtures;
     std::unique_ptr<TaskList> list;
 
@@ -304,14 +298,6 @@ private slots:
     }
 };
 
-int main(int argc, char *argv[])
-{
-    TestHome home;
-    qputenv("TMPDIR", home.path().toLocal8Bit());
-    // Watermark entries take the application's font.
-    QGuiApplication app(argc, argv);
-    TestCommandBuilder test(home.path());
-    return QTest::qExec(&test, argc, argv);
-}
+KESTROVE_HOME_MAIN(TestCommandBuilder)
 
 #include "tst_commandbuilder.moc"

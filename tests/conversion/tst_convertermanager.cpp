@@ -12,13 +12,12 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
-#include <QGuiApplication>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 
-#include "testhome.h"
+#include "homemain.h"
 
 namespace {
 
@@ -594,13 +593,6 @@ private slots:
     }
 };
 
-int main(int argc, char *argv[])
-{
-    TestHome home;
-    // Watermark and subtitle settings read the application font.
-    QGuiApplication app(argc, argv);
-    TestConverterManager test;
-    return QTest::qExec(&test, argc, argv);
-}
+KESTROVE_HOME_MAIN(TestConverterManager)
 
 #include "tst_convertermanager.moc"

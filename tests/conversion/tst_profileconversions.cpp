@@ -12,7 +12,6 @@
 #include "tasklist.h"
 
 #include <QDir>
-#include <QGuiApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -22,7 +21,7 @@
 #include <QTest>
 #include <QtMath>
 
-#include "testhome.h"
+#include "homemain.h"
 
 namespace {
 
@@ -59,11 +58,6 @@ class TestProfileConversions : public QObject
 {
     Q_OBJECT
 
-public:
-    explicit TestProfileConversions(const QString &home)
-        : home(home)
-    {}
-
 private:
     struct Job
     {
@@ -72,7 +66,7 @@ private:
         QProcess process;
     };
 
-    QString home;
+    const QString home = QDir::homePath(); // TestHome's
     QString fixtures;
     std::unique_ptr<DvdDisc> disc;
     QMap<QString, QString> codecOfEncoder;
@@ -246,14 +240,6 @@ private slots:
     }
 };
 
-int main(int argc, char *argv[])
-{
-    TestHome home;
-    qputenv("TMPDIR", home.path().toLocal8Bit());
-    // Watermark entries take the application's font.
-    QGuiApplication app(argc, argv);
-    TestProfileConversions test(home.path());
-    return QTest::qExec(&test, argc, argv);
-}
+KESTROVE_HOME_MAIN(TestProfileConversions)
 
 #include "tst_profileconversions.moc"
