@@ -107,6 +107,21 @@ qint64 runFor(Task &task, int ms)
     return task.elapsedMs();
 }
 
+// The batch's figures in one line: known, finished/counted, percent done,
+// remaining and elapsed time.
+QString figuresText(const TaskList &list)
+{
+    TimeTracker::BatchFigures figures;
+    const bool known = TimeTracker::batchFigures(list, &figures);
+    return QStringLiteral("%1 %2/%3 %4% %5 ms after %6")
+        .arg(QLatin1String(known ? "yes" : "no"))
+        .arg(figures.finished)
+        .arg(figures.count)
+        .arg(figures.percent)
+        .arg(figures.remaining)
+        .arg(figures.elapsed);
+}
+
 } // namespace
 
 class TestConverterManager : public QObject
@@ -232,6 +247,16 @@ private slots:
 
     void batchFigures()
     {
+        // No task out of Idle: zero everywhere, no remaining time; and a
+        // second done is still too early to say.
+        TaskList early;
+        QVERIFY(addTask(early, 10, Task::Idle, 0));
+        QCOMPARE(figuresText(early), QStringLiteral("no 0/0 0% 0 ms after 0"));
+        Task *started = addTask(early, 10, Task::Running, 1.0);
+        QVERIFY(started);
+        QCOMPARE(figuresText(early),
+                 QStringLiteral("no 0/1 10% 0 ms after %1").arg(runFor(*started, 10)));
+
         TaskList list;
         Task *idle = addTask(list, 100, Task::Idle, 0);
         Task *done = addTask(list, 10, Task::Succeed, 9.0);  // counts its whole length
@@ -241,42 +266,17 @@ private slots:
         QVERIFY(idle && done && failed && running && waiting);
         runFor(*idle, 30);
         const qint64 elapsed = runFor(*done, 30) + runFor(*failed, 20) + runFor(*running, 25);
-
-        TimeTracker::BatchFigures figures;
-        QVERIFY(TimeTracker::batchFigures(list, &figures));
-        QCOMPARE(figures.count, 4);
-        QCOMPARE(figures.finished, 2);
-        QCOMPARE(figures.elapsed, elapsed);
         // Total: 10 + 4 + 20 (cut after adding) + 6 = 40; done: 10 + 4 + 5 = 19.
-        QCOMPARE(figures.percent, 19 * 100.0 / 40);
-        QCOMPARE(figures.remaining, qint64(double(elapsed) / 19 * 40 - double(elapsed)));
+        QCOMPARE(figuresText(list), QStringLiteral("yes 2/4 47.5% %1 ms after %2")
+                                        .arg(qint64(double(elapsed) / 19 * 40 - double(elapsed)))
+                                        .arg(elapsed));
 
         // Only failures: the bar is full and nothing is left.
         done->setState(Task::Failed);
         done->progress = 10;
         running->setState(Task::Failed);
         waiting->setState(Task::Idle);
-        QVERIFY(TimeTracker::batchFigures(list, &figures));
-        QCOMPARE(figures.percent, 100.0);
-        QCOMPARE(figures.remaining, 0);
-    }
-
-    void batchFiguresWithoutProgress()
-    {
-        TaskList list;
-        TimeTracker::BatchFigures figures;
-        // No task out of Idle: zero everywhere, no remaining time.
-        QVERIFY(addTask(list, 10, Task::Idle, 0));
-        QVERIFY(!TimeTracker::batchFigures(list, &figures));
-        QCOMPARE(figures.count, 0);
-        QCOMPARE(figures.percent, 0.0);
-        // A second done is still too early to say.
-        Task *running = addTask(list, 10, Task::Running, 1.0);
-        runFor(*running, 10);
-        QVERIFY(!TimeTracker::batchFigures(list, &figures));
-        QCOMPARE(figures.count, 1);
-        QCOMPARE(figures.percent, 10.0);
-        QCOMPARE(figures.remaining, 0);
+        QCOMPARE(figuresText(list), QStringLiteral("yes 3/3 100% 0 ms after %1").arg(elapsed));
     }
 
     void batchRunsInListOrderWithinTheLimit()
