@@ -215,7 +215,11 @@ private slots:
             QCOMPARE(watcher.pictureCount(), size_t(1));
             QVERIFY(std::abs(engine.clock() - expected / frameRate) <= 1 / frameRate);
         } else {
-            QVERIFY2(std::abs(watcher.clocks.front() - expected / frameRate) <= 1 / frameRate,
+            // Never early; a busy machine may hand the picture out a little
+            // late, while a clock that kept its old time is off by seconds.
+            constexpr double busyLateness = 0.1;
+            const double off = watcher.clocks.front() - expected / frameRate;
+            QVERIFY2(off >= -1 / frameRate && off <= 1 / frameRate + busyLateness,
                      qPrintable(QString::number(watcher.clocks.front())));
         }
     }
