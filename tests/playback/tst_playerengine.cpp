@@ -148,8 +148,8 @@ private slots:
     // Real speed, and a pause that holds.
     void clockRunsAtRealSpeedAndPauseHoldsIt()
     {
+        Watcher watcher; // outlives the engine, whose threads call it
         PlayerEngine engine;
-        Watcher watcher;
         watcher.attach(engine);
         QVERIFY(engine.open(counter, TitleSelection()));
         engine.play();
@@ -191,8 +191,8 @@ private slots:
     {
         QFETCH(QString, when);
         QFETCH(double, target);
+        Watcher watcher; // outlives the engine, whose threads call it
         PlayerEngine engine;
-        Watcher watcher;
         watcher.attach(engine);
         QVERIFY(engine.open(counter, TitleSelection()));
         if (when != QLatin1String("before play")) {
@@ -226,8 +226,8 @@ private slots:
 
     void endAndStopReportStopped()
     {
+        Watcher watcher; // outlives the engine, whose threads call it
         PlayerEngine engine;
-        Watcher watcher;
         watcher.attach(engine);
         QVERIFY(engine.open(counter, TitleSelection()));
         engine.seek(3.5);
@@ -259,8 +259,8 @@ private slots:
         QFETCH(int, pgc);
         QFETCH(int, track);
         QFETCH(double, hertz);
+        Watcher watcher; // outlives the engine, whose threads call it
         PlayerEngine engine;
-        Watcher watcher;
         watcher.attach(engine);
         TitleSelection title;
         QString path = titleIfo;
@@ -308,8 +308,8 @@ private slots:
             QVERIFY(file.open(QIODevice::WriteOnly));
             file.write(bytes);
         }
+        Watcher watcher; // outlives the engine, whose threads call it
         PlayerEngine engine;
-        Watcher watcher;
         watcher.attach(engine);
         TitleSelection title;
         title.pgc = pgc;
@@ -325,8 +325,8 @@ private slots:
     // Under the sanitizers: no leak, no use after free, no lock-up.
     void survivesManyCycles()
     {
+        Watcher watcher; // outlives the engine, whose threads call it
         PlayerEngine engine;
-        Watcher watcher;
         watcher.attach(engine);
         QRandomGenerator random(7);
         for (int cycle = 0; cycle < 50; ++cycle) {
@@ -386,9 +386,9 @@ private slots:
     // With a sound server: each flash shows when its beep plays.
     void flashesShowWithTheirBeeps()
     {
-        PlayerEngine engine;
         std::mutex mutex;
         std::vector<double> flashTimes;
+        PlayerEngine engine; // ends before what its callback writes to
         engine.setFrameCallback([&](const PlayerPicture &p) {
             if (p.data[0][(p.height / 2) * p.linesize[0] + p.width / 2] > 128) {
                 std::lock_guard<std::mutex> guard(mutex);
