@@ -11,10 +11,10 @@ from pathlib import Path
 
 root = Path(sys.argv[1])
 committed_dir = root / "resources" / "profiles"
-spec = importlib.util.spec_from_file_location("make_profiles",
+found = importlib.util.spec_from_file_location("make_profiles",
                                               committed_dir / "src" / "make_profiles.py")
-generator = importlib.util.module_from_spec(spec)
-spec.loader.exec_module(generator)
+generator = importlib.util.module_from_spec(found)
+found.loader.exec_module(generator)
 
 failed = False
 with tempfile.TemporaryDirectory() as scratch:
