@@ -12,6 +12,9 @@
 
 namespace {
 
+// How long before a file's seek point a subpicture may have begun and still show.
+constexpr double subpictureLead = 30.0;
+
 struct Token
 {
     QString name; // without '-'; empty for a plain word
@@ -657,24 +660,52 @@ QStringList EncoderJob::ffmpegArguments(const QStringList &sources,
 
     if (inputs.size() == 1) {
         const EncoderInput &in = inputs.first();
-        if (!in.titleStart.isEmpty() && in.titleStart.toDouble() != 0)
-            args << QStringLiteral("-ss") << in.titleStart;
-        if (!in.titleLength.isEmpty())
-            args << QStringLiteral("-t") << in.titleLength;
         const InputLayout layout = layouts.value(0);
         // A rate change by the output's -r alone comes two frames late in
         // ffmpeg 5.1; the fps filter takes the frame nearest each instant.
         const QString rate = outputOption("r");
         // A file seeks ahead of its input, which starts the frames' time at 0.
         const double seek = in.isTitle() ? 0.0 : optionValue(in.options, "-ss").toDouble();
-        const QString graph = joinFilters({FilterTranslator::translate(in.videoChain, {}, seek).graph,
-                                           rate.isEmpty() ? QString() : QStringLiteral("fps=") + rate});
+        const FilterTranslator::Result edits = FilterTranslator::translate(in.videoChain, {}, seek);
+        const QString graph = joinFilters(
+            {edits.graph, rate.isEmpty() ? QString() : QStringLiteral("fps=") + rate});
         const QString source = sourceFilters(0, layout);
-        const QString subpicture = subpictureStream(0, layout);
+        QString subpicture = subpictureStream(0, layout);
+        const QString ownInput = QString::number(inputs.size() + (soundReady ? 1 : 0));
+        if (video && !edits.subpictureFile.isEmpty()) {
+            // A VobSub file is timed from the source's start, as a text file is.
+            if (seek > 0)
+                args << QStringLiteral("-itsoffset") << QString::number(-seek, 'g', 10);
+            args << QStringLiteral("-i") << edits.subpictureFile;
+            subpicture = ownInput + QStringLiteral(":s:%1").arg(edits.subpictureTrack);
+        } else if (video && !subpicture.isEmpty() && seek > 0) {
+            // The seek ahead of the input would skip a subpicture begun before
+            // it: the stream comes from a second reading that starts earlier.
+            QStringList again = inputArguments(0, sources.value(0));
+            for (const QLatin1String cut : {QLatin1String("-ss"), QLatin1String("-t")}) {
+                const int at = again.indexOf(cut);
+                if (at >= 0 && at + 2 < again.size())
+                    again.remove(at, 2);
+            }
+            const double from = qMax(0.0, seek - subpictureLead);
+            QStringList early;
+            if (from > 0)
+                early << QStringLiteral("-ss") << QString::number(from, 'g', 10);
+            early << QStringLiteral("-itsoffset") << QString::number(from - seek, 'g', 10);
+            args << again.mid(0, again.size() - 2) << early << again.mid(again.size() - 2);
+            subpicture = ownInput + QLatin1Char(':') + subpicture;
+        } else if (!subpicture.isEmpty()) {
+            subpicture.prepend(QStringLiteral("0:"));
+        }
+        // The title's cut, for every input: after the last of them.
+        if (!in.titleStart.isEmpty() && in.titleStart.toDouble() != 0)
+            args << QStringLiteral("-ss") << in.titleStart;
+        if (!in.titleLength.isEmpty())
+            args << QStringLiteral("-t") << in.titleLength;
         if (video && !subpicture.isEmpty()) {
             // The subpicture lies on the source frame, ahead of crop and scale.
             const QString head
-                = QStringLiteral("[0:v:0]%1[kb];[kb][0:%2]overlay=format=auto")
+                = QStringLiteral("[0:v:0]%1[kb];[kb][%2]overlay=format=auto")
                       .arg(source.isEmpty() ? QStringLiteral("null") : source, subpicture);
             args << QStringLiteral("-filter_complex")
                  << head + (graph.isEmpty() ? QString() : QLatin1Char(',') + graph)

@@ -70,6 +70,22 @@ QString FilterTranslator::sourceSubtitleFilter(const QString &path, int stream, 
     return QStringLiteral("setpts=PTS+%1/TB,%2,setpts=PTS-%1/TB").arg(shiftText, text);
 }
 
+QString FilterTranslator::vobSubIndex(const QString &path)
+{
+    const QFileInfo file(path);
+    const QString suffix = file.suffix().toLower();
+    if (suffix == QLatin1String("idx"))
+        return path;
+    if (suffix != QLatin1String("sub"))
+        return QString();
+    // A .sub is MicroDVD text unless an index stands beside it.
+    const QString index = file.path() + QLatin1Char('/') + file.completeBaseName();
+    for (const QString &name : {index + QStringLiteral(".idx"), index + QStringLiteral(".IDX")})
+        if (QFileInfo::exists(name))
+            return name;
+    return QString();
+}
+
 QString FilterTranslator::escapeValue(const QString &value)
 {
     // First the option level (quote, backslash, colon), then the graph level.
@@ -106,8 +122,8 @@ QString FilterTranslator::effectFilter(int type)
     switch (type) {
     case 1: // Black and White
         return QStringLiteral("hue=s=0");
-    case 2: // Oil Painting
-        return QStringLiteral("median=radius=2,eq=saturation=1.3");
+    case 2: // Oil Painting: brightness only, the chroma is coarse already and a third of the cost
+        return QStringLiteral("median=radius=2:planes=1,eq=saturation=1.3");
     case 3: // Line Drawing
         return QStringLiteral("edgedetect=low=0.08:high=0.2,negate");
     case 4: // Woodcarving
@@ -200,6 +216,10 @@ FilterTranslator::Result FilterTranslator::translate(const QString &chain,
             linear = {QStringLiteral("[%1][%2]overlay=x=%3:y=%4:format=auto")
                           .arg(main, mark, QString::number(args.value(0).toInt()),
                                QString::number(args.value(1).toInt()))};
+        } else if (name == QLatin1String("subtitle") && args.size() == 8
+                   && !vobSubIndex(fromHexText(args[7])).isEmpty()) {
+            result.subpictureFile = vobSubIndex(fromHexText(args[7]));
+            result.subpictureTrack = qMax(0, args[6].toInt());
         } else if (name == QLatin1String("subtitle")) {
             const QString text = subtitleFilter(args, result.notes);
             if (text.isEmpty())

@@ -13,6 +13,10 @@ public:
     {
         QString graph;     // one input, one output; empty when nothing is to be done
         QStringList notes; // what was left out, one line each
+        // A VobSub file to lay on the source's picture, which no filter of
+        // one input can read: the caller's to add as an input.
+        QString subpictureFile;
+        int subpictureTrack = 0;
     };
 
     // Labels inside the graph start with labelPrefix, so several graphs can share one text.
@@ -31,6 +35,10 @@ public:
     static QString effectFilter(int type);
     // brightness, contrast and saturation from -100 to 100, 0 neutral.
     static QString pictureFilter(int brightness, int contrast, int saturation);
+
+    // The index of the VobSub pair that `path` (its .idx or .sub) belongs
+    // to; empty for text subtitle files.
+    static QString vobSubIndex(const QString &path);
 
     // A filter option value quoted for use inside a filter graph text.
     static QString escapeValue(const QString &value);
