@@ -272,8 +272,10 @@ void FFPlayer::setEffects(const std::vector<int> &types)
 
 void FFPlayer::setSubtitle(int stream, const QString &file)
 {
-    // A stream of the source is the engine's to draw; a file's is ours.
+    // A stream of the source and a VobSub file are the engine's to draw; a
+    // text file is ours.
     m_engine.selectSubtitle(stream < 0 || !file.isEmpty() ? PlayerEngine::noTrack : stream);
+    m_engine.selectSubpictureFile(FilterTranslator::vobSubIndex(file), stream);
     m_subtitleStream = stream;
     m_subtitleFile = file;
 }
@@ -297,7 +299,7 @@ bool FFPlayer::open(const QString &path, const QString &format, int pgc)
     TitleSelection title;
     title.pgc = pgc;
     title.audioTrack = m_audioTrack;
-    title.subtitle = m_subtitleStream;
+    title.subtitle = m_subtitleFile.isEmpty() ? m_subtitleStream : -1;
     return m_engine.open(path, title);
 }
 

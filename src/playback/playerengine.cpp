@@ -219,6 +219,11 @@ struct Session
     std::deque<SoundChunk> sound;
     size_t soundSamples = 0;
     std::deque<Subpicture> subpictures; // of `serial`, in time order
+    // A VobSub file's stream: all its packets, small, decoded as the
+    // pictures reach them; `fileNext` the next one due.
+    CodecPtr fileSubtitles;
+    std::vector<std::pair<double, AVPacket *>> filePackets;
+    size_t fileNext = 0;
 
     bool paused = false;
     bool clockSet = false;
@@ -235,6 +240,8 @@ struct Session
             av_packet_free(&p.packet);
         for (Picture &p : pictures)
             av_frame_free(&p.frame);
+        for (auto &[time, packet] : filePackets)
+            av_packet_free(&packet);
     }
 
     double clockLocked() const
@@ -313,6 +320,23 @@ struct Session
         return stamp == AV_NOPTS_VALUE ? -1.0 : double(stamp) * av_q2d(base) - startTime;
     }
 
+    // Decodes one subpicture packet of `time` onto the end of the queue.
+    void addSubpicture(AVCodecContext *decoder, AVPacket *packet, double time)
+    {
+        AVSubtitle decoded{};
+        int got = 0;
+        if (avcodec_decode_subtitle2(decoder, &decoded, &got, packet) < 0 || !got)
+            return;
+        Subpicture sub = subpictureOf(decoded, std::max(time, 0.0));
+        avsubtitle_free(&decoded);
+        if (!subpictures.empty() && subpictures.back().end < 0.0)
+            subpictures.back().end = sub.start;
+        subpictures.push_back(std::move(sub));
+    }
+
+    // The `track`-th stream of the VobSub pair whose index is `path`.
+    bool loadSubpictureFile(const QString &path, int track);
+
     void demux();
     void decodeVideo();
     void decodeAudio();
@@ -320,6 +344,32 @@ struct Session
     void playWithoutDevice(const PlayerEngine::SoundTap &tap);
     qint64 feedDevice(char *data, qint64 maxSize, qint64 queued, const PlayerEngine::SoundTap &tap);
 };
+
+bool Session::loadSubpictureFile(const QString &path, int track)
+{
+    int result = 0;
+    FormatContextPtr file = openMediaInput(path, QString(), TitleSelection(), &result);
+    if (!file || avformat_find_stream_info(file.get(), nullptr) < 0)
+        return false;
+    int index = -1;
+    for (unsigned i = 0, seen = 0; i < file->nb_streams && index < 0; ++i)
+        if (file->streams[i]->codecpar->codec_type == AVMEDIA_TYPE_SUBTITLE && int(seen++) == track)
+            index = int(i);
+    if (index < 0 || !(fileSubtitles = openDecoder(file->streams[index])))
+        return false;
+    // Timed from the source's start, as the encoder times it.
+    const AVRational base = file->streams[index]->time_base;
+    AVPacket *packet = av_packet_alloc();
+    while (av_read_frame(file.get(), packet) >= 0) {
+        if (packet->stream_index == index && packet->pts != AV_NOPTS_VALUE)
+            filePackets.emplace_back(double(packet->pts) * av_q2d(base), av_packet_clone(packet));
+        av_packet_unref(packet);
+    }
+    av_packet_free(&packet);
+    std::stable_sort(filePackets.begin(), filePackets.end(),
+                     [](const auto &a, const auto &b) { return a.first < b.first; });
+    return true;
+}
 
 void Session::demux()
 {
@@ -338,6 +388,13 @@ void Session::demux()
             avformat_seek_file(input.get(), -1, INT64_MIN, stamp, stamp, 0);
             lock.lock();
             skipBefore = target;
+            // From the last file subpicture begun by the target.
+            fileNext = size_t(std::upper_bound(filePackets.begin(), filePackets.end(), target,
+                                               [](double t, const auto &p) { return t < p.first; })
+                              - filePackets.begin());
+            fileNext -= fileNext > 0 ? 1 : 0;
+            if (fileSubtitles)
+                avcodec_flush_buffers(fileSubtitles.get());
             continue;
         }
         if (demuxDone || queuesFull()) {
@@ -364,17 +421,8 @@ void Session::demux()
         }
         if (packet->stream_index == subtitleIndex && subtitleIndex >= 0) {
             // Small and rare: decoded here, shown with the pictures.
-            AVSubtitle decoded{};
-            int got = 0;
-            const double time
-                = stampSeconds(packet->pts, input->streams[subtitleIndex]->time_base);
-            if (avcodec_decode_subtitle2(subtitles.get(), &decoded, &got, packet) >= 0 && got) {
-                Subpicture sub = subpictureOf(decoded, std::max(time, 0.0));
-                if (!subpictures.empty() && subpictures.back().end < 0.0)
-                    subpictures.back().end = sub.start;
-                subpictures.push_back(std::move(sub));
-                avsubtitle_free(&decoded);
-            }
+            addSubpicture(subtitles.get(), packet,
+                          stampSeconds(packet->pts, input->streams[subtitleIndex]->time_base));
             av_packet_unref(packet);
             continue;
         }
@@ -594,6 +642,10 @@ void Session::present(const std::function<void()> &onEnd, const PlayerEngine::Fr
         }
         AVFrame *frame = picture.frame;
         const int serialShown = picture.serial;
+        for (; fileNext < filePackets.size() && filePackets[fileNext].first <= picture.time;
+             ++fileNext)
+            addSubpicture(fileSubtitles.get(), filePackets[fileNext].second,
+                          filePackets[fileNext].first);
         // Subpictures that have ended go; the one of this moment is laid on.
         while (!subpictures.empty() && subpictures.front().end >= 0.0
                && subpictures.front().end <= picture.time)
@@ -720,6 +772,8 @@ struct PlayerEngine::Private
     TitleSelection title;
     int audioTrack = 0;
     int subtitle = noTrack;
+    QString subpictureFile;
+    int subpictureTrack = 0;
     double startAt = 0.0;
     double volume = 1.0;
     QString error;
@@ -796,6 +850,11 @@ std::unique_ptr<Session> PlayerEngine::Private::prepare()
     }
     if (s->videoIndex >= 0 && !(s->video = openDecoder(input->streams[s->videoIndex])))
         s->videoIndex = -1;
+    if (s->videoIndex >= 0 && !subpictureFile.isEmpty()
+        && !s->loadSubpictureFile(subpictureFile, subpictureTrack)) {
+        error = QStringLiteral("Can't read the subtitles of %1").arg(subpictureFile);
+        return nullptr;
+    }
     if (s->audioIndex >= 0 && !(s->audio = openDecoder(input->streams[s->audioIndex])))
         s->audioIndex = -1;
     if (s->videoIndex < 0 && s->audioIndex < 0) {
@@ -1061,6 +1120,12 @@ void PlayerEngine::selectSubtitle(int stream)
 int PlayerEngine::state() const
 {
     return d->state;
+}
+
+void PlayerEngine::selectSubpictureFile(const QString &index, int track)
+{
+    d->subpictureFile = index;
+    d->subpictureTrack = std::max(track, 0);
 }
 
 int PlayerEngine::textSubtitle() const

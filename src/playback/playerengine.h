@@ -73,6 +73,9 @@ public:
     // made of pictures (a disc's, VobSub); noTrack for none. From the next
     // open; a title takes its subpicture from the open's selection.
     void selectSubtitle(int stream);
+    // The n-th stream of a VobSub pair (its .idx) laid on the pictures,
+    // timed from the source's start; empty for none. From the next open.
+    void selectSubpictureFile(const QString &index, int track);
 
     // The selected subtitle stream, counted among the source's subtitle
     // streams, where it is text, which the engine leaves to the edited

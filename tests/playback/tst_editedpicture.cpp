@@ -162,26 +162,33 @@ private slots:
     }
 
     // Subpictures, in their own colours, as the encoder lays them on: a
-    // disc title's and a file's stream.
+    // disc title's, a file's stream and a VobSub file.
     void subpictureEqualsTheEncoders_data()
     {
         QTest::addColumn<QString>("source");
         QTest::addColumn<int>("pgc");
+        QTest::addColumn<bool>("vobSub");
         QTest::addColumn<double>("seconds");
+        QTest::addColumn<bool>("shown");
+        const QString file = QStringLiteral("subpicture.mkv");
         QTest::newRow("disc title, inside the subpicture")
-            << QStringLiteral("dvd-main/VIDEO_TS/VTS_01_0.IFO") << 0 << 1.0;
-        // The encoder's seek ahead of a file's input skips a subpicture
-        // begun before it: at its start the two agree.
-        QTest::newRow("stream of a file") << QStringLiteral("subpicture.mkv") << -1 << 0.0;
+            << QStringLiteral("dvd-main/VIDEO_TS/VTS_01_0.IFO") << 0 << false << 1.0 << true;
+        QTest::newRow("stream of a file, begun before the seek") << file << -1 << false << 1.0 << true;
+        QTest::newRow("VobSub, inside its interval") << file << -1 << true << 1.5 << true;
+        QTest::newRow("VobSub, before it") << file << -1 << true << 0.5 << false;
     }
     void subpictureEqualsTheEncoders()
     {
         QFETCH(QString, source);
         QFETCH(int, pgc);
+        QFETCH(bool, vobSub);
         QFETCH(double, seconds);
+        QFETCH(bool, shown);
         const QString path = fixture(mediaFixtures(), qPrintable(source));
+        const QString index = fixture(mediaFixtures(), "vobsub.idx");
+        const QFont font(QStringLiteral("DejaVu Sans"), 20);
         player->setAudioTrack(0);
-        player->setSubtitle(0, QString());
+        player->setSubtitle(0, vobSub ? index : QString());
         player->stop();
         QSignalSpy pictures(player, &FFPlayer::videoChanged);
         player->open(path, QString(), pgc);
@@ -190,16 +197,20 @@ private slots:
         QVERIFY(pictures.wait(5000));
         player->playPause();
         QTRY_COMPARE(player->state(), 2);
-        const QImage preview = player->originalImage().copy();
+        const QImage preview = player->outputImage().copy();
         // The subpicture's box is white on the red picture.
-        QVERIFY(qGray(preview.pixel(160, 235)) > 200);
+        QCOMPARE(qGray(preview.pixel(160, 235)) > 200, shown);
         QVERIFY(qRed(preview.pixel(160, 300)) > 200 && qGreen(preview.pixel(160, 300)) < 80);
         QStringList input{QStringLiteral("-ss"), QString::number(seconds)};
         if (pgc >= 0)
             input << QStringLiteral("-pgc") << QString::number(pgc)
                   << QStringLiteral("-audio_track") << QStringLiteral("0");
-        input << QStringLiteral("-subtitle") << QStringLiteral("0") << QStringLiteral("-i") << path;
-        const QImage encoded = encoderFrame(input, QStringLiteral("scale=720:576"));
+        if (!vobSub)
+            input << QStringLiteral("-subtitle") << QStringLiteral("0");
+        const QString chain = vobSub ? QStringLiteral(",") + subtitleFileText(font, Qt::white, 0, 90, 0, index)
+                                     : QString();
+        const QImage encoded
+            = encoderFrame(input << QStringLiteral("-i") << path, QStringLiteral("scale=720:576") + chain);
         const double figure = psnr(preview, encoded);
         QVERIFY2(figure > 40.0, qPrintable(QStringLiteral("PSNR %1 dB").arg(figure)));
     }
