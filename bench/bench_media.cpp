@@ -1,4 +1,4 @@
-// Times the DVD scan (against HandBrakeCLI's scan when it is installed) and
+// Times the DVD scan and
 // the media probe, on the media that the tests use.
 
 #include "dvddisc.h"
@@ -8,7 +8,6 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QProcess>
-#include <QStandardPaths>
 
 #include <algorithm>
 #include <cstdio>
@@ -75,28 +74,6 @@ int main(int argc, char *argv[])
     const std::vector<double> discScan
         = timeRuns(50, [&] { return bool(LoadDvdDisc(disc, false)); });
     std::printf("scan of the disc folder (all title sets): median %.3f ms\n", median(discScan));
-
-    const QString handbrake = QStandardPaths::findExecutable(QStringLiteral("HandBrakeCLI"));
-    if (handbrake.isEmpty()) {
-        std::printf("HandBrakeCLI not installed: no comparison\n");
-    } else {
-        const std::vector<double> theirs = timeRuns(5, [&] {
-            QProcess process;
-            process.setProcessChannelMode(QProcess::MergedChannels);
-            // Its default skips titles under 10 s, which are all of ours.
-            process.start(handbrake, {QStringLiteral("--scan"), QStringLiteral("-t"),
-                                      QStringLiteral("0"), QStringLiteral("--min-duration"),
-                                      QStringLiteral("0"), QStringLiteral("-i"), disc});
-            if (!process.waitForFinished(300000))
-                return false;
-            // HandBrakeCLI lists each title it found as "+ title N:".
-            return process.readAll().count("+ title ") >= int(titles);
-        });
-        if (!theirs.empty())
-            std::printf("HandBrakeCLI --scan -t 0: median %.1f ms (5 runs); ours is %.0f times "
-                        "faster\n",
-                        median(theirs), median(theirs) / median(scan));
-    }
 
     const QStringList files
         = {QStringLiteral("movie.mkv"), QStringLiteral("clip.mp4"), QStringLiteral("tone.flac")};
