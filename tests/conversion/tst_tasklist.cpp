@@ -1,39 +1,15 @@
-#include "dvddisc.h"
-#include "mediafixtures.h"
-#include "profilelookup.h"
+#include "fixturediscs.h"
 #include "tasklist.h"
 #include "utils.h"
 
 #include <QTemporaryDir>
 #include <QTest>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
-// Two profiles, as the catalogue would answer for them.
-class FakeCatalogue : public ProfileLookup
-{
-public:
-    QString profileFileName(const QString &groupId, const QString &id) const override
-    {
-        return entry(groupId, id).value(0);
-    }
-    QString profileExtName(const QString &groupId, const QString &id) const override
-    {
-        return entry(groupId, id).value(1);
-    }
-
-private:
-    static QStringList entry(const QString &groupId, const QString &id)
-    {
-        const QString key = groupId + QLatin1Char(',') + id;
-        return key == QLatin1String("1,68") ? QStringLiteral("mp4.xml mp4").split(QLatin1Char(' '))
-               : key == QLatin1String("0,1000")
-                   ? QStringLiteral("user/Mine.xml mkv").split(QLatin1Char(' '))
-                   : QStringList();
-    }
-};
-
-const QString mp4 = QStringLiteral("1,68");
+const QString mp4 = u"1,68"_s;
 
 std::unique_ptr<ChildTask> videoInput(int width, int height, double duration = 10.0)
 {
@@ -46,21 +22,15 @@ std::unique_ptr<ChildTask> videoInput(int width, int height, double duration = 1
     return child;
 }
 
-// The task ids of the list in list order, and its disc ranges, as text.
-QString order(const TaskList &list)
+// The task ids in list order, then the disc ranges.
+QString layout(const TaskList &list)
 {
-    QStringList ids;
+    QStringList ids, ranges;
     for (int i = 0; i < list.count(); ++i)
         ids << QString::number(list.at(i)->id);
-    return ids.join(QLatin1Char(' '));
-}
-
-QString ranges(const TaskList &list)
-{
-    QStringList result;
     for (const TaskList::DiscRange &range : list.ranges())
-        result << QStringLiteral("%1-%2").arg(range.start).arg(range.end);
-    return result.join(QLatin1Char(' '));
+        ranges << u"%1-%2"_s.arg(range.start).arg(range.end);
+    return ids.join(u' ') + u" / "_s + ranges.join(u' ');
 }
 
 } // namespace
@@ -71,125 +41,85 @@ class TestTaskList : public QObject
     Q_OBJECT
 
 private:
-    QString fixtures;
-    std::unique_ptr<DvdDisc> mainDisc; // titles of PGC 0 (4.8 s), 1 (2.4 s) and 6
-    std::unique_ptr<DvdDisc> ntscDisc; // one 16:9 title of 3 s
-    FakeCatalogue catalogue;
+    FixtureDiscs discs;
+    FixedCatalogue catalogue{
+        {{u"1,68"_s, u"mp4.xml mp4"_s}, {u"0,1000"_s, u"user/Mine.xml mkv"_s}}};
 
     // Adds by letters: m0..m2 the main disc's titles, n the NTSC title,
     // c, t, v the clip, the tone and the movie.
-    void fill(TaskList &list, const QString &layout)
+    void fill(TaskList &list, const QString &letters)
     {
-        for (const QString &what : layout.split(QLatin1Char(' '))) {
-            int id = -1;
-            if (what.startsWith(QLatin1Char('m'))) {
-                const int i = what.mid(1).toInt();
-                id = list.addTitle(mp4, *mainDisc->titles[size_t(i)], i + 1, 1);
-            } else if (what == QLatin1String("n")) {
-                id = list.addTitle(mp4, *ntscDisc->titles[0], 4, 2);
-            } else {
-                const char *name = what == QLatin1String("c")   ? "clip.mp4"
-                                   : what == QLatin1String("t") ? "tone.flac"
-                                                                : "movie.mkv";
-                id = list.addFile(mp4, fixture(fixtures, name));
-            }
+        for (const QString &what : letters.split(u' ')) {
+            const int i = what.mid(1).toInt();
+            const char *file = what == u"c"_s   ? "clip.mp4"
+                               : what == u"t"_s ? "tone.flac"
+                                                : "movie.mkv";
+            const int id = what == u"n"_s ? list.addTitle(mp4, *discs.ntsc->titles[0], 4, 2)
+                           : what[0] == u'm'
+                               ? list.addTitle(mp4, *discs.main->titles[size_t(i)], i + 1, 1)
+                               : list.addFile(mp4, discs.file(file));
             QVERIFY(id >= 0);
         }
     }
 
 private slots:
-    void initTestCase()
-    {
-        fixtures = mediaFixtures();
-        QVERIFY2(!fixtures.isEmpty(), "the media fixtures could not be made");
-        mainDisc = LoadDvdDisc(fixture(fixtures, "dvd-main/VIDEO_TS/VTS_01_0.IFO"), false);
-        ntscDisc = LoadDvdDisc(fixture(fixtures, "dvd-ntsc/VIDEO_TS/VTS_01_0.IFO"), false);
-        QVERIFY(mainDisc && mainDisc->titles.size() == 3);
-        QVERIFY(ntscDisc && ntscDisc->titles.size() == 1);
-    }
+    void initTestCase() { discs.load(); }
 
     void prepareFrame_data()
     {
-        QTest::addColumn<QSize>("source");  // 0x0: no video input
-        QTest::addColumn<double>("aspect"); // display aspect of the source, 0: its pixels
-        QTest::addColumn<QRect>("crop");    // left, top, right, bottom
-        QTest::addColumn<QString>("zoom");
-        QTest::addColumn<QString>("size");
-        QTest::addColumn<QRect>("pads"); // left, top, right, bottom
-        QTest::addColumn<QSize>("inner");
-        const QRect no;
-        const QString keep = QStringLiteral("Keep Original"), full = QStringLiteral("Full Screen");
-        QTest::newRow("keep, bars above and below")
-            << QSize(720, 480) << 0.0 << QRect(8, 8, 8, 8) << keep << "640*480"
-            << QRect(0, 28, 0, 30) << QSize(640, 422);
-        QTest::newRow("full screen")
-            << QSize(720, 480) << 0.0 << no << full << "640*480" << no << QSize(640, 480);
-        QTest::newRow("full screen, odd output")
-            << QSize(720, 480) << 0.0 << no << full << "321*241" << no << QSize(321, 241);
-        QTest::newRow("16:9 into 4:3") << QSize(720, 576) << 0.0 << no << "16:9"
-                                       << "640*480" << QRect(0, 60, 0, 60) << QSize(640, 360);
-        QTest::newRow("4:3 into 16:9") << QSize(720, 576) << 0.0 << no << "4:3"
-                                       << "1280*720" << QRect(160, 0, 160, 0) << QSize(960, 720);
-        QTest::newRow("16:9 filling 16:9") << QSize(720, 576) << 0.0 << no << "16:9"
-                                           << "1280*720" << no << QSize(1280, 720);
-        QTest::newRow("odd bars left and right")
-            << QSize(640, 480) << 0.0 << no << keep << "854*480" << QRect(108, 0, 106, 0)
-            << QSize(640, 480);
-        QTest::newRow("odd bars above and below")
-            << QSize(640, 360) << 0.0 << no << keep << "640*502" << QRect(0, 70, 0, 72)
-            << QSize(640, 360);
-        QTest::newRow("ratio of the output")
-            << QSize(640, 480) << 0.0 << no << keep << "320*240" << no << QSize(320, 240);
-        QTest::newRow("crop leaves less than 16 pixels")
-            << QSize(64, 48) << 0.0 << QRect(30, 0, 30, 0) << keep << "640*480"
-            << QRect(240, 0, 240, 0) << QSize(160, 480);
-        QTest::newRow("size from the source") << QSize(720, 576) << 4.0 / 3.0 << no << keep
-                                              << "Auto(Same as source)" << no << QSize(768, 576);
-        // Pixels that are not square keep the picture's shape, cropped too.
-        QTest::newRow("wide pixels") << QSize(720, 576) << 16.0 / 9.0 << no << keep << "640*480"
-                                     << QRect(0, 60, 0, 60) << QSize(640, 360);
-        QTest::newRow("wide pixels cropped")
-            << QSize(720, 576) << 16.0 / 9.0 << QRect(45, 0, 45, 0) << keep << "640*480"
-            << QRect(0, 34, 0, 34) << QSize(640, 412);
-        QTest::newRow("narrow pixels") << QSize(720, 576) << 4.0 / 3.0 << no << keep << "1280*720"
-                                       << QRect(160, 0, 160, 0) << QSize(960, 720);
-        QTest::newRow("no video input")
-            << QSize() << 0.0 << no << keep << "640*480" << no << QSize(640, 480);
-        QTest::newRow("no video, tiny output")
-            << QSize() << 0.0 << no << keep << "8*8" << no << QSize(16, 16);
+        // source (- for none), its display aspect (0: its pixels'), crop, zoom and
+        // output size = bars and inner size; crop and bars left,top,right,bottom
+        QTest::addColumn<QString>("frame");
+        for (const char *row :
+             {"720x480 0 8,8,8,8 Keep_Original 640*480 = 0|28|0|30|640|422",
+              "720x480 0 0 Full_Screen 640*480 = 0|0|0|0|640|480",
+              "720x480 0 0 Full_Screen 321*241 = 0|0|0|0|321|241",
+              "720x576 0 0 16:9 640*480 = 0|60|0|60|640|360",
+              "720x576 0 0 4:3 1280*720 = 160|0|160|0|960|720",
+              "720x576 0 0 16:9 1280*720 = 0|0|0|0|1280|720",
+              "640x480 0 0 Keep_Original 854*480 = 108|0|106|0|640|480",
+              "640x360 0 0 Keep_Original 640*502 = 0|70|0|72|640|360",
+              "640x480 0 0 Keep_Original 320*240 = 0|0|0|0|320|240",
+              // the crop leaves less than 16 pixels
+              "64x48 0 30,0,30,0 Keep_Original 640*480 = 240|0|240|0|160|480",
+              "720x576 4/3 0 Keep_Original Auto(Same as source) = 0|0|0|0|768|576",
+              // pixels that are not square Keep_Original the picture's shape
+              "720x576 16/9 0 Keep_Original 640*480 = 0|60|0|60|640|360",
+              "720x576 16/9 45,0,45,0 Keep_Original 640*480 = 0|34|0|34|640|412",
+              "720x576 4/3 0 Keep_Original 1280*720 = 160|0|160|0|960|720",
+              "- 0 0 Keep_Original 640*480 = 0|0|0|0|640|480",
+              "- 0 0 Keep_Original 8*8 = 0|0|0|0|16|16"})
+            QTest::newRow(row) << QString::fromLatin1(row);
     }
 
     void prepareFrame()
     {
-        QFETCH(QSize, source);
-        QFETCH(double, aspect);
-        QFETCH(QRect, crop);
-        QFETCH(QString, zoom);
-        QFETCH(QString, size);
-        QFETCH(QRect, pads);
-        QFETCH(QSize, inner);
+        QFETCH(QString, frame);
+        const QStringList in = frame.section(u" = "_s, 0, 0).split(u' ');
+        const QStringList size = in[0].split(u'x'), aspect = in[1].split(u'/'),
+                          crop = in[2].split(u',');
         Task task;
-        task.output.settings.insert(QStringLiteral("s"), size);
-        auto child = videoInput(source.width(), source.height());
-        child->hasVideo = source.isValid();
-        child->displayAspect = aspect;
+        task.output.settings.insert(u"s"_s, in.mid(4).join(u' '));
+        auto child = videoInput(size.value(0).toInt(), size.value(1).toInt());
+        child->hasVideo = size.size() == 2;
+        child->displayAspect = aspect[0].toDouble() / aspect.value(1, u"1"_s).toDouble();
         EditParameters &edit = child->edit;
-        edit.cropLeft = crop.x();
-        edit.cropTop = crop.y();
-        edit.cropRight = crop.width();
-        edit.cropBottom = crop.height();
-        edit.zoomMode = zoom;
+        int *sides[] = {&edit.cropLeft, &edit.cropTop, &edit.cropRight, &edit.cropBottom};
+        for (int side = 0; side < 4; ++side)
+            *sides[side] = crop.value(side).toInt();
+        edit.zoomMode = QString(in[3]).replace(u'_', u' ');
         edit.padTop = edit.padBottom = edit.padLeft = 50; // bars of an earlier frame go
         task.items.push_back(std::move(child));
         task.prepareFrame(0);
         task.prepareFrame(5); // no such input: nothing happens
-        QCOMPARE(QRect(edit.padLeft, edit.padTop, edit.padRight, edit.padBottom), pads);
-        QCOMPARE(QSize(edit.innerWidth, edit.innerHeight), inner);
+        QCOMPARE(joined(edit.padLeft, edit.padTop, edit.padRight, edit.padBottom, edit.innerWidth,
+                        edit.innerHeight),
+                 frame.section(u" = "_s, 1));
         QCOMPARE(edit.padLeft % 2 + edit.padTop % 2, 0);
-        if (source.isValid() && zoom != QLatin1String("Full Screen")) {
-            QCOMPARE(edit.padLeft + edit.innerWidth + edit.padRight, task.outputSize().width());
-            QCOMPARE(edit.padTop + edit.innerHeight + edit.padBottom, task.outputSize().height());
-        }
+        if (size.size() == 2 && in[3] != u"Full_Screen"_s) // bars and picture fill the frame
+            QCOMPARE(QSize(edit.padLeft + edit.innerWidth + edit.padRight,
+                           edit.padTop + edit.innerHeight + edit.padBottom),
+                     task.outputSize());
     }
 
     void outputSize_data()
@@ -214,43 +144,32 @@ private slots:
         QFETCH(QSize, expected);
         Task task;
         if (!size.isEmpty())
-            task.output.settings.insert(QStringLiteral("s"), size);
+            task.output.settings.insert(u"s"_s, size);
         task.items.push_back(videoInput(720, 576));
         task.items.back()->displayAspect = 16.0 / 9.0;
         QCOMPARE(task.outputSize(), expected);
     }
 
-    void estimatedSize_data()
-    {
-        QTest::addColumn<QString>("video");
-        QTest::addColumn<QString>("audio");
-        QTest::addColumn<qint64>("expected");
-        // 12.5 s trimmed over two inputs.
-        QTest::newRow("both") << "1000"
-                              << "128" << qint64(1250000 + 1600000);
-        QTest::newRow("same quality") << QString() << "128" << qint64(1600000);
-        QTest::newRow("no audio rate") << "800" << QString() << qint64(1000000);
-    }
-
     void estimatedSize()
     {
-        QFETCH(QString, video);
-        QFETCH(QString, audio);
-        QFETCH(qint64, expected);
         Task task;
-        task.output.settings.insert(QStringLiteral("b"), video);
-        task.output.settings.insert(QStringLiteral("ab"), audio);
         task.items.push_back(videoInput(320, 240, 10.0));
         task.items.back()->edit.trimStart = 2.5;
         task.items.push_back(videoInput(320, 240, 5.0));
-        QCOMPARE(task.estimatedSize(), expected);
+        // 12.5 s trimmed: both rates; the same quality (no video rate); no audio rate.
+        QStringList sizes;
+        for (const QString &rates : {u"1000 128"_s, u" 128"_s, u"800 "_s}) {
+            task.output.settings.insert(u"b"_s, rates.section(u' ', 0, 0));
+            task.output.settings.insert(u"ab"_s, rates.section(u' ', 1));
+            sizes << QString::number(task.estimatedSize());
+        }
+        QCOMPARE(sizes.join(u' '), u"2850000 1600000 1000000"_s);
     }
 
     void durations()
     {
         Task task;
-        QCOMPARE(task.totalDuration(false), 0.0);
-        QVERIFY(!task.hasVideoInput());
+        QVERIFY(task.totalDuration(false) == 0.0 && !task.hasVideoInput());
         task.items.push_back(videoInput(320, 240, 100.0));
         task.items.push_back(videoInput(320, 240, 20.0));
         task.items[0]->edit.trimStart = 10.0;
@@ -258,11 +177,9 @@ private slots:
         task.items[0]->edit.convertEnd = 30.0;
         task.items[1]->edit.convertEnd = 20.0;
         task.setChecked(false, 1);
-        QCOMPARE(task.totalDuration(false), 120.0);
-        QCOMPARE(task.totalDuration(true), 100.0);
-        QCOMPARE(task.trimmedDuration(), 50.0);
-        QCOMPARE(task.trimmedDurationText(), Utils::durationText(50.0));
-        QCOMPARE(task.convertDuration(), 40.0);
+        QCOMPARE(joined(task.totalDuration(false), task.totalDuration(true), task.trimmedDuration(),
+                        task.convertDuration(), task.trimmedDurationText()),
+                 u"120|100|50|40|"_s + Utils::durationText(50.0));
         QVERIFY(task.hasVideoInput());
     }
 
@@ -274,16 +191,14 @@ private slots:
             source->sourcePath = QLatin1String(path);
             task.appendItem(*source);
         }
-        QCOMPARE(task.item(2)->id, 1002);
         QCOMPARE(task.item(0)->owner, &task);
         // Contents and ids move together.
         QCOMPARE(task.moveItemUp(2), 0);
         QCOMPARE(task.item(1)->id, 1002);
-        QCOMPARE(task.item(1)->sourcePath, QStringLiteral("/video/c.mkv"));
+        QCOMPARE(task.item(1)->sourcePath, u"/video/c.mkv"_s);
         QCOMPARE(task.moveItemDown(0), 0);
-        QCOMPARE(task.displayPath(0), QStringLiteral("/video/c.mkv"));
-        QCOMPARE(task.moveItemUp(3), -1);
-        QCOMPARE(task.moveItemDown(-1), -1);
+        QCOMPARE(task.displayPath(0), u"/video/c.mkv"_s);
+        QCOMPARE(task.moveItemUp(3) + task.moveItemDown(-1), -2);
         QCOMPARE(task.indexOfItem(task.itemById(1001)), 2);
         // Ids are not given twice.
         task.removeItem(2);
@@ -295,20 +210,14 @@ private slots:
         QVERIFY(!task.isChecked(1) && task.isChecked(0) && task.isChecked() && !task.isChecked(8));
         task.setChecked(false);
         QVERIFY(!task.isChecked());
-        task.name = QStringLiteral("Merge 1");
-        QCOMPARE(task.displayPath(), QStringLiteral("Merge 1"));
-        QCOMPARE(task.displayPath(9), QString());
-    }
-
-    void outputName()
-    {
-        Task task;
+        task.name = u"Merge 1"_s;
+        QCOMPARE(task.displayPath() + task.displayPath(9), u"Merge 1"_s);
         task.output.profileKey = mp4;
-        task.setOutputBaseName(QStringLiteral("holiday"), catalogue);
-        QCOMPARE(task.output.fileName, QStringLiteral("holiday.mp4"));
-        task.output.profileKey = QStringLiteral("9,9");
-        task.setOutputBaseName(QStringLiteral("holiday"), catalogue);
-        QCOMPARE(task.output.fileName, QStringLiteral("holiday"));
+        task.setOutputBaseName(u"holiday"_s, catalogue);
+        const QString known = task.output.fileName;
+        task.output.profileKey = u"9,9"_s;
+        task.setOutputBaseName(u"holiday"_s, catalogue);
+        QCOMPARE(known + u' ' + task.output.fileName, u"holiday.mp4 holiday"_s);
     }
 
     void stateResetsTheStopwatch()
@@ -316,8 +225,7 @@ private slots:
         Task task;
         task.start();
         task.setState(Task::Running);
-        QVERIFY(!task.isRunning());
-        QCOMPARE(task.elapsedMs(), qint64(0));
+        QVERIFY(!task.isRunning() && task.elapsedMs() == 0);
         task.start();
         QTest::qSleep(30);
         task.setState(Task::Running); // unchanged: the clock runs on
@@ -338,91 +246,85 @@ private slots:
         child.edit.trimStart = 3.0;
         child.edit.cropTop = 10;
         child.edit.rotation = 90;
-        child.edit.watermark().text = QStringLiteral("mark");
-        child.edit.addAudioFile(QStringLiteral("/a.mp3"));
+        child.edit.watermark().text = u"mark"_s;
+        child.edit.addAudioFile(u"/a.mp3"_s);
         child.edit.clearAudioSelection();
         child.edit.selectAudio(1);
         child.resetEdit();
-        QCOMPARE(child.edit.trimStart, 3.0); // the trim stays
-        QCOMPARE(child.edit.cropTop + child.edit.rotation, 0);
-        QVERIFY(!child.edit.hasWatermark());
-        QCOMPARE(child.edit.audioTracks.size(), size_t(2));
-        QCOMPARE(child.edit.subtitles.size(), size_t(1));
-        QCOMPARE(child.edit.selectedAudioStream(), 0);
+        // The trim stays; the tracks are the streams' again, the first chosen.
+        const EditParameters &edit = child.edit;
+        QCOMPARE(joined(edit.trimStart, edit.cropTop + edit.rotation, edit.hasWatermark(),
+                        edit.audioTracks.size(), edit.subtitles.size(), edit.selectedAudioStream()),
+                 u"3|0|0|2|1|0"_s);
     }
 
     void files()
     {
-        TaskList list(&catalogue);
-        const QString movie = fixture(fixtures, "movie.mkv");
-        QCOMPARE(list.addFile(mp4, movie), 0);
-        QCOMPARE(list.addFile(QStringLiteral("0,1000"), fixture(fixtures, "tone.flac")), 1);
-        const Task *task = list.byId(0);
-        const ChildTask *child = task->item(0);
-        QCOMPARE(child->owner, task);
-        QCOMPARE(child->sourcePath, movie);
-        QVERIFY(!child->isDiscTitle() && child->hasVideo && !child->edit.anySubtitleSelected());
-        QCOMPARE(child->edit.trimEnd, child->duration);
-        QVERIFY(qAbs(child->duration - 3.0) < 0.2);
-        // Two audio streams, the first selected; one subtitle stream.
-        QCOMPARE(QStringList({task->output.profileFile, task->output.fileName, child->title,
-                              child->edit.zoomMode, child->edit.audioTracks[1]->text()})
-                         .join(QLatin1Char('|'))
-                     + QStringLiteral("|%1 %2 %3")
-                           .arg(child->edit.audioTracks.size())
-                           .arg(child->edit.selectedAudioStream())
-                           .arg(child->edit.subtitles.size()),
-                 QStringLiteral("mp4.xml|movie.mp4|movie|Keep Original|ac3 (fre)|2 0 1"));
-
-        const Task *tone = list.byId(1);
-        QCOMPARE(tone->output.fileName + tone->output.profileFile,
-                 QStringLiteral("tone.mkvuser/Mine.xml"));
-        QVERIFY(!tone->hasVideoInput());
-        QVERIFY(list.ranges().empty());
-    }
-
-    void unusableInputs()
-    {
         QTemporaryDir dir;
-        const QString text = dir.filePath(QStringLiteral("notes.txt"));
-        QFile file(text);
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("not a video\n") > 0);
-        file.close();
         TaskList list(&catalogue);
-        QCOMPARE(list.addFile(mp4, dir.filePath(QStringLiteral("missing.mkv"))), -1);
-        QCOMPARE(list.addFile(mp4, text), -1);
+        QCOMPARE(list.addFile(mp4, dir.filePath(u"missing.mkv"_s)), -1);
+        QCOMPARE(list.addFile(mp4, writeFile(dir.filePath(u"notes.txt"_s), "not a video\n")), -1);
         DvdTitle empty; // no range, no disc
         QCOMPARE(list.addTitle(mp4, empty, 1, 1), -1);
-        QCOMPARE(list.count(), 0);
         // No id was used up.
-        QCOMPARE(list.addFile(mp4, fixture(fixtures, "clip.mp4")), 0);
+        const QString movie = discs.file("movie.mkv");
+        QCOMPARE(list.addFile(mp4, movie), 0);
+        QCOMPARE(list.addFile(u"0,1000"_s, discs.file("tone.flac")), 1);
+        const Task *task = list.byId(0), *tone = list.byId(1);
+        const ChildTask *child = task->item(0);
+        const EditParameters &edit = child->edit;
+        QVERIFY(child->owner == task && !child->isDiscTitle() && child->hasVideo);
+        QVERIFY(qAbs(child->duration - 3.0) < 0.2 && edit.trimEnd == child->duration);
+        // Two audio streams, the first selected; one subtitle stream, not selected.
+        QCOMPARE(joined(child->sourcePath, task->output.profileFile, task->output.fileName,
+                        child->title, edit.zoomMode, edit.audioTracks[1]->text(),
+                        edit.audioTracks.size(), edit.selectedAudioStream(), edit.subtitles.size(),
+                        edit.anySubtitleSelected()),
+                 movie + u"|mp4.xml|movie.mp4|movie|Keep Original|ac3 (fre)|2|0|1|0"_s);
+        QCOMPARE(joined(tone->output.fileName, tone->output.profileFile, tone->hasVideoInput(),
+                        layout(list)),
+                 u"tone.mkv|user/Mine.xml|0|0 1 / "_s);
+        list.updateCommonRoot();
+        QCOMPARE(list.commonRootPath(), QDir::cleanPath(discs.dir));
+        // An added sound file is read; a picture has no sound to read.
+        EditParameters &edited = list.byId(0)->item(0)->edit;
+        const int added = edited.addAudioFile(discs.file("tone.flac"));
+        AudioStreamInfo stream;
+        QVERIFY(EditParameters::loadAudioInfo(*edited.audioTracks[size_t(added)], stream));
+        QCOMPARE(
+            joined(stream.codec, stream.sampleRate, edited.audioTracks[size_t(added)]->infoLoaded),
+            u"flac|44100|1"_s);
+        const int silent = edited.addAudioFile(discs.file("picture.png"));
+        QVERIFY(!EditParameters::loadAudioInfo(*edited.audioTracks[size_t(silent)], stream));
     }
 
     void titles()
     {
+        TaskList discOnly(&catalogue);
+        fill(discOnly, u"m0 m1"_s);
+        discOnly.updateCommonRoot();
+        QCOMPARE(discOnly.commonRootPath(), QFileInfo(discs.main->path).path());
+
         TaskList list(&catalogue);
-        fill(list, QStringLiteral("m0 m1 m2 c n"));
-        const ChildTask *first = list.at(0)->item(0);
-        const ChildTask *ntsc = list.at(4)->item(0);
-        QCOMPARE(first->sourcePath, mainDisc->path);
-        QVERIFY(first->isDiscTitle());
-        QVERIFY(qAbs(first->edit.trimEnd - 4.8) < 0.05);
-        QCOMPARE(first->edit.audioTracks[0]->text(),
-                 QStringLiteral("AC3 (%1)").arg(mainDisc->titles[0]->audioNames[0]));
-        QCOMPARE(first->edit.subtitles[0]->text(), mainDisc->titles[0]->subtitleNames[0]);
-        QCOMPARE(QStringList({first->title, list.at(0)->output.fileName, first->edit.zoomMode,
-                              list.at(2)->item(0)->title, ntsc->title, ntsc->edit.zoomMode})
-                         .join(QLatin1Char('|'))
-                     + QStringLiteral("|%1 %2 %3 %4")
-                           .arg(first->edit.audioTracks.size())
-                           .arg(first->edit.subtitles.size())
-                           .arg(list.at(1)->item(0)->pgcIndex)
-                           .arg(list.at(2)->item(0)->pgcIndex),
-                 QStringLiteral("Title_1|Title_1.mp4|4:3|Title_3|Title_4|16:9|2 1 1 6"));
+        fill(list, u"m0 m1 m2 c n"_s);
+        list.updateCommonRoot();
+        QCOMPARE(list.commonRootPath(), QDir::cleanPath(discs.dir));
+        const ChildTask *first = list.at(0)->item(0), *ntsc = list.at(4)->item(0);
+        const DvdTitle &title0 = *discs.main->titles[0];
+        QVERIFY(first->isDiscTitle() && qAbs(first->edit.trimEnd - 4.8) < 0.05);
+        QCOMPARE(joined(first->sourcePath, first->edit.audioTracks[0]->text(),
+                        first->edit.subtitles[0]->text(), first->title, list.at(0)->output.fileName,
+                        first->edit.zoomMode, list.at(2)->item(0)->title, ntsc->title,
+                        ntsc->edit.zoomMode, first->edit.audioTracks.size(),
+                        first->edit.subtitles.size(), list.at(1)->item(0)->pgcIndex,
+                        list.at(2)->item(0)->pgcIndex),
+                 joined(discs.main->path, u"AC3 (%1)"_s.arg(title0.audioNames[0]),
+                        title0.subtitleNames[0])
+                     + u"|Title_1|Title_1.mp4|4:3|Title_3|Title_4|16:9|2|1|1|6"_s);
 
         // A title of another aspect keeps the picture as it is.
         DvdDisc wide;
-        wide.path = mainDisc->path;
+        wide.path = discs.main->path;
         wide.width = 720;
         wide.height = 576;
         wide.aspect = 1.85;
@@ -431,98 +333,82 @@ private slots:
         title.range = std::make_unique<DvdChapter>();
         title.range->end = 2.0;
         const int id = list.addTitle(mp4, title, 5, 3);
-        QCOMPARE(list.byId(id)->item(0)->edit.zoomMode, QStringLiteral("Keep Original"));
-        QCOMPARE(ranges(list), QStringLiteral("0-3 4-5 5-6"));
+        QCOMPARE(list.byId(id)->item(0)->edit.zoomMode, u"Keep Original"_s);
+        QCOMPARE(layout(list), u"0 1 2 3 4 5 / 0-3 4-5 5-6"_s);
     }
 
     // The rows of the list: a disc's titles make one row, a loose task one.
     void rows_data()
     {
-        QTest::addColumn<QString>("layout");
-        QTest::addColumn<QString>("ranges");
-        QTest::addColumn<QString>("rowRanges"); // rangeAtRow of rows 0, 1, ...
-        QTest::addColumn<QString>("positions"); // positionAtRow of rows 0, 1, ...
-        QTest::newRow("disc, file, disc") << "m0 m1 m2 c n"
-                                          << "0-3 4-5"
-                                          << "0 -1 1 -1"
-                                          << "0 3 4 -1";
+        // letters of fill() = the layout; rangeAtRow and positionAtRow of the rows
+        QTest::addColumn<QString>("rows");
+        QTest::newRow("disc, file, disc")
+            << u"m0 m1 m2 c n = 0 1 2 3 4 / 0-3 4-5; 0 -1 1 -1; 0 3 4 -1"_s;
         // A title of the last disc behind a loose task starts a range of its own.
-        QTest::newRow("same disc after a file") << "m0 c m1"
-                                                << "0-1 2-3"
-                                                << "0 -1 1 -1"
-                                                << "0 1 2 -1";
-        QTest::newRow("loose tasks around a disc") << "c m0 m1 t v"
-                                                   << "1-3"
-                                                   << "-1 0 -1 -1 -1"
-                                                   << "0 1 3 4 -1";
+        QTest::newRow("same disc after a file")
+            << u"m0 c m1 = 0 1 2 / 0-1 2-3; 0 -1 1 -1; 0 1 2 -1"_s;
+        QTest::newRow("loose tasks around a disc")
+            << u"c m0 m1 t v = 0 1 2 3 4 / 1-3; -1 0 -1 -1 -1; 0 1 3 4 -1"_s;
     }
 
     void rows()
     {
-        QFETCH(QString, layout);
-        QFETCH(QString, ranges);
-        QFETCH(QString, rowRanges);
-        QFETCH(QString, positions);
+        QFETCH(QString, rows);
         TaskList list(&catalogue);
-        fill(list, layout);
-        QCOMPARE(::ranges(list), ranges);
+        fill(list, rows.section(u" = "_s, 0, 0));
         QStringList range, position;
-        for (int row = 0; row < rowRanges.count(QLatin1Char(' ')) + 1; ++row) {
+        for (int row = 0; row < 9 && (row == 0 || position.last() != u"-1"_s); ++row) {
             range << QString::number(list.rangeAtRow(row));
             position << QString::number(list.positionAtRow(row));
         }
-        QCOMPARE(range.join(QLatin1Char(' ')), rowRanges);
-        QCOMPARE(position.join(QLatin1Char(' ')), positions);
+        QCOMPARE(QStringList({layout(list), range.join(u' '), position.join(u' ')}).join(u"; "_s),
+                 rows.section(u" = "_s, 1));
         QCOMPARE(list.rangeAtRow(-1) + list.positionAtRow(-1), -2);
     }
 
     void removeKeepsRanges()
     {
         TaskList list(&catalogue);
-        fill(list, QStringLiteral("m0 m1 m2 c n")); // ranges 0-3 4-5; the file at 3
+        fill(list, u"m0 m1 m2 c n"_s);
         list.remove(42);
-        QCOMPARE(list.count(), 5);
         list.remove(1); // inside the first range
-        QCOMPARE(order(list), QStringLiteral("0 2 3 4"));
-        QCOMPARE(ranges(list), QStringLiteral("0-2 3-4"));
+        QCOMPARE(layout(list), u"0 2 3 4 / 0-2 3-4"_s);
         list.remove(3); // the loose file
-        QCOMPARE(ranges(list), QStringLiteral("0-2 2-3"));
+        QCOMPARE(layout(list), u"0 2 4 / 0-2 2-3"_s);
         list.remove(4); // the whole second range
-        QCOMPARE(ranges(list), QStringLiteral("0-2"));
+        QCOMPARE(layout(list), u"0 2 / 0-2"_s);
         list.remove(0);
-        QCOMPARE(ranges(list), QStringLiteral("0-1"));
+        QCOMPARE(layout(list), u"2 / 0-1"_s);
         list.remove(2);
-        QCOMPARE(ranges(list) + order(list), QString());
+        QCOMPARE(layout(list), u" / "_s);
         // Ids go on counting after a clear.
-        fill(list, QStringLiteral("m0 m1 m2 c n"));
+        fill(list, u"m0 m1 m2 c n"_s);
         list.clear();
-        QCOMPARE(ranges(list) + order(list), QString());
-        QCOMPARE(list.addFile(mp4, fixture(fixtures, "clip.mp4")), 10);
+        list.updateCommonRoot();
+        QCOMPARE(layout(list) + list.commonRootPath(), u" / "_s);
+        QCOMPARE(list.addFile(mp4, discs.file("clip.mp4")), 10);
     }
 
     void moves()
     {
         TaskList list(&catalogue);
-        fill(list, QStringLiteral("m0 m1 m2 n c"));
+        fill(list, u"m0 m1 m2 n c"_s);
         list.moveRangeUp(2); // the file's row: nothing happens
         list.moveRangeUp(0);
-        QCOMPARE(order(list), QStringLiteral("0 1 2 3 4"));
+        QCOMPARE(layout(list), u"0 1 2 3 4 / 0-3 3-4"_s);
         list.moveRangeUp(1);
-        QCOMPARE(order(list), QStringLiteral("3 0 1 2 4"));
-        QCOMPARE(ranges(list), QStringLiteral("0-1 1-4"));
+        QCOMPARE(layout(list), u"3 0 1 2 4 / 0-1 1-4"_s);
         list.moveRangeDown(0);
-        QCOMPARE(order(list), QStringLiteral("0 1 2 3 4"));
-        QCOMPARE(ranges(list), QStringLiteral("0-3 3-4"));
+        QCOMPARE(layout(list), u"0 1 2 3 4 / 0-3 3-4"_s);
 
         TaskList files(&catalogue);
-        fill(files, QStringLiteral("c t v"));
+        fill(files, u"c t v"_s);
         QCOMPARE(files.moveTaskUp(2), 0);
-        QCOMPARE(order(files), QStringLiteral("0 2 1"));
+        QCOMPARE(layout(files), u"0 2 1 / "_s);
         QCOMPARE(files.moveTaskDown(0), 0);
-        QCOMPARE(order(files), QStringLiteral("2 0 1"));
-        QCOMPARE(files.moveTaskUp(7), -1);
-        QCOMPARE(files.moveTaskUp(2), -1); // already first
-        QCOMPARE(files.moveTaskDown(1), -1);
+        QCOMPARE(layout(files), u"2 0 1 / "_s);
+        // An unknown id, the first task up, the last one down.
+        QCOMPARE(files.moveTaskUp(7) + files.moveTaskUp(2) + files.moveTaskDown(1), -3);
         QVERIFY(!files.firstInState(Task::Waiting));
         files.byId(0)->setState(Task::Waiting);
         files.byId(1)->setState(Task::Waiting);
@@ -533,74 +419,70 @@ private slots:
     void clones()
     {
         TaskList list(&catalogue);
-        list.addTitle(mp4, *mainDisc->titles[0], 1, 1);
+        fill(list, u"m0"_s);
         list.byId(0)->setState(Task::Succeed);
-        list.byId(0)->item(0)->edit.watermark().text = QStringLiteral("mark");
+        list.byId(0)->item(0)->edit.watermark().text = u"mark"_s;
         QCOMPARE(list.clone(9), -1);
         const int copyId = list.clone(0);
-        QCOMPARE(copyId, 1);
-        QCOMPARE(ranges(list), QStringLiteral("0-1"));
+        QCOMPARE(layout(list), u"0 1 / 0-1"_s);
 
         Task *copy = list.byId(copyId);
         Task *original = list.byId(0);
         QCOMPARE(copy->state, Task::Idle);
-        QCOMPARE(copy->item(0)->owner, copy);
-        QCOMPARE(copy->output.fileName + copy->item(0)->edit.watermark().text,
-                 QStringLiteral("Title_1.mp4mark"));
+        QCOMPARE(joined(copy->item(0)->owner == copy, copy->output.fileName,
+                        copy->item(0)->edit.watermark().text),
+                 u"1|Title_1.mp4|mark"_s);
 
         EditParameters &edit = copy->item(0)->edit;
         edit.cropLeft = 8;
-        edit.zoomMode = QStringLiteral("Full Screen");
-        edit.watermark().text = QStringLiteral("other");
+        edit.zoomMode = u"Full Screen"_s;
+        edit.watermark().text = u"other"_s;
         edit.subtitles[0]->color = Qt::yellow;
         edit.selectAudio(1);
-        copy->output.settings.insert(QStringLiteral("s"), QStringLiteral("640*480"));
+        copy->output.settings.insert(u"s"_s, u"640*480"_s);
         const EditParameters &kept = original->item(0)->edit;
-        QCOMPARE(QStringLiteral("%1 %2 %3 %4 %5 [%6]")
-                     .arg(kept.cropLeft)
-                     .arg(kept.zoomMode, kept.watermark().text, kept.subtitles[0]->color.name())
-                     .arg(int(kept.audioTracks[1]->selected))
-                     .arg(original->value(QStringLiteral("s"))),
-                 QStringLiteral("0 4:3 mark #ffffff 0 []"));
+        QCOMPARE(joined(kept.cropLeft, kept.zoomMode, kept.watermark().text,
+                        kept.subtitles[0]->color.name(), kept.audioTracks[1]->selected,
+                        original->value(u"s"_s)),
+                 u"0|4:3|mark|#ffffff|0|"_s);
 
         // Removing the original keeps the copy and the copy stays loose.
         list.remove(0);
-        QVERIFY(list.ranges().empty());
-        QCOMPARE(list.byId(copyId)->item(0)->edit.watermark().text, QStringLiteral("other"));
+        QCOMPARE(layout(list), u"1 / "_s);
+        QCOMPARE(list.byId(copyId)->item(0)->edit.watermark().text, u"other"_s);
     }
 
     void merges()
     {
         TaskList list(&catalogue);
-        const int file = list.addFile(mp4, fixture(fixtures, "clip.mp4"));
-        const int title = list.addTitle(mp4, *mainDisc->titles[1], 1, 1);
+        const int file = list.addFile(mp4, discs.file("clip.mp4"));
+        const int title = list.addTitle(mp4, *discs.main->titles[1], 1, 1);
         const int merge = list.addMerge(mp4);
         Task *merged = list.byId(merge);
-        QCOMPARE(QStringList({merged->name, merged->output.fileName, ranges(list)}),
-                 QStringLiteral("Merge 1|Merge 1.mp4|1-2").split(QLatin1Char('|')));
-        QVERIFY(merged->itemCount() == 0 && !merged->hasVideoInput());
+        QCOMPARE(
+            joined(merged->name, merged->output.fileName, layout(list), merged->hasVideoInput()),
+            u"Merge 1|Merge 1.mp4|0 1 2 / 1-2|0"_s);
 
         QCOMPARE(list.addToMerge(file, merge), 1000);
         QCOMPARE(list.addToMerge(title, merge), 1001);
-        QCOMPARE(list.addToMerge(77, merge), -1);
-        QCOMPARE(list.addToMerge(file, 77), -1);
-        QCOMPARE(list.count(), 3); // the sources stay
-        QCOMPARE(merged->itemCount(), 2);
+        QCOMPARE(list.addToMerge(77, merge) + list.addToMerge(file, 77), -2);
+        // The sources stay.
+        QCOMPARE(joined(list.count(), merged->itemCount(), merged->item(1)->pgcIndex,
+                        merged->hasVideoInput()),
+                 u"3|2|1|1"_s);
         QCOMPARE(merged->item(0)->owner, merged);
-        QCOMPARE(merged->item(1)->pgcIndex, 1);
-        QVERIFY(merged->hasVideoInput());
         QCOMPARE(merged->totalDuration(false),
                  list.byId(file)->totalDuration(false) + list.byId(title)->totalDuration(false));
 
         merged->item(0)->edit.trimStart = 1.0;
-        merged->item(0)->edit.watermark().text = QStringLiteral("merged");
-        QCOMPARE(list.byId(file)->item(0)->edit.trimStart, 0.0);
-        QVERIFY(!list.byId(file)->item(0)->edit.hasWatermark());
+        merged->item(0)->edit.watermark().text = u"merged"_s;
+        const EditParameters &source = list.byId(file)->item(0)->edit;
+        QVERIFY(source.trimStart == 0.0 && !source.hasWatermark());
 
         merged->removeItem(1);
         QCOMPARE(list.addToMerge(title, merge), 1002);
-        QCOMPARE(list.byId(list.addMerge(mp4))->name, QStringLiteral("Merge 2"));
-        QCOMPARE(list.nextMergeName(), QStringLiteral("Merge 3"));
+        QCOMPARE(list.byId(list.addMerge(mp4))->name, u"Merge 2"_s);
+        QCOMPARE(list.nextMergeName(), u"Merge 3"_s);
     }
 
     void applyToAll_data()
@@ -620,82 +502,40 @@ private slots:
         QFETCH(bool, image);
         QFETCH(bool, watermark);
         TaskList list(&catalogue);
-        const int title = list.addTitle(mp4, *mainDisc->titles[0], 1, 1);   // 720x576
-        const int small = list.addFile(mp4, fixture(fixtures, "clip.mp4")); // 160x120
+        fill(list, u"m0 c"_s); // 720x576 and 160x120
         const int merge = list.addMerge(mp4);
-        list.addToMerge(title, merge);
-        list.addToMerge(small, merge);
+        list.addToMerge(0, merge);
+        list.addToMerge(1, merge);
 
-        ChildTask &edited = *list.byId(title)->item(0);
+        ChildTask &edited = *list.byId(0)->item(0);
         EditParameters &values = edited.edit;
         values.cropLeft = 100;
         values.cropRight = 50;
-        values.cropTop = 20;
-        values.cropBottom = 20;
-        values.zoomMode = QStringLiteral("Full Screen");
+        values.cropTop = values.cropBottom = 20;
+        values.zoomMode = u"Full Screen"_s;
         values.brightness = 25;
         values.setEffectEnabled(5, true);
-        values.watermark().text = QStringLiteral("mark");
+        values.watermark().text = u"mark"_s;
         const QUuid editedId = values.watermark().id;
         list.applyToAll(edited, crop, image, watermark);
 
-        const std::vector<const ChildTask *> others{
-            list.byId(small)->item(0), list.byId(merge)->item(0), list.byId(merge)->item(1)};
-        for (const ChildTask *child : others) {
+        // The small clip keeps its left and right edges, not its top and bottom.
+        const QString rest = joined(image ? 25 : 0, 0, watermark ? u"mark"_s : QString());
+        const QString clip = crop ? u"0|0|20|1|"_s : u"0|0|0|0|"_s;
+        QStringList got;
+        for (const ChildTask *child :
+             {list.byId(1)->item(0), list.byId(merge)->item(0), list.byId(merge)->item(1)}) {
             const EditParameters &edit = child->edit;
-            const bool wide = child->width > 166; // wider than the cut and 16
-            const bool high = child->height > 56; // higher than the cut and 16
-            QCOMPARE(edit.cropLeft, crop && wide ? 100 : 0);
-            QCOMPARE(edit.cropRight, crop && wide ? 50 : 0);
-            QCOMPARE(edit.cropTop, crop && high ? 20 : 0);
-            QCOMPARE(edit.zoomMode == QLatin1String("Full Screen"), crop);
-            QCOMPARE(edit.brightness, image ? 25 : 0);
-            QVERIFY(edit.enabledEffects().empty());
-            QCOMPARE(edit.watermark().text, watermark ? QStringLiteral("mark") : QString());
+            got << joined(edit.cropLeft, edit.cropRight, edit.cropTop,
+                          edit.zoomMode == u"Full Screen"_s, edit.brightness,
+                          edit.enabledEffects().size(), edit.watermark().text);
             if (watermark) // a copy of the entry, under a new identity
                 QVERIFY(edit.watermark().id != editedId);
         }
-        // The small clip keeps its left and right edges, not its top and bottom.
-        QCOMPARE(list.byId(small)->item(0)->edit.cropTop, crop ? 20 : 0);
-        QCOMPARE(list.byId(small)->item(0)->edit.cropLeft, 0);
+        QCOMPARE(got, QStringList({clip + rest, (crop ? u"100|50|20|1|"_s : u"0|0|0|0|"_s) + rest,
+                                   clip + rest}));
         QCOMPARE(values.watermark().id, editedId);
         QCOMPARE(values.enabledEffects(), std::vector<int>{6});
-    }
-
-    void commonRoot()
-    {
-        TaskList list(&catalogue);
-        list.addFile(mp4, fixture(fixtures, "clip.mp4"));
-        list.updateCommonRoot();
-        QCOMPARE(list.commonRootPath(), QDir::cleanPath(fixtures));
-        list.addTitle(mp4, *mainDisc->titles[0], 1, 1);
-        list.updateCommonRoot();
-        QCOMPARE(list.commonRootPath(), QDir::cleanPath(fixtures));
-
-        TaskList discOnly(&catalogue);
-        discOnly.addTitle(mp4, *mainDisc->titles[0], 1, 1);
-        discOnly.addTitle(mp4, *mainDisc->titles[1], 2, 1);
-        discOnly.updateCommonRoot();
-        QCOMPARE(discOnly.commonRootPath(), QFileInfo(mainDisc->path).path());
-        discOnly.clear();
-        discOnly.updateCommonRoot();
-        QVERIFY(discOnly.commonRootPath().isEmpty());
-    }
-
-    void addedAudioFile()
-    {
-        TaskList list(&catalogue);
-        const int id = list.addFile(mp4, fixture(fixtures, "clip.mp4"));
-        EditParameters &edit = list.byId(id)->item(0)->edit;
-        const int added = edit.addAudioFile(fixture(fixtures, "tone.flac"));
-        AudioStreamInfo stream;
-        QVERIFY(EditParameters::loadAudioInfo(*edit.audioTracks[size_t(added)], stream));
-        QCOMPARE(stream.codec, QStringLiteral("flac"));
-        QCOMPARE(stream.sampleRate, 44100);
-        QVERIFY(edit.audioTracks[size_t(added)]->infoLoaded);
-        // A file without sound is not taken.
-        const int silent = edit.addAudioFile(fixture(fixtures, "picture.png"));
-        QVERIFY(!EditParameters::loadAudioInfo(*edit.audioTracks[size_t(silent)], stream));
     }
 };
 
