@@ -3,10 +3,12 @@
 #include "dvddisc.h"
 #include "mediafixtures.h"
 #include "profilelookup.h"
+#include "tasklist.h"
 
 #include <QHash>
 #include <QStringList>
 #include <QTest>
+#include <QVariant>
 
 // The fixture folder and its two discs: the main one with titles of PGC 0
 // (4.8 s), 1 (2.4 s) and 6, the NTSC one with one 16:9 title of 3 s.
@@ -25,6 +27,15 @@ struct FixtureDiscs
         QVERIFY(main && main->titles.size() == 3 && ntsc && ntsc->titles.size() == 1);
     }
     QString file(const char *name) const { return fixture(dir, name); }
+    // A task of "m0".."m2", a title of the main disc, of "n", the NTSC title
+    // (as title 1 of disc 2), else of a file by its name here or its path.
+    int add(TaskList &list, const QString &profile, const QString &what) const
+    {
+        const int i = what.mid(1).toInt();
+        return what == QLatin1String("n") ? list.addTitle(profile, *ntsc->titles[0], 1, 2)
+               : what.size() == 2 ? list.addTitle(profile, *main->titles[size_t(i)], i + 1, 1)
+                                  : list.addFile(profile, QDir(dir).filePath(what));
+    }
 };
 
 // Profile answers from a table of "group,id" to "FileName ExtName".
@@ -47,18 +58,9 @@ private:
     QHash<QString, QString> entries;
 };
 
-inline QString joinedText(const QString &value)
-{
-    return value;
-}
-template<typename T>
-QString joinedText(T value)
-{
-    return QString::number(value);
-}
 // Many values in one line, for one comparison.
 template<typename... T>
 QString joined(const T &...values)
 {
-    return QStringList{joinedText(values)...}.join(QLatin1Char('|'));
+    return QStringList{QVariant::fromValue(values).toString()...}.join(QLatin1Char('|'));
 }

@@ -30,7 +30,7 @@ QString layout(const TaskList &list)
         ids << QString::number(list.at(i)->id);
     for (const TaskList::DiscRange &range : list.ranges())
         ranges << u"%1-%2"_s.arg(range.start).arg(range.end);
-    return ids.join(u' ') + u" / "_s + ranges.join(u' ');
+    return ids.join(u' ') + u'/' + ranges.join(u' ');
 }
 
 } // namespace
@@ -45,21 +45,10 @@ private:
     FixedCatalogue catalogue{
         {{u"1,68"_s, u"mp4.xml mp4"_s}, {u"0,1000"_s, u"user/Mine.xml mkv"_s}}};
 
-    // Adds by letters: m0..m2 the main disc's titles, n the NTSC title,
-    // c, t, v the clip, the tone and the movie.
-    void fill(TaskList &list, const QString &letters)
+    void fill(TaskList &list, const QString &names)
     {
-        for (const QString &what : letters.split(u' ')) {
-            const int i = what.mid(1).toInt();
-            const char *file = what == u"c"_s   ? "clip.mp4"
-                               : what == u"t"_s ? "tone.flac"
-                                                : "movie.mkv";
-            const int id = what == u"n"_s ? list.addTitle(mp4, *discs.ntsc->titles[0], 4, 2)
-                           : what[0] == u'm'
-                               ? list.addTitle(mp4, *discs.main->titles[size_t(i)], i + 1, 1)
-                               : list.addFile(mp4, discs.file(file));
-            QVERIFY(id >= 0);
-        }
+        for (const QString &what : names.split(u' '))
+            QVERIFY(discs.add(list, mp4, what) >= 0);
     }
 
 private slots:
@@ -83,7 +72,7 @@ private slots:
               // the crop leaves less than 16 pixels
               "64x48 0 30,0,30,0 Keep_Original 640*480 = 240|0|240|0|160|480",
               "720x576 4/3 0 Keep_Original Auto(Same as source) = 0|0|0|0|768|576",
-              // pixels that are not square Keep_Original the picture's shape
+              // pixels that are not square keep the picture's shape
               "720x576 16/9 0 Keep_Original 640*480 = 0|60|0|60|640|360",
               "720x576 16/9 45,0,45,0 Keep_Original 640*480 = 0|34|0|34|640|412",
               "720x576 4/3 0 Keep_Original 1280*720 = 160|0|160|0|960|720",
@@ -255,7 +244,7 @@ private slots:
         const EditParameters &edit = child.edit;
         QCOMPARE(joined(edit.trimStart, edit.cropTop + edit.rotation, edit.hasWatermark(),
                         edit.audioTracks.size(), edit.subtitles.size(), edit.selectedAudioStream()),
-                 u"3|0|0|2|1|0"_s);
+                 u"3|0|false|2|1|0"_s);
     }
 
     void files()
@@ -280,10 +269,10 @@ private slots:
                         child->title, edit.zoomMode, edit.audioTracks[1]->text(),
                         edit.audioTracks.size(), edit.selectedAudioStream(), edit.subtitles.size(),
                         edit.anySubtitleSelected()),
-                 movie + u"|mp4.xml|movie.mp4|movie|Keep Original|ac3 (fre)|2|0|1|0"_s);
+                 movie + u"|mp4.xml|movie.mp4|movie|Keep Original|ac3 (fre)|2|0|1|false"_s);
         QCOMPARE(joined(tone->output.fileName, tone->output.profileFile, tone->hasVideoInput(),
                         layout(list)),
-                 u"tone.mkv|user/Mine.xml|0|0 1 / "_s);
+                 u"tone.mkv|user/Mine.xml|false|0 1/"_s);
         list.updateCommonRoot();
         QCOMPARE(list.commonRootPath(), QDir::cleanPath(discs.dir));
         // An added sound file is read; a picture has no sound to read.
@@ -293,9 +282,14 @@ private slots:
         QVERIFY(EditParameters::loadAudioInfo(*edited.audioTracks[size_t(added)], stream));
         QCOMPARE(
             joined(stream.codec, stream.sampleRate, edited.audioTracks[size_t(added)]->infoLoaded),
-            u"flac|44100|1"_s);
+            u"flac|44100|true"_s);
         const int silent = edited.addAudioFile(discs.file("picture.png"));
         QVERIFY(!EditParameters::loadAudioInfo(*edited.audioTracks[size_t(silent)], stream));
+        // Ids go on counting after a clear.
+        list.clear();
+        list.updateCommonRoot();
+        QCOMPARE(layout(list) + list.commonRootPath(), u"/"_s);
+        QCOMPARE(list.addFile(mp4, movie), 2);
     }
 
     void titles()
@@ -306,7 +300,7 @@ private slots:
         QCOMPARE(discOnly.commonRootPath(), QFileInfo(discs.main->path).path());
 
         TaskList list(&catalogue);
-        fill(list, u"m0 m1 m2 c n"_s);
+        fill(list, u"m0 m1 m2 clip.mp4 n"_s);
         list.updateCommonRoot();
         QCOMPARE(list.commonRootPath(), QDir::cleanPath(discs.dir));
         const ChildTask *first = list.at(0)->item(0), *ntsc = list.at(4)->item(0);
@@ -320,7 +314,7 @@ private slots:
                         list.at(2)->item(0)->pgcIndex),
                  joined(discs.main->path, u"AC3 (%1)"_s.arg(title0.audioNames[0]),
                         title0.subtitleNames[0])
-                     + u"|Title_1|Title_1.mp4|4:3|Title_3|Title_4|16:9|2|1|1|6"_s);
+                     + u"|Title_1|Title_1.mp4|4:3|Title_3|Title_1|16:9|2|1|1|6"_s);
 
         // A title of another aspect keeps the picture as it is.
         DvdDisc wide;
@@ -334,21 +328,21 @@ private slots:
         title.range->end = 2.0;
         const int id = list.addTitle(mp4, title, 5, 3);
         QCOMPARE(list.byId(id)->item(0)->edit.zoomMode, u"Keep Original"_s);
-        QCOMPARE(layout(list), u"0 1 2 3 4 5 / 0-3 4-5 5-6"_s);
+        QCOMPARE(layout(list), u"0 1 2 3 4 5/0-3 4-5 5-6"_s);
     }
 
     // The rows of the list: a disc's titles make one row, a loose task one.
     void rows_data()
     {
-        // letters of fill() = the layout; rangeAtRow and positionAtRow of the rows
+        // tasks of fill() = the layout; rangeAtRow and positionAtRow of the rows
         QTest::addColumn<QString>("rows");
         QTest::newRow("disc, file, disc")
-            << u"m0 m1 m2 c n = 0 1 2 3 4 / 0-3 4-5; 0 -1 1 -1; 0 3 4 -1"_s;
+            << u"m0 m1 m2 clip.mp4 n = 0 1 2 3 4/0-3 4-5; 0 -1 1 -1; 0 3 4 -1"_s;
         // A title of the last disc behind a loose task starts a range of its own.
         QTest::newRow("same disc after a file")
-            << u"m0 c m1 = 0 1 2 / 0-1 2-3; 0 -1 1 -1; 0 1 2 -1"_s;
+            << u"m0 clip.mp4 m1 = 0 1 2/0-1 2-3; 0 -1 1 -1; 0 1 2 -1"_s;
         QTest::newRow("loose tasks around a disc")
-            << u"c m0 m1 t v = 0 1 2 3 4 / 1-3; -1 0 -1 -1 -1; 0 1 3 4 -1"_s;
+            << u"clip.mp4 m0 m1 tone.flac movie.mkv = 0 1 2 3 4/1-3; -1 0 -1 -1 -1; 0 1 3 4 -1"_s;
     }
 
     void rows()
@@ -366,54 +360,44 @@ private slots:
         QCOMPARE(list.rangeAtRow(-1) + list.positionAtRow(-1), -2);
     }
 
-    void removeKeepsRanges()
+    // Edits by a script: r removes a task, u and d move a row's range up or
+    // down, U and D a task (their answers follow the layout after "=").
+    void edits_data()
     {
-        TaskList list(&catalogue);
-        fill(list, u"m0 m1 m2 c n"_s);
-        list.remove(42);
-        list.remove(1); // inside the first range
-        QCOMPARE(layout(list), u"0 2 3 4 / 0-2 3-4"_s);
-        list.remove(3); // the loose file
-        QCOMPARE(layout(list), u"0 2 4 / 0-2 2-3"_s);
-        list.remove(4); // the whole second range
-        QCOMPARE(layout(list), u"0 2 / 0-2"_s);
-        list.remove(0);
-        QCOMPARE(layout(list), u"2 / 0-1"_s);
-        list.remove(2);
-        QCOMPARE(layout(list), u" / "_s);
-        // Ids go on counting after a clear.
-        fill(list, u"m0 m1 m2 c n"_s);
-        list.clear();
-        list.updateCommonRoot();
-        QCOMPARE(layout(list) + list.commonRootPath(), u" / "_s);
-        QCOMPARE(list.addFile(mp4, discs.file("clip.mp4")), 10);
+        QTest::addColumn<QString>("script");
+        QTest::newRow("removals keep the ranges")
+            << u"m0 m1 m2 clip.mp4 n: r42 r1 = 0 2 3 4/0-2 3-4; r3 = 0 2 4/0-2 2-3; r4 = 0 2/0-2; "
+               u"r0 = 2/0-1; r2 = /"_s;
+        // The file's row is no range to move.
+        QTest::newRow("range moves")
+            << u"m0 m1 m2 n clip.mp4: u2 u0 = 0 1 2 3 4/0-3 3-4; u1 = 3 0 1 2 4/0-1 1-4; "
+               u"d0 = 0 1 2 3 4/0-3 3-4"_s;
+        // An unknown id, the first task up, the last one down.
+        QTest::newRow("task moves")
+            << u"clip.mp4 tone.flac movie.mkv: U2 = 0 2 1/ 0; D0 = 2 0 1/ 0; "
+               u"U7 U2 D1 = 2 0 1/ -1 -1 -1"_s;
     }
 
-    void moves()
+    void edits()
     {
+        QFETCH(QString, script);
         TaskList list(&catalogue);
-        fill(list, u"m0 m1 m2 n c"_s);
-        list.moveRangeUp(2); // the file's row: nothing happens
-        list.moveRangeUp(0);
-        QCOMPARE(layout(list), u"0 1 2 3 4 / 0-3 3-4"_s);
-        list.moveRangeUp(1);
-        QCOMPARE(layout(list), u"3 0 1 2 4 / 0-1 1-4"_s);
-        list.moveRangeDown(0);
-        QCOMPARE(layout(list), u"0 1 2 3 4 / 0-3 3-4"_s);
-
-        TaskList files(&catalogue);
-        fill(files, u"c t v"_s);
-        QCOMPARE(files.moveTaskUp(2), 0);
-        QCOMPARE(layout(files), u"0 2 1 / "_s);
-        QCOMPARE(files.moveTaskDown(0), 0);
-        QCOMPARE(layout(files), u"2 0 1 / "_s);
-        // An unknown id, the first task up, the last one down.
-        QCOMPARE(files.moveTaskUp(7) + files.moveTaskUp(2) + files.moveTaskDown(1), -3);
-        QVERIFY(!files.firstInState(Task::Waiting));
-        files.byId(0)->setState(Task::Waiting);
-        files.byId(1)->setState(Task::Waiting);
-        QCOMPARE(files.firstInState(Task::Waiting)->id, 0);
-        QCOMPARE(files.firstInState(Task::Idle)->id, 2);
+        fill(list, script.section(u": "_s, 0, 0));
+        for (const QString &step : script.section(u": "_s, 1).split(u"; "_s)) {
+            QStringList got{layout(list)};
+            for (const QString &op : step.section(u" = "_s, 0, 0).split(u' ')) {
+                const int n = op.mid(1).toInt();
+                if (op[0] == u'U' || op[0] == u'D')
+                    got << QString::number(op[0] == u'U' ? list.moveTaskUp(n)
+                                                         : list.moveTaskDown(n));
+                else if (op[0] == u'r')
+                    list.remove(n);
+                else
+                    op[0] == u'u' ? list.moveRangeUp(n) : list.moveRangeDown(n);
+            }
+            got[0] = layout(list);
+            QCOMPARE(got.join(u' '), step.section(u" = "_s, 1));
+        }
     }
 
     void clones()
@@ -424,14 +408,17 @@ private slots:
         list.byId(0)->item(0)->edit.watermark().text = u"mark"_s;
         QCOMPARE(list.clone(9), -1);
         const int copyId = list.clone(0);
-        QCOMPARE(layout(list), u"0 1 / 0-1"_s);
+        QCOMPARE(layout(list), u"0 1/0-1"_s);
 
         Task *copy = list.byId(copyId);
         Task *original = list.byId(0);
         QCOMPARE(copy->state, Task::Idle);
+        QVERIFY(!list.firstInState(Task::Waiting));
+        QCOMPARE(list.firstInState(Task::Idle), copy);
+        QCOMPARE(list.firstInState(Task::Succeed), original);
         QCOMPARE(joined(copy->item(0)->owner == copy, copy->output.fileName,
                         copy->item(0)->edit.watermark().text),
-                 u"1|Title_1.mp4|mark"_s);
+                 u"true|Title_1.mp4|mark"_s);
 
         EditParameters &edit = copy->item(0)->edit;
         edit.cropLeft = 8;
@@ -444,11 +431,11 @@ private slots:
         QCOMPARE(joined(kept.cropLeft, kept.zoomMode, kept.watermark().text,
                         kept.subtitles[0]->color.name(), kept.audioTracks[1]->selected,
                         original->value(u"s"_s)),
-                 u"0|4:3|mark|#ffffff|0|"_s);
+                 u"0|4:3|mark|#ffffff|false|"_s);
 
         // Removing the original keeps the copy and the copy stays loose.
         list.remove(0);
-        QCOMPARE(layout(list), u"1 / "_s);
+        QCOMPARE(layout(list), u"1/"_s);
         QCOMPARE(list.byId(copyId)->item(0)->edit.watermark().text, u"other"_s);
     }
 
@@ -461,7 +448,7 @@ private slots:
         Task *merged = list.byId(merge);
         QCOMPARE(
             joined(merged->name, merged->output.fileName, layout(list), merged->hasVideoInput()),
-            u"Merge 1|Merge 1.mp4|0 1 2 / 1-2|0"_s);
+            u"Merge 1|Merge 1.mp4|0 1 2/1-2|false"_s);
 
         QCOMPARE(list.addToMerge(file, merge), 1000);
         QCOMPARE(list.addToMerge(title, merge), 1001);
@@ -469,7 +456,7 @@ private slots:
         // The sources stay.
         QCOMPARE(joined(list.count(), merged->itemCount(), merged->item(1)->pgcIndex,
                         merged->hasVideoInput()),
-                 u"3|2|1|1"_s);
+                 u"3|2|1|true"_s);
         QCOMPARE(merged->item(0)->owner, merged);
         QCOMPARE(merged->totalDuration(false),
                  list.byId(file)->totalDuration(false) + list.byId(title)->totalDuration(false));
@@ -502,7 +489,7 @@ private slots:
         QFETCH(bool, image);
         QFETCH(bool, watermark);
         TaskList list(&catalogue);
-        fill(list, u"m0 c"_s); // 720x576 and 160x120
+        fill(list, u"m0 clip.mp4"_s); // 720x576 and 160x120
         const int merge = list.addMerge(mp4);
         list.addToMerge(0, merge);
         list.addToMerge(1, merge);
@@ -521,7 +508,7 @@ private slots:
 
         // The small clip keeps its left and right edges, not its top and bottom.
         const QString rest = joined(image ? 25 : 0, 0, watermark ? u"mark"_s : QString());
-        const QString clip = crop ? u"0|0|20|1|"_s : u"0|0|0|0|"_s;
+        const QString clip = crop ? u"0|0|20|true|"_s : u"0|0|0|false|"_s;
         QStringList got;
         for (const ChildTask *child :
              {list.byId(1)->item(0), list.byId(merge)->item(0), list.byId(merge)->item(1)}) {
@@ -532,8 +519,9 @@ private slots:
             if (watermark) // a copy of the entry, under a new identity
                 QVERIFY(edit.watermark().id != editedId);
         }
-        QCOMPARE(got, QStringList({clip + rest, (crop ? u"100|50|20|1|"_s : u"0|0|0|0|"_s) + rest,
-                                   clip + rest}));
+        QCOMPARE(got,
+                 QStringList({clip + rest, (crop ? u"100|50|20|true|"_s : u"0|0|0|false|"_s) + rest,
+                              clip + rest}));
         QCOMPARE(values.watermark().id, editedId);
         QCOMPARE(values.enabledEffects(), std::vector<int>{6});
     }
