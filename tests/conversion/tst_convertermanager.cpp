@@ -4,7 +4,6 @@
 #include "processtools.h"
 #include "sanitizerreports.h"
 #include "settings.h"
-#include "tasklist.h"
 #include "timetracker.h"
 
 #include <QElapsedTimer>
@@ -19,17 +18,6 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 const QString profile = u"1,68"_s;
-
-// The profile values the command line reads, as a small, cheap output.
-void setCheapOutput(Task &task, bool video)
-{
-    task.output.settings.clear();
-    for (const QString &pair :
-         u"s=160*120 vcodec=mpeg4 b=200 r=25 acodec=mp2 ab=64 ar=44100 ac=2"_s.split(u' ')) {
-        if (video || pair.startsWith(u'a'))
-            task.output.settings.insert(pair.section(u'=', 0, 0), pair.section(u'=', 1));
-    }
-}
 
 // Each task's state by a letter, in list order.
 QString states(const TaskList &list)
@@ -109,12 +97,16 @@ private:
     QString outputDir;
     QString pacedFfmpeg;
 
-    // A task of FixtureDiscs::add(), with a cheap output.
+    // A task of FixtureDiscs::add(), with a small, cheap output.
     int add(TaskList &list, const QString &what, bool video = true)
     {
         const int id = discs.add(list, profile, what);
-        if (id >= 0)
-            setCheapOutput(*list.byId(id), video);
+        Task *task = list.byId(id);
+        for (const QString &pair :
+             u"s=160*120 vcodec=mpeg4 b=200 r=25 acodec=mp2 ab=64 ar=44100 ac=2"_s.split(u' ')) {
+            if (task && (video || pair.startsWith(u'a')))
+                task->output.settings.insert(pair.section(u'=', 0, 0), pair.section(u'=', 1));
+        }
         return id;
     }
 

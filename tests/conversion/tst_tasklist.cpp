@@ -1,9 +1,7 @@
 #include "fixturediscs.h"
-#include "tasklist.h"
 #include "utils.h"
 
 #include <QTemporaryDir>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -113,30 +111,26 @@ private slots:
 
     void outputSize_data()
     {
+        // The profile's size (none: audio only) = the picture size; a size that
+        // is no usable size gives no picture size at all rather than a wrong one.
         QTest::addColumn<QString>("size");
-        QTest::addColumn<QSize>("expected");
-        const QSize none(0, 0);
-        QTest::newRow("audio only") << QString() << none;
-        QTest::newRow("plain") << "640*480" << QSize(640, 480);
-        QTest::newRow("with a label") << "320*240(QVGA)" << QSize(320, 240);
-        QTest::newRow("auto, 16:9 source") << "Auto" << QSize(1024, 576);
-        QTest::newRow("auto with a label") << "Auto(Original)" << QSize(1024, 576);
-        QTest::newRow("x between the sides") << " 320x240 " << QSize(320, 240);
-        // No usable size: no picture size at all rather than a wrong one.
-        for (const char *bad : {"0*240", "-320x240", "99999999999x2", "20000x20000", "big"})
-            QTest::newRow(bad) << bad << none;
+        for (const char *row :
+             {" = 0x0", "640*480 = 640x480", "320*240(QVGA) = 320x240", "Auto = 1024x576",
+              "Auto(Original) = 1024x576", " 320x240  = 320x240", "0*240 = 0x0", "-320x240 = 0x0",
+              "99999999999x2 = 0x0", "20000x20000 = 0x0", "big = 0x0"})
+            QTest::newRow(row) << QString::fromLatin1(row);
     }
 
     void outputSize()
     {
         QFETCH(QString, size);
-        QFETCH(QSize, expected);
         Task task;
-        if (!size.isEmpty())
-            task.output.settings.insert(u"s"_s, size);
+        if (!size.startsWith(u" = "_s))
+            task.output.settings.insert(u"s"_s, size.section(u" = "_s, 0, 0));
         task.items.push_back(videoInput(720, 576));
         task.items.back()->displayAspect = 16.0 / 9.0;
-        QCOMPARE(task.outputSize(), expected);
+        const QSize got = task.outputSize();
+        QCOMPARE(u"%1x%2"_s.arg(got.width()).arg(got.height()), size.section(u" = "_s, 1));
     }
 
     void estimatedSize()
@@ -158,7 +152,7 @@ private slots:
     void durations()
     {
         Task task;
-        QVERIFY(task.totalDuration(false) == 0.0 && !task.hasVideoInput());
+        QCOMPARE(joined(task.totalDuration(false), task.hasVideoInput()), u"0|false"_s);
         task.items.push_back(videoInput(320, 240, 100.0));
         task.items.push_back(videoInput(320, 240, 20.0));
         task.items[0]->edit.trimStart = 10.0;
@@ -167,9 +161,8 @@ private slots:
         task.items[1]->edit.convertEnd = 20.0;
         task.setChecked(false, 1);
         QCOMPARE(joined(task.totalDuration(false), task.totalDuration(true), task.trimmedDuration(),
-                        task.convertDuration(), task.trimmedDurationText()),
-                 u"120|100|50|40|"_s + Utils::durationText(50.0));
-        QVERIFY(task.hasVideoInput());
+                        task.convertDuration(), task.hasVideoInput(), task.trimmedDurationText()),
+                 u"120|100|50|40|true|"_s + Utils::durationText(50.0));
     }
 
     void children()
@@ -183,8 +176,7 @@ private slots:
         QCOMPARE(task.item(0)->owner, &task);
         // Contents and ids move together.
         QCOMPARE(task.moveItemUp(2), 0);
-        QCOMPARE(task.item(1)->id, 1002);
-        QCOMPARE(task.item(1)->sourcePath, u"/video/c.mkv"_s);
+        QCOMPARE(joined(task.item(1)->id, task.item(1)->sourcePath), u"1002|/video/c.mkv"_s);
         QCOMPARE(task.moveItemDown(0), 0);
         QCOMPARE(task.displayPath(0), u"/video/c.mkv"_s);
         QCOMPARE(task.moveItemUp(3) + task.moveItemDown(-1), -2);
@@ -257,8 +249,8 @@ private slots:
         QCOMPARE(list.addTitle(mp4, empty, 1, 1), -1);
         // No id was used up.
         const QString movie = discs.file("movie.mkv");
-        QCOMPARE(list.addFile(mp4, movie), 0);
-        QCOMPARE(list.addFile(u"0,1000"_s, discs.file("tone.flac")), 1);
+        QVERIFY(list.addFile(mp4, movie) == 0
+                && list.addFile(u"0,1000"_s, discs.file("tone.flac")) == 1);
         const Task *task = list.byId(0), *tone = list.byId(1);
         const ChildTask *child = task->item(0);
         const EditParameters &edit = child->edit;
@@ -277,12 +269,10 @@ private slots:
         QCOMPARE(list.commonRootPath(), QDir::cleanPath(discs.dir));
         // An added sound file is read; a picture has no sound to read.
         EditParameters &edited = list.byId(0)->item(0)->edit;
-        const int added = edited.addAudioFile(discs.file("tone.flac"));
+        auto &added = *edited.audioTracks[size_t(edited.addAudioFile(discs.file("tone.flac")))];
         AudioStreamInfo stream;
-        QVERIFY(EditParameters::loadAudioInfo(*edited.audioTracks[size_t(added)], stream));
-        QCOMPARE(
-            joined(stream.codec, stream.sampleRate, edited.audioTracks[size_t(added)]->infoLoaded),
-            u"flac|44100|true"_s);
+        QVERIFY(EditParameters::loadAudioInfo(added, stream));
+        QCOMPARE(joined(stream.codec, stream.sampleRate, added.infoLoaded), u"flac|44100|true"_s);
         const int silent = edited.addAudioFile(discs.file("picture.png"));
         QVERIFY(!EditParameters::loadAudioInfo(*edited.audioTracks[size_t(silent)], stream));
         // Ids go on counting after a clear.
@@ -331,40 +321,21 @@ private slots:
         QCOMPARE(layout(list), u"0 1 2 3 4 5/0-3 4-5 5-6"_s);
     }
 
-    // The rows of the list: a disc's titles make one row, a loose task one.
-    void rows_data()
-    {
-        // tasks of fill() = the layout; rangeAtRow and positionAtRow of the rows
-        QTest::addColumn<QString>("rows");
-        QTest::newRow("disc, file, disc")
-            << u"m0 m1 m2 clip.mp4 n = 0 1 2 3 4/0-3 4-5; 0 -1 1 -1; 0 3 4 -1"_s;
-        // A title of the last disc behind a loose task starts a range of its own.
-        QTest::newRow("same disc after a file")
-            << u"m0 clip.mp4 m1 = 0 1 2/0-1 2-3; 0 -1 1 -1; 0 1 2 -1"_s;
-        QTest::newRow("loose tasks around a disc")
-            << u"clip.mp4 m0 m1 tone.flac movie.mkv = 0 1 2 3 4/1-3; -1 0 -1 -1 -1; 0 1 3 4 -1"_s;
-    }
-
-    void rows()
-    {
-        QFETCH(QString, rows);
-        TaskList list(&catalogue);
-        fill(list, rows.section(u" = "_s, 0, 0));
-        QStringList range, position;
-        for (int row = 0; row < 9 && (row == 0 || position.last() != u"-1"_s); ++row) {
-            range << QString::number(list.rangeAtRow(row));
-            position << QString::number(list.positionAtRow(row));
-        }
-        QCOMPARE(QStringList({layout(list), range.join(u' '), position.join(u' ')}).join(u"; "_s),
-                 rows.section(u" = "_s, 1));
-        QCOMPARE(list.rangeAtRow(-1) + list.positionAtRow(-1), -2);
-    }
-
     // Edits by a script: r removes a task, u and d move a row's range up or
-    // down, U and D a task (their answers follow the layout after "=").
+    // down, U and D a task; their answers follow the layout after "=", as do
+    // R's rows: rangeAtRow and positionAtRow from row -1 to one past the end.
     void edits_data()
     {
         QTest::addColumn<QString>("script");
+        // A disc's titles make one row, a loose task one.
+        QTest::newRow("rows: disc, file, disc")
+            << u"m0 m1 m2 clip.mp4 n: R = 0 1 2 3 4/0-3 4-5 -1,0,-1,1,-1 -1,0,3,4,-1"_s;
+        // A title of the last disc behind a loose task starts a range of its own.
+        QTest::newRow("rows: same disc after a file")
+            << u"m0 clip.mp4 m1: R = 0 1 2/0-1 2-3 -1,0,-1,1,-1 -1,0,1,2,-1"_s;
+        QTest::newRow("rows: loose tasks around a disc")
+            << u"clip.mp4 m0 m1 tone.flac movie.mkv: R = 0 1 2 3 4/1-3 -1,-1,0,-1,-1,-1 "
+               u"-1,0,1,3,4,-1"_s;
         QTest::newRow("removals keep the ranges")
             << u"m0 m1 m2 clip.mp4 n: r42 r1 = 0 2 3 4/0-2 3-4; r3 = 0 2 4/0-2 2-3; r4 = 0 2/0-2; "
                u"r0 = 2/0-1; r2 = /"_s;
@@ -387,7 +358,14 @@ private slots:
             QStringList got{layout(list)};
             for (const QString &op : step.section(u" = "_s, 0, 0).split(u' ')) {
                 const int n = op.mid(1).toInt();
-                if (op[0] == u'U' || op[0] == u'D')
+                if (op == u"R"_s) {
+                    QStringList range, position;
+                    for (int row = -1; row < 9 && (row < 1 || position.last() != u"-1"_s); ++row) {
+                        range << QString::number(list.rangeAtRow(row));
+                        position << QString::number(list.positionAtRow(row));
+                    }
+                    got << range.join(u',') << position.join(u',');
+                } else if (op[0] == u'U' || op[0] == u'D')
                     got << QString::number(op[0] == u'U' ? list.moveTaskUp(n)
                                                          : list.moveTaskDown(n));
                 else if (op[0] == u'r')
