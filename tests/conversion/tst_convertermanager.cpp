@@ -113,9 +113,7 @@ private:
     // A task of `seconds` to convert, in `state`, with `progress` done.
     Task *addTask(TaskList &list, double seconds, Task::EState state, double progress)
     {
-        Task *task = list.byId(list.addFile(profile, discs.file("clip.mp4")));
-        if (!task)
-            return nullptr;
+        Task *task = list.byId(add(list, u"clip.mp4"_s)); // the fixtures are there
         task->items.front()->edit.trimStart = 1.0;
         task->items.front()->edit.convertEnd = 1.0 + seconds;
         task->setState(state);
@@ -145,7 +143,6 @@ private slots:
     {
         TaskList list;
         Task *task = addTask(list, 10, Task::Idle, 0);
-        QVERIFY(task);
         TimeTracker::stateChanged(list, 0, Task::Running);
         QTest::qSleep(30);
         TimeTracker::stateChanged(list, 0, Task::Paused);
@@ -170,10 +167,9 @@ private slots:
     {
         // No task out of Idle: nothing; and a second done is too early to say.
         TaskList early;
-        QVERIFY(addTask(early, 10, Task::Idle, 0));
+        addTask(early, 10, Task::Idle, 0);
         QCOMPARE(figuresText(early), u"false|0|0|0|0|0"_s);
         Task *started = addTask(early, 10, Task::Running, 1.0);
-        QVERIFY(started);
         QCOMPARE(figuresText(early), u"false|0|1|10|0|%1"_s.arg(runFor(*started, 10)));
 
         TaskList list;
@@ -182,7 +178,6 @@ private slots:
         Task *failed = addTask(list, 30, Task::Failed, 4.0); // counts only what it did
         Task *running = addTask(list, 20.5, Task::Running, 5.0);
         Task *waiting = addTask(list, 6, Task::Waiting, 0);
-        QVERIFY(idle && done && failed && running && waiting);
         runFor(*idle, 30);
         const qint64 ran = runFor(*running, 25);
         const qint64 elapsed = runFor(*done, 30) + runFor(*failed, 20) + ran;
@@ -315,15 +310,13 @@ private slots:
 
         // A task's own start runs it beyond the limit; closing the program ends
         // the encoders with the manager.
-        QList<qint64> tree;
-        {
-            ConverterManager closing(&list);
-            closing.setMaxProcesses(0);
-            closing.startTask(3);
-            QCOMPARE(list.byId(3)->state, Task::Running);
-            QTRY_VERIFY_WITH_TIMEOUT((tree = processTree(closing.processId(3))).size() >= 2, 10000);
-        }
-        for (qint64 pid : tree)
+        auto closing = std::make_unique<ConverterManager>(&list);
+        closing->setMaxProcesses(0);
+        closing->startTask(3);
+        QCOMPARE(list.byId(3)->state, Task::Running);
+        QTRY_VERIFY_WITH_TIMEOUT((all = processTree(closing->processId(3))).size() >= 2, 10000);
+        closing.reset();
+        for (qint64 pid : all)
             QTRY_VERIFY_WITH_TIMEOUT(QByteArrayLiteral("?Z").contains(processState(pid)), 5000);
     }
 

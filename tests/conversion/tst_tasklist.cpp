@@ -102,11 +102,6 @@ private slots:
         QCOMPARE(joined(edit.padLeft, edit.padTop, edit.padRight, edit.padBottom, edit.innerWidth,
                         edit.innerHeight),
                  frame.section(u" = "_s, 1));
-        QCOMPARE(edit.padLeft % 2 + edit.padTop % 2, 0);
-        if (size.size() == 2 && in[3] != u"Full_Screen"_s) // bars and picture fill the frame
-            QCOMPARE(QSize(edit.padLeft + edit.innerWidth + edit.padRight,
-                           edit.padTop + edit.innerHeight + edit.padBottom),
-                     task.outputSize());
     }
 
     void outputSize_data()
@@ -390,7 +385,6 @@ private slots:
 
         Task *copy = list.byId(copyId);
         Task *original = list.byId(0);
-        QCOMPARE(copy->state, Task::Idle);
         QVERIFY(!list.firstInState(Task::Waiting));
         QCOMPARE(list.firstInState(Task::Idle), copy);
         QCOMPARE(list.firstInState(Task::Succeed), original);
