@@ -1,13 +1,10 @@
 #pragma once
 
-#include "dvddisc.h"
-#include "mediafixtures.h"
+#include "mediafixtures.h" // and, with it, dvddisc.h and loadDisc()
 #include "profilelookup.h"
 #include "tasklist.h"
 
 #include <QHash>
-#include <QStringList>
-#include <QTest>
 #include <QVariant>
 
 // The fixture folder and its two discs: the main one with titles of PGC 0

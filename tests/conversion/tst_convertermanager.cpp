@@ -222,8 +222,7 @@ private slots:
         });
         manager.setMaxProcesses(2);
         manager.startAll();
-        QVERIFY(manager.isBatchActive());
-        QCOMPARE(manager.runningCount(), 2);
+        QCOMPARE(joined(manager.isBatchActive(), manager.runningCount()), u"true|2"_s);
         QTRY_VERIFY_WITH_TIMEOUT(allAtRest(list), 120000);
         QTest::qWait(50);
         QCOMPARE(watch.started, ids);
@@ -232,13 +231,13 @@ private slots:
                  qPrintable(QString::number(watch.mostProcesses)));
         QVERIFY(!manager.isBatchActive() && manager.runningCount() == 0);
 
-        // Outputs whole (+) in the output folder; the gone source's name stays
-        // reserved, empty (0): nothing is deleted behind the user.
+        // Outputs whole (+) in the output folder, their tasks unticked; the gone
+        // source leaves nothing (0).
         QString outputs;
         for (int id : ids) {
             const QFileInfo output(list.byId(id)->output.filePath);
-            QVERIFY(!list.byId(id)->isChecked());
             QCOMPARE(output.absolutePath(), QFileInfo(outputDir).absoluteFilePath());
+            QVERIFY(!list.byId(id)->isChecked());
             outputs += output.size() == 0 ? u'0' : output.size() > 1000 ? u'+' : u'-';
         }
         QCOMPARE(joined(states(list), signalled, outputs), u"SSFSSSSI|SSFSSSSI|++0++++"_s);
@@ -289,8 +288,7 @@ private slots:
 
         // A lower limit stands the first running encoders, and they stay so.
         manager.setMaxProcesses(2);
-        QCOMPARE(states(list), u"PPRW"_s);
-        QCOMPARE(manager.runningCount(), 3);
+        QCOMPARE(joined(states(list), manager.runningCount()), u"PPRW|3"_s);
         standing(1);
         manager.pauseAll();
         QCOMPARE(states(list), u"PPPW"_s);
@@ -303,10 +301,9 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(allAtRest(list), 10000);
         for (qint64 pid : all)
             QTRY_VERIFY_WITH_TIMEOUT(QByteArrayLiteral("?Z").contains(processState(pid)), 5000);
-        QCOMPARE(states(list), u"FFFI"_s);
-        QVERIFY(!list.byId(0)->isChecked() && list.byId(3)->isChecked());
-        QCOMPARE(watch.started.size(), 3);
-        QVERIFY(!manager.isBatchActive() && manager.runningCount() == 0);
+        QCOMPARE(joined(states(list), list.byId(0)->isChecked(), list.byId(3)->isChecked(),
+                        watch.started.size(), manager.isBatchActive(), manager.runningCount()),
+                 u"FFFI|false|true|3|false|0"_s);
 
         // A task's own start runs it beyond the limit; closing the program ends
         // the encoders with the manager.
@@ -334,12 +331,10 @@ private slots:
         // A task's length enters the figures at its start, so the batch figure
         // covers the whole batch only once the last task runs: the long input
         // goes last, so that half way lies there.
+        double content = 0.0; // seconds in all
         for (const QString &what : {u"m0"_s, u"movie.mkv"_s, u"clip.mp4"_s, longInput})
-            QVERIFY(add(list, what) >= 0);
-        const int last = list.at(3)->id;
-        double content = 0.0;
-        for (int i = 0; i < list.count(); ++i)
-            content += list.at(i)->trimmedDuration();
+            content += list.byId(add(list, what))->trimmedDuration();
+        const int last = 3;
 
         ConverterManager manager(&list);
         BatchWatch watch(manager, list);

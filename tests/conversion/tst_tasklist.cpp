@@ -414,9 +414,8 @@ private slots:
     void merges()
     {
         TaskList list(&catalogue);
-        const int file = list.addFile(mp4, discs.file("clip.mp4"));
-        const int title = list.addTitle(mp4, *discs.main->titles[1], 1, 1);
-        const int merge = list.addMerge(mp4);
+        fill(list, u"clip.mp4 m1"_s);
+        const int file = 0, title = 1, merge = list.addMerge(mp4);
         Task *merged = list.byId(merge);
         QCOMPARE(
             joined(merged->name, merged->output.fileName, layout(list), merged->hasVideoInput()),
