@@ -97,10 +97,9 @@ QString valueFor(const QString &name)
     return name.endsWith("_matrix"_L1) ? QStringList(64, u"16"_s).join(u',') : u"1"_s;
 }
 
-const char *const apartList
-    = "-y -ss 10 -t 5 -pgc 0 -audio_track 1 -subtitle -1 -i /d/VTS_01_0.IFO "
-      "-vf scale=480:320 -b:v 1000000 -vcodec libx264 -threads 2 -ab 128k "
-      "-ac 2 -ar 44100 -acodec libfaac -vol 512 /o/out.mp4";
+const char *const apartList = "-y -ss 10 -t 5 -pgc 0 -audio_track 1 -i /d/VTS_01_0.IFO "
+                              "-vf scale=480:320 -b:v 1000000 -vcodec libx264 -threads 2 -ab 128k "
+                              "-ac 2 -ar 44100 -acodec libfaac -vol 512 /o/out.mp4";
 
 // expected and absent: parts of ffmpeg's list, split at " | "
 const struct
@@ -108,7 +107,7 @@ const struct
     const char *name, *list, *expected, *absent = "", *note = "", *mode = "";
 } argumentsCases[] = {
     {"disc title",
-     "-y -ss 0 -pgc 0 -audio_track 0 -subtitle -1 -i /d/VIDEO_TS/VTS_01_0.IFO -vf scale=640:360,"
+     "-y -ss 0 -pgc 0 -audio_track 0 -i /d/VIDEO_TS/VTS_01_0.IFO -vf scale=640:360,"
      "pad=640:480:0:60 -b:v 1200000 -r 29.97 -vcodec mpeg4 -threads 4 -aspect 1.33333 -ab 192k "
      "-ac 2 -ar 44100 -acodec libfaac /v/Title_1.mp4",
      "-nostdin -y -probesize 50M -f mpeg -i pipe:3 -vf bwdif=mode=send_frame:deint=interlaced,"
@@ -394,13 +393,10 @@ private slots:
         // GPU); decoding options need an encoded video input, -vstats writes beside it.
         if (out.videoCodec == "h264_nvenc"_L1)
             return;
-        const QStringList input = words("-i clip.mkv -f lavfi -i sine=d=0.2 -c:v mpeg4 -c:a aac");
-        QVERIFY2(runTool(u"ffmpeg"_s,
-                         words("-nostdin -v error") + out.inputArgs + input
-                             + withFilters(out.preFilters) + words("-f null -"),
-                         &log, dir.path())
-                     == 0,
-                 log.constData());
+        const QStringList args = words("-nostdin -v error") + out.inputArgs
+                                 + words("-i clip.mkv -f lavfi -i sine=d=0.2 -c:v mpeg4 -c:a aac")
+                                 + withFilters(out.preFilters) + words("-f null -");
+        QVERIFY2(runTool(u"ffmpeg"_s, args, &log, dir.path()) == 0, log.constData());
     }
 
     void filterChains_data()
@@ -633,19 +629,15 @@ private slots:
         QTest::addColumn<QString>("list");    // %V the copied VIDEO_TS
         QTest::addColumn<bool>("whole");
         QTest::addColumn<QString>("said"); // lines split at '|'
-        const QString copied = u"-y -pgc 0 -audio_track 0 -subtitle -1 -i %V/VTS_01_0.IFO"_s;
+        const QString copied = u"-y -pgc 0 -audio_track 0 -i %V/VTS_01_0.IFO"_s;
         // clang-format off
         QTest::newRow("missing source") << "" << "-y -i %D/no-such.mkv" << false << "No such file";
-        QTest::newRow("pgc out of range")
-            << "" << "-y -pgc 99 -audio_track 0 -subtitle -1 -i %I" << false
-            << "cannot read title 99";
-        QTest::newRow("not a disc")
-            << "" << "-y -pgc 0 -audio_track 0 -subtitle -1 -i %D/VTS_01_0.IFO" << false
-            << "cannot read title 0";
+        QTest::newRow("pgc out of range") << "" << "-y -pgc 99 -i %I" << false << "cannot read title 99";
+        QTest::newRow("not a disc") << "" << "-y -pgc 0 -i %D/VTS_01_0.IFO" << false << "cannot read title 0";
         QTest::newRow("no such audio track")
-            << "" << "-y -pgc 0 -audio_track 7 -subtitle -1 -i %I" << false << "no audio track 7";
+            << "" << "-y -pgc 0 -audio_track 7 -i %I" << false << "no audio track 7";
         QTest::newRow("no such subtitle")
-            << "" << "-y -pgc 0 -audio_track 0 -subtitle 3 -i %I" << false << "no subtitle track 3";
+            << "" << "-y -pgc 0 -subtitle 3 -i %I" << false << "no subtitle track 3";
         // Without -y the user's own file stays as it is.
         QTest::newRow("existing file") << "" << "-i %F/clip.mp4" << false << "already exists";
         // The IFOs say there are 200 PGCs, which once crashed libdvdread.
