@@ -15,7 +15,7 @@
 #include <QTest>
 
 #include <csignal>
-#include <sys/resource.h>
+#include <sys/times.h>
 #include <unistd.h>
 
 extern "C" {
@@ -82,14 +82,10 @@ const struct
 // Values for options that ffmpeg takes no "1" for.
 QString valueFor(const QString &name)
 {
-    const char *const values[][2] = {{"pix_fmt", "yuv420p"},
-                                     {"qmax", "31"},
-                                     {"lmax", "3658"},
-                                     {"dc", "8"},
-                                     {"r", "25"},
-                                     {"ar", "44100"},
-                                     {"metadata", "title=a b"},
-                                     {"rc_override", "0,10,2"}};
+    // clang-format off
+    const char *const values[][2] = {{"pix_fmt", "yuv420p"}, {"qmax", "31"}, {"lmax", "3658"}, {"dc", "8"},
+        {"r", "25"}, {"ar", "44100"}, {"metadata", "title=a b"}, {"rc_override", "0,10,2"}};
+    // clang-format on
     for (const auto &value : values) {
         if (name == QLatin1String(value[0]))
             return QString::fromUtf8(value[1]);
@@ -197,22 +193,17 @@ const struct
      "-i pipe:3 -itsoffset -0.023220 -f nut -i pipe:4 | -map 0:v:0? -map 1:a:0 | -ss 10 | -t 5 | "
      "-c:v libx264 | -c:a copy /o/out.mp4",
      "-b:a | -ar | -af | 0:i:0x80", "", "file"},
-    // Sound in an ffmpeg of its own where that is sure to pay; "silent": the
-    // source has no sound.
-    {"title with sound", "-pgc 0 -audio_track 0 -i /d.IFO -acodec libfaac /o.mp4", "apart", "", "",
-     "apart"},
-    {"title without a track", "-pgc 0 -audio_track -1 -i /d.IFO -acodec libfaac /o.mp4", "together",
-     "", "", "apart"},
-    {"file with sound", "-i /a.mkv -acodec libfaac /o.mp4", "apart", "", "", "apart"},
-    {"file without sound", "-i /a.mkv -acodec libfaac /o.mp4", "together", "", "", "silent"},
-    {"share of the processor", "-cpu_percent 50 -i /a.mkv -acodec libfaac /o.mp4", "together", "",
-     "", "apart"},
-    {"two inputs", "-i /a.mkv -si -i /b.mkv -acodec libfaac /o.mp4", "together", "", "", "apart"},
-    {"no picture", "-i /a.mkv -vn -acodec libfaac /o.mp4", "together", "", "", "apart"},
-    {"no sound", "-i /a.mkv -an -acodec libfaac /o.mp4", "together", "", "", "apart"},
-    {"PCM is quick anyway", "-i /a.mkv -acodec pcm_s16le /o.dv", "together", "", "", "apart"},
-    {"WMA loses its block size in NUT", "-i /a.mkv -acodec wma7x /o.wmv", "together", "", "",
-     "apart"},
+    // Sound in an ffmpeg of its own where that is sure to pay, and never for a silent source.
+    {"title with sound", "-pgc 0 -audio_track 0 -i /d.IFO -acodec libfaac /o.mp4", "apart"},
+    {"title without a track", "-pgc 0 -audio_track -1 -i /d.IFO -acodec libfaac /o.mp4",
+     "together"},
+    {"file with sound", "-i /a.mkv -acodec libfaac /o.mp4", "apart"},
+    {"share of the processor", "-cpu_percent 50 -i /a.mkv -acodec libfaac /o.mp4", "together"},
+    {"two inputs", "-i /a.mkv -si -i /b.mkv -acodec libfaac /o.mp4", "together"},
+    {"no picture", "-i /a.mkv -vn -acodec libfaac /o.mp4", "together"},
+    {"no sound", "-i /a.mkv -an -acodec libfaac /o.mp4", "together"},
+    {"PCM is quick anyway", "-i /a.mkv -acodec pcm_s16le /o.dv", "together"},
+    {"WMA loses its block size in NUT", "-i /a.mkv -acodec wma7x /o.wmv", "together"},
 };
 
 QString hexed(const char *chain)
@@ -474,10 +465,11 @@ private slots:
             layout.hasAudio = false;
             layout.duration = 3;
         }
-        if (mode == "apart"_L1 || mode == "silent"_L1) {
-            layouts[0].hasAudio = mode == "apart"_L1;
+        if (expected == "apart"_L1 || expected == "together"_L1) {
             QCOMPARE(QString::fromLatin1(job->soundApart(layouts) ? "apart" : "together"),
                      expected);
+            layouts[0].hasAudio = false;
+            QVERIFY(!job->soundApart(layouts));
             return;
         }
         const QString joined
@@ -549,23 +541,16 @@ private slots:
         QHash<QString, QString> check;
         for (const QString &word : words(checks))
             check.insert(word.section(u'=', 0, 0), word.section(u'=', 1));
-        auto number = [&check](const QString &key) {
-            return check.value(key).toDouble();
-        };
         const QString out = dir.filePath(u"whole.mp4"_s), clean = dir.filePath(u"clean.mp4"_s);
         list.replace(u"%M"_s, hexText(dir.filePath(QString::fromUtf8(awkward) + u".png"_s)));
         const bool subtitle = list.contains("%1"_L1);
-        auto spent = [] {
-            rusage usage;
-            ::getrusage(RUSAGE_CHILDREN, &usage);
-            return usage.ru_utime.tv_sec + usage.ru_stime.tv_sec
-                   + (usage.ru_utime.tv_usec + usage.ru_stime.tv_usec) / 1e6;
-        };
-        const double before = spent();
-        QElapsedTimer timer;
-        timer.start();
+        tms before, after;
+        const clock_t start = ::times(&before);
         QVERIFY2(encode(u"-y "_s + (subtitle ? list.arg(0) : list), out) == 0, log.constData());
-        const double share = (spent() - before) / (timer.elapsed() / 1000.0);
+        const clock_t wall = ::times(&after) - start;
+        const double share
+            = double(after.tms_cutime + after.tms_cstime - before.tms_cutime - before.tms_cstime)
+              / wall;
         const int percent
             = QRegularExpression(u"-cpu_percent (\\d+)"_s).match(list).captured(1).toInt();
         const double allowed = percent / 100.0 * ::sysconf(_SC_NPROCESSORS_ONLN);
@@ -573,10 +558,11 @@ private slots:
                  qPrintable(u"used %1 of a processor, allowed %2"_s.arg(share).arg(allowed)));
         for (const QString &stream : {u"v"_s, u"a"_s}) {
             const double lasts = probeDuration(out, stream);
-            QVERIFY2(!check.contains(stream) || qAbs(lasts - number(stream)) < 0.15,
+            QVERIFY2(!check.contains(stream) || qAbs(lasts - check[stream].toDouble()) < 0.15,
                      qPrintable(stream + QString::number(lasts)));
         }
-        QVERIFY(!check.contains(u"len"_s) || qAbs(probeDuration(out) - number(u"len"_s)) < 0.5);
+        QVERIFY(!check.contains(u"len"_s)
+                || qAbs(probeDuration(out) - check[u"len"_s].toDouble()) < 0.5);
         const QString size = check.value(u"size"_s);
         QCOMPARE(probe(out, u"stream=width,height"_s, u"v"_s).simplified(),
                  u"width="_s + QString(size).replace(u'x', u" height="_s));
@@ -602,20 +588,21 @@ private slots:
         if (check.contains(u"tone"_s)) {
             const auto end
                 = measure(u"[0:a]silencedetect=n=-40dB:d=0.3"_s, out, "silence_end: ([0-9.]+)");
-            QVERIFY2(qAbs(end.captured(1).toDouble() - number(u"tone"_s)) < 0.1,
+            QVERIFY2(qAbs(end.captured(1).toDouble() - check[u"tone"_s].toDouble()) < 0.1,
                      qPrintable(end.captured(1)));
         }
         if (check.contains(u"pitch"_s)) {
             const auto crossings
                 = measure(u"[0:a]aresample=48000,astats"_s, out, "Zero crossings rate: ([0-9.]+)");
             const double heard = crossings.captured(1).toDouble() * 48000 / 2;
-            QVERIFY2(qAbs(heard - number(u"pitch"_s)) < 30, qPrintable(QString::number(heard)));
+            QVERIFY2(qAbs(heard - check[u"pitch"_s].toDouble()) < 30,
+                     qPrintable(QString::number(heard)));
         }
         if (subtitle) {
             QVERIFY2(encode(u"-y "_s + list.arg(-1), clean) == 0, log.constData());
             auto differing = [&](const QString &at) {
-                return differingShare(grabFrame(out, number(at), width, height),
-                                      grabFrame(clean, number(at), width, height));
+                return differingShare(grabFrame(out, check[at].toDouble(), width, height),
+                                      grabFrame(clean, check[at].toDouble(), width, height));
             };
             const double on = differing(u"shown"_s), off = differing(u"gone"_s);
             QVERIFY2(on > 0.002 && off >= 0 && off < 0.001,
@@ -667,15 +654,14 @@ private slots:
         const auto restore = qScopeGuard([] { qunsetenv("KESTROVE_FFMPEG"); });
         for (const QString &part : words(damaged)) {
             const QString file = videoTs + u"/VTS_01_%1.%2"_s.arg(part == "VOB"_L1).arg(part);
-            if (part == "ffmpeg"_L1) {
+            if (part == "ffmpeg"_L1)
                 qputenv("KESTROVE_FFMPEG", dir.filePath(u"no-sound-ffmpeg"_s).toLocal8Bit());
-            } else if (part == "VOB"_L1) {
+            else if (part == "VOB"_L1)
                 QVERIFY(QFile::resize(file, 90 * 2048));
-            } else {
+            else
                 QVERIFY(changeFile(file, [](QByteArray &bytes) {
                     setIfoField(bytes, int(ifoField(bytes, 0xcc, 4)) * 2048, 2, 200);
                 }));
-            }
         }
         // With -y the program has reserved the name with an empty file.
         const QByteArray before = list.startsWith("-y"_L1) ? "" : "the user's own file";
@@ -808,7 +794,6 @@ private slots:
                 standard << qMakePair(rate->num, rate->den);
             QCOMPARE(EncoderLimits::frameRates(name), standard);
         }
-        QVERIFY(EncoderLimits::frameRates(u"libx264"_s).isEmpty());
         for (const QString &name : EncoderLimits::containerNames()) {
             const QString file = u"out."_s + name;
             const AVOutputFormat *muxer = av_guess_format(nullptr, qPrintable(file), nullptr);
