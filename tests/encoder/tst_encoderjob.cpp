@@ -506,8 +506,8 @@ private slots:
             << u"v=1 a=1 size=200x160"_s;
         // The file's two seconds, then two of the title.
         QTest::newRow("join of a file and a title cut short")
-            << u"-ss 0 -i %F/clip.mp4 -vf scale=320:240 -si -ss 1 -t 2 -pgc 0 -audio_track 0 "
-               "-subtitle -1 -i %I -vf scale=320:180,pad=320:240:0:30 -vcodec mpeg4 -acodec libfaac"_s
+            << u"-ss 0 -i %F/clip.mp4 -vf scale=320:240 -si -ss 1 -t 2 -pgc 0 -audio_track 0 -i %I "
+               "-vf scale=320:180,pad=320:240:0:30 -vcodec mpeg4 -acodec libfaac"_s
             << u"v=4 a=4 size=320x240"_s;
         QTest::newRow("watermark")
             << u"-i %F/clip.mp4 -vf scale=320:240,watermark2=100:50:%M -vcodec mpeg4 -qscale 2"_s
