@@ -13,9 +13,11 @@
 
 #include <cstdio>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString fileManagerService = QStringLiteral("org.freedesktop.FileManager1");
+const QString fileManagerService = u"org.freedesktop.FileManager1"_s;
 
 // A bus of our own with nothing that can be started on demand, so that no
 // real file manager of the machine ever opens.
@@ -23,13 +25,6 @@ const char busConfig[] = "<busconfig><type>session</type><listen>unix:tmpdir=/tm
                          "<auth>EXTERNAL</auth><policy context=\"default\">"
                          "<allow send_destination=\"*\" eavesdrop=\"true\"/>"
                          "<allow eavesdrop=\"true\"/><allow own=\"*\"/></policy></busconfig>\n";
-
-void touch(const QString &path)
-{
-    QDir().mkpath(QFileInfo(path).absolutePath());
-    QFile file(path);
-    file.open(QIODevice::WriteOnly);
-}
 
 // Stands in for a file manager: prints each ShowItems call.
 class FakeFileManager : public QObject
@@ -43,7 +38,7 @@ public slots:
         QStringList files;
         for (const QString &uri : uris)
             files << QUrl(uri).toLocalFile();
-        std::printf("%s\n", files.join(QLatin1Char('|')).toUtf8().constData());
+        std::printf("%s\n", files.join(u'|').toUtf8().constData());
         std::fflush(stdout);
     }
 };
@@ -54,7 +49,7 @@ int fakeFileManagerMain(bool refuse)
     FakeFileManager manager;
     QDBusConnection bus = QDBusConnection::sessionBus();
     if ((!refuse
-         && !bus.registerObject(QStringLiteral("/org/freedesktop/FileManager1"), &manager,
+         && !bus.registerObject(u"/org/freedesktop/FileManager1"_s, &manager,
                                 QDBusConnection::ExportAllSlots))
         || !bus.registerService(fileManagerService))
         return 1;
@@ -92,7 +87,7 @@ private slots:
     void initTestCase()
     {
         QVERIFY2(QDBusConnection::sessionBus().isConnected(), "no private session bus");
-        QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "openUrl");
+        QDesktopServices::setUrlHandler(u"file"_s, this, "openUrl");
     }
 
     void cleanup()
@@ -125,13 +120,13 @@ private slots:
         // and umlauts; and files that are gone, one of them in a folder that's gone.
         QStringList files;
         for (int i = 7; i >= 1; --i)
-            files << root + QStringLiteral("/f%1 ü/clip %1.mp4").arg(i);
-        files << root + QStringLiteral("/f1 ü/Ärger.mkv");
+            files << root + u"/f%1 ü/clip %1.mp4"_s.arg(i);
+        files << root + u"/f1 ü/Ärger.mkv"_s;
         for (const QString &file : files)
-            touch(file);
-        Utils::openFolderAndSelect(files << root + QStringLiteral("/a/gone.mp4")
-                                         << root + QStringLiteral("/f2 ü/gone.mp4") << QString(),
-                                   5);
+            QVERIFY(QDir().mkpath(QFileInfo(file).path())
+                    && QFile(file).open(QIODevice::WriteOnly));
+        Utils::openFolderAndSelect(
+            files << root + u"/a/gone.mp4"_s << root + u"/f2 ü/gone.mp4"_s << QString(), 5);
         // The calls are answered before openFolderAndSelect returns.
         QStringList shown;
         while (fake.canReadLine() || fake.waitForReadyRead(300))
@@ -139,11 +134,11 @@ private slots:
         for (const QUrl &url : std::as_const(urls))
             shown << url.toLocalFile();
         // At most five folders, sorted, each once: their files selected, or the folders opened.
-        QCOMPARE(shown.join(QLatin1Char(' ')).replace(root, QStringLiteral("~")),
-                 fileManager == QLatin1String("--fake-file-manager")
+        QCOMPARE(shown.join(u' ').replace(root, u"~"_s),
+                 fileManager == "--fake-file-manager"_L1
                      ? QStringLiteral("~/f1 ü/clip 1.mp4|~/f1 ü/Ärger.mkv ~/f2 ü/clip 2.mp4 "
                                       "~/f3 ü/clip 3.mp4 ~/f4 ü/clip 4.mp4 ~/f5 ü/clip 5.mp4")
-                     : QStringLiteral("~/f1 ü ~/f2 ü ~/f3 ü ~/f4 ü ~/f5 ü"));
+                     : u"~/f1 ü ~/f2 ü ~/f3 ü ~/f4 ü ~/f5 ü"_s);
     }
 };
 
@@ -157,15 +152,14 @@ int main(int argc, char *argv[])
 
     // The bus must stand before Qt first connects to the session bus.
     QTemporaryDir dir;
-    const QString configPath = dir.filePath(QStringLiteral("bus.conf"));
+    const QString configPath = dir.filePath(u"bus.conf"_s);
     QFile config(configPath);
     if (!config.open(QIODevice::WriteOnly) || config.write(busConfig) < 0)
         return 1;
     config.close();
     QProcess daemon;
-    daemon.start(QStringLiteral("dbus-daemon"),
-                 {QStringLiteral("--config-file=") + configPath, QStringLiteral("--nofork"),
-                  QStringLiteral("--print-address")});
+    daemon.start(u"dbus-daemon"_s,
+                 {u"--config-file="_s + configPath, u"--nofork"_s, u"--print-address"_s});
     if (!daemon.waitForReadyRead(10000)) {
         std::fprintf(stderr, "FAIL: dbus-daemon did not start (install Debian's dbus): %s\n",
                      qPrintable(daemon.errorString()));
@@ -174,9 +168,9 @@ int main(int argc, char *argv[])
     qputenv("DBUS_SESSION_BUS_ADDRESS", daemon.readLine().trimmed());
 
     QGuiApplication app(argc, argv);
-    TestDesktop test(dir.filePath(QStringLiteral("files")));
+    TestDesktop test(dir.filePath(u"files"_s));
     const int result = QTest::qExec(&test, argc, argv);
-    QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
+    QDesktopServices::unsetUrlHandler(u"file"_s);
     daemon.kill();
     daemon.waitForFinished();
     return result;
