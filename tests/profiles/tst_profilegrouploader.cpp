@@ -20,12 +20,6 @@ namespace {
 
 const QString samplePath = u":/profile/sample.xml"_s;
 
-// "a|b|c"; an empty text is an empty list, "|x" a list starting empty.
-QStringList names(const QString &items)
-{
-    return items.isEmpty() ? QStringList() : items.split(u'|');
-}
-
 // "key=name<inherited from;..." of the user profiles in catalogue order, then " | " and the
 // documents in the user's folder: what the user would find at the next start.
 QString users(const ProfileGroupLoader &catalogue)
@@ -137,10 +131,9 @@ private slots:
     void userProfilesLiveOn()
     {
         ProfileGroupLoader catalogue;
-        const QString key
-            = catalogue.saveUserProfile(u"1,68"_s, {{u"b"_s, u"777"_s}}, u"My Phone"_s);
-        QCOMPARE(key, u"0,1001"_s);
-        QCOMPARE(catalogue.previousProfile(u"1,12"_s), key);
+        QCOMPARE(catalogue.saveUserProfile(u"1,68"_s, {{u"b"_s, u"777"_s}}, u"My Phone"_s),
+                 u"0,1001"_s);
+        QCOMPARE(catalogue.previousProfile(u"1,12"_s), u"0,1001"_s);
         QCOMPARE(catalogue.profileFileName(u"0"_s, u"1001"_s), u"user/My Phone.xml"_s);
         // The document carries the values given.
         const Profile document(u":/profile/user/My Phone.xml"_s);
@@ -236,7 +229,7 @@ private slots:
                 const QString file = catalogue.profileFileName(groupId, id);
                 QVERIFY2(!keys.contains(key) && catalogue.hasProfile(key) && files.contains(file)
                              && !catalogue.profileExtName(groupId, id).isEmpty(),
-                         qPrintable(key + QLatin1Char(' ') + file));
+                         qPrintable(key + u' ' + file));
                 keys.insert(key);
                 icons << ProfileGroupLoader::iconPath(childValue(entries.at(i), u"IconName"_s));
             }
@@ -261,12 +254,12 @@ private slots:
                 if (Profile::kind(parameter) == Profile::ClosedList)
                     QVERIFY2(
                         Profile::candidates(parameter).contains(Profile::defaultValue(parameter)),
-                        qPrintable(file + QLatin1Char(' ') + Profile::key(parameter)));
+                        qPrintable(file + u' ' + Profile::key(parameter)));
             }
             for (const QDomNode &parameter : profile.simpleParameters())
                 QVERIFY2(Profile::simpleLabels(parameter).size()
                              == Profile::simpleValues(parameter).size(),
-                         qPrintable(file + QLatin1Char(' ') + Profile::key(parameter)));
+                         qPrintable(file + u' ' + Profile::key(parameter)));
         }
     }
 
@@ -276,22 +269,23 @@ private slots:
         QStringList sections;
         for (const QDomElement &section : profile.sections())
             sections << section.attribute(u"value"_s);
-        QCOMPARE(sections, names(u"Summary|Video|Audio|Expert|Extra"_s));
-        QCOMPARE(profile.keys(),
-                 names(u"title|genre|vcodec|s|b|aspect|sameq|level|acodec|ab|ac|vol|"
-                       "an|pix_fmt|deinterlace|qscale|bitexact|futureoption|map1"_s));
+        QCOMPARE(sections.join(u'|'), u"Summary|Video|Audio|Expert|Extra"_s);
+        QCOMPARE(profile.keys().join(u'|'),
+                 u"title|genre|vcodec|s|b|aspect|sameq|level|acodec|ab|ac|vol|"
+                 "an|pix_fmt|deinterlace|qscale|bitexact|futureoption|map1"_s);
         QCOMPARE(profile.parameter(u"map1"_s).tagName(), u"map_num_1"_s);
         QStringList simple;
         for (const QDomNode &node : profile.simpleParameters())
             simple << Profile::key(node) + u'=' + Profile::simpleName(node);
-        QCOMPARE(simple, names(u"s=Video Size|b=Video Quality|ab=Audio Quality|ac=Channels"_s));
-        QCOMPARE(Profile::simpleValues(profile.parameter(u"ab"_s)), names(u"160|128|128|96|64"_s));
+        QCOMPARE(simple.join(u'|'), u"s=Video Size|b=Video Quality|ab=Audio Quality|ac=Channels"_s);
+        QCOMPARE(Profile::simpleValues(profile.parameter(u"ab"_s)).join(u'|'),
+                 u"160|128|128|96|64"_s);
         // A path holding "user/" is read from the user's folder ("~" here).
         QStringList read;
         for (const char *path :
              {":/profile/user/a b.xml", "/d/user/x/p.xml", "/users/p.xml", "/User/p"})
             read << Profile(QString::fromUtf8(path)).fileName.replace(userProfilesDir(), u"~"_s);
-        QCOMPARE(read, names(u"~/a b.xml|~/p.xml|/users/p.xml|/User/p"_s));
+        QCOMPARE(read.join(u'|'), u"~/a b.xml|~/p.xml|/users/p.xml|/User/p"_s);
     }
 
     // Each parameter of the sample as read: kind, default, candidates, the
@@ -351,7 +345,8 @@ private slots:
         QCOMPARE(Profile::simpleName(again.parameter(u"s"_s)), u"Video Size"_s);
         QVERIFY(isReadOnly(again.parameter(u"vcodec"_s)));
         QCOMPARE(attributeValue(again.parameter(u"futureoption"_s), u"unknownHint"_s), u"1"_s);
-        QCOMPARE(Profile::candidates(again.parameter(u"genre"_s)), names(u"|Blues|Classic Rock"_s));
+        QCOMPARE(Profile::candidates(again.parameter(u"genre"_s)).join(u'|'),
+                 u"|Blues|Classic Rock"_s);
 
         // A missing folder or a folder in the way: false, a word in the log, nothing replaced.
         const QString folder = userProfilesDir() + u"/taken.xml"_s;
