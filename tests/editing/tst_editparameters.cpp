@@ -1,5 +1,6 @@
 #include "editparameters.h"
 
+#include <QDebug>
 #include <QPainter>
 #include <QTemporaryDir>
 #include <QTest>
@@ -16,23 +17,22 @@ MediaInfo sourceWithStreams()
     return info;
 }
 
-// The fields that copies and assignments treat differently, in one line.
+// The values in one line, as QDebug writes them.
+template<typename... Values>
+QString line(const Values &...values)
+{
+    QString text;
+    (QDebug(&text).noquote() << ... << values);
+    return text.chopped(1); // the space after the last
+}
+
+// The fields that copies and assignments treat differently.
 QString fields(const EditParameters &edit)
 {
-    QStringList effects;
-    for (const int type : edit.enabledEffects())
-        effects << QString::number(type);
-    return u"%1 %2 %3 %4 %5 %6 effects:%7 tracks:%8 | %9 %10 %11%12%13"_s.arg(edit.zoomMode)
-        .arg(edit.trimEnd)
-        .arg(edit.cropLeft)
-        .arg(edit.padTop)
-        .arg(edit.innerHeight)
-        .arg(edit.brightness)
-        .arg(effects.join(u','))
-        .arg(edit.audioTracks.size())
-        .arg(edit.rotation)
-        .arg(edit.convertEnd)
-        .arg(edit.watermark().text, edit.watermark().picturePath, edit.watermarkFile);
+    return line(edit.zoomMode, edit.trimEnd, edit.cropLeft, edit.padTop, edit.innerHeight,
+                edit.brightness, edit.enabledEffects(), edit.audioTracks.size(), "|", edit.rotation,
+                edit.convertEnd,
+                edit.watermark().text + edit.watermark().picturePath + edit.watermarkFile);
 }
 
 template<typename Entry>
@@ -65,10 +65,8 @@ private slots:
     {
         const EditParameters edit;
         QCOMPARE(types(edit), u"1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18"_s);
-        QCOMPARE(edit.watermarks.size(), size_t(1));
-        QVERIFY(!edit.hasWatermark());
-        // The watermark entry is always there.
-        QVERIFY(edit.isEdited());
+        // The watermark entry is always there, empty: that counts as edited.
+        QVERIFY(edit.watermarks.size() == 1 && !edit.hasWatermark() && edit.isEdited());
         QCOMPARE(EffectEntry::name(18) + EffectEntry::name(19) + EffectEntry::name(0),
                  u"SoftenUnknownUnknown"_s);
         const QString path = EditParameters::newWatermarkPath();
@@ -88,7 +86,7 @@ private slots:
         source.setEffectEnabled(2, true);
         source.watermark().text = u"source"_s;
         source.watermarkFile = u"/x.png"_s;
-        const QString whole = u"16:9 8 30 30 30 30 effects:3 tracks:1 | 180 8 source/x.png"_s;
+        const QString whole = u"16:9 8 30 30 30 30 std::vector(3) 1 | 180 8 source/x.png"_s;
 
         // A copy is deep and whole.
         EditParameters copy(source);
@@ -97,8 +95,7 @@ private slots:
         copy.subtitles[0]->color = Qt::red;
         copy.audioTracks[0]->loop = true;
         copy.watermark().text = u"other"_s;
-        QCOMPARE(source.subtitles[0]->color, QColor(Qt::white));
-        QVERIFY(!source.audioTracks[0]->loop);
+        QVERIFY(source.subtitles[0]->color == Qt::white && !source.audioTracks[0]->loop);
         QCOMPARE(fields(source), whole);
 
         // Assignment leaves the watermark, rotation and converted length.
@@ -107,7 +104,7 @@ private slots:
         target.watermark().picturePath = u"/logo.png"_s;
         target.convertEnd = 3.0;
         target = source;
-        QCOMPARE(fields(target), u"16:9 8 30 30 30 30 effects:3 tracks:1 | 270 3 /logo.png"_s);
+        QCOMPARE(fields(target), u"16:9 8 30 30 30 30 std::vector(3) 1 | 270 3 /logo.png"_s);
         QVERIFY(target.audioTracks[0] != source.audioTracks[0]);
         QCOMPARE(target.audioTracks[0]->info.audioStreams.size(), size_t(2));
 
@@ -138,7 +135,6 @@ private slots:
         QVERIFY(!edit.isFlipped(13, false));
         QVERIFY(edit.setFlip(13, true) && !edit.setFlip(12, true));
         QCOMPARE(edit.enabledEffects(), (std::vector<int>{3, 5, 14, 13}));
-        QCOMPARE(edit.effects.back().type, 13);
     }
 
     // Audio tracks and subtitles: streams of the input and added files.
@@ -151,7 +147,7 @@ private slots:
         QCOMPARE(texts(edit.audioTracks), u"ac3 (en)|mp2|song.mp3"_s);
         // Whether any track is selected, and which stream of the input.
         const auto audio = [&edit] {
-            return u"%1 %2"_s.arg(edit.anyAudioSelected()).arg(edit.selectedAudioStream());
+            return line(edit.anyAudioSelected(), edit.selectedAudioStream());
         };
         QStringList states{audio()};
         QVERIFY(edit.selectAudio(added));
@@ -159,17 +155,15 @@ private slots:
         QVERIFY(edit.selectAudio(1) && !edit.selectAudio(3) && !edit.selectAudio(-1));
         states << audio();
         edit.clearAudioSelection();
-        QCOMPARE((states << audio()).join(u", "), u"0 -1, 1 -1, 1 1, 0 -1"_s);
+        QCOMPARE((states << audio()).join(u", "), u"false -1, true -1, true 1, false -1"_s);
 
         QVERIFY(!edit.removeAudioFile(0) && !edit.removeAudioFile(7));
         QVERIFY(edit.removeAudioFile(added));
         edit.addAudioFile(u"/a.wav"_s);
-        edit.addAudioFile(dir.filePath(u"missing.mp3"_s));
+        // A stream of the input needs no file read.
         AudioStreamInfo stream;
         QVERIFY(EditParameters::loadAudioInfo(*edit.audioTracks[1], stream));
         QCOMPARE(stream.codec, u"mp2"_s);
-        QVERIFY(!EditParameters::loadAudioInfo(*edit.audioTracks[3], stream));
-        QVERIFY(!edit.audioTracks[3]->infoLoaded);
         edit.removeAllAudioFiles();
         QCOMPARE(texts(edit.audioTracks), u"ac3 (en)|mp2"_s);
 
@@ -216,12 +210,8 @@ private slots:
         EditParameters other;
         other.cropTop = 2;
         edited.applyCropTo(other, width, height);
-        QCOMPARE(u"%1 %2 %3 %4 %5 %6"_s.arg(other.cropLeft)
-                     .arg(other.cropRight)
-                     .arg(other.cropTop)
-                     .arg(other.cropBottom)
-                     .arg(other.zoomMode)
-                     .arg(other.brightness),
+        QCOMPARE(line(other.cropLeft, other.cropRight, other.cropTop, other.cropBottom,
+                      other.zoomMode, other.brightness),
                  crop + u" Full Screen 0"_s);
 
         // The watermark goes over as a copy of its own.
@@ -276,18 +266,15 @@ private slots:
             mark.picturePath = dir.filePath(u"halves.png"_s);
             QVERIFY(halves.save(mark.picturePath));
         }
-        mark.left = entry.left();
-        mark.top = entry.top();
-        mark.right = entry.right();
-        mark.bottom = entry.bottom();
+        std::tie(mark.left, mark.top, mark.right, mark.bottom)
+            = std::tuple(entry.left(), entry.top(), entry.right(), entry.bottom());
         const QString path = dir.filePath(u"Watermark/%1.png"_s.arg(
             QString::fromUtf8(QTest::currentDataTag()).replace(u' ', u'-')));
         QCOMPARE(edit.renderWatermark(100, 50, path), !placed.isNull());
-        if (placed.isNull()) {
-            QVERIFY(!QFile::exists(path) && edit.watermarkFile.isEmpty());
+        QCOMPARE(edit.watermarkFile, placed.isNull() ? QString() : path);
+        QCOMPARE(QFile::exists(path), !placed.isNull());
+        if (placed.isNull())
             return;
-        }
-        QCOMPARE(edit.watermarkFile, path);
         QCOMPARE(QRect(QPoint(edit.watermarkX, edit.watermarkY),
                        QPoint(edit.watermarkRight, edit.watermarkBottom)),
                  placed);
@@ -305,11 +292,9 @@ private slots:
             return;
         }
         const int y = saved.height() / 2;
-        QCOMPARE(
-            u"%1 %2 %3"_s
-                .arg(saved.pixelColor(1, y).name(), saved.pixelColor(saved.width() - 2, y).name())
-                .arg(maxAlpha),
-            colours);
+        QCOMPARE(line(saved.pixelColor(1, y).name(), saved.pixelColor(saved.width() - 2, y).name(),
+                      maxAlpha),
+                 colours);
     }
 };
 
