@@ -9,9 +9,10 @@
 #include <QComboBox>
 #include <QHeaderView>
 #include <QLineEdit>
-#include <QPointer>
 #include <QSignalSpy>
 #include <QTreeWidget>
+
+using namespace Qt::StringLiterals;
 
 // The property tree and its editors, driven with mouse and keys.
 class TestPropertyBrowser : public QObject
@@ -19,17 +20,143 @@ class TestPropertyBrowser : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
+    void init()
+    {
+        window = std::make_unique<QWidget>();
+        window->resize(400, 500);
+        browser = new QtTreePropertyBrowser(window.get());
+        browser->resize(400, 460);
+        (new QLineEdit(window.get()))->move(0, 470); // somewhere for the focus to go
+        variants = new QtVariantPropertyManager(window.get());
+        combos = new EditableComboManager(window.get());
+        comboFactory = new EditableComboFactory(window.get());
+        browser->setFactoryForManager(variants, new QtVariantEditorFactory(window.get()));
+        browser->setFactoryForManager(combos, comboFactory);
+        browser->setPropertiesWithoutValueMarked(true);
+
+        group = variants->addProperty(QtVariantPropertyManager::groupTypeId(), u"Video"_s);
+        title = variants->addProperty(QMetaType::QString, u"Title"_s);
+        variants->setValue(title, u"Holiday"_s);
+        codec = variants->addProperty(QtVariantPropertyManager::enumTypeId(), u"Codec"_s);
+        variants->setAttribute(codec, u"enumNames"_s, QStringList{u"mpeg4"_s, u"h264"_s});
+        locked = variants->addProperty(QMetaType::QString, u"Locked"_s);
+        locked->setEnabled(false);
+        open = combos->addProperty(u"Size"_s);
+        combos->setCandidateValues(open, {u"Auto"_s, u"320*240"_s});
+        for (QtProperty *p : {title, codec, locked, open})
+            group->addSubProperty(p);
+        browser->addProperty(group);
+        QVERIFY(showExposed(window.get()));
+    }
     void cleanup() { window.reset(); }
-    void editorLivesWhileItsRowIsCurrent();
-    void rowsShowStateAndFollowTheLanguage();
-    void editableCombo_data();
-    void editableCombo();
+
+    void editorLivesWhileItsRowIsCurrent()
+    {
+        QTreeWidget *tree = browser->treeWidget();
+        auto *line = qobject_cast<QLineEdit *>(edit("Title"));
+        QVERIFY(line);
+        QTRY_VERIFY(line->hasFocus());
+        // Typed text counts when the focus leaves, by Tab.
+        line->selectAll();
+        QTest::keyClicks(line, u"Trip"_s);
+        QTest::keyClick(line, Qt::Key_Tab);
+        QCOMPARE(variants->value(title).toString(), u"Trip"_s);
+
+        // Another row current: the choice gets a drop-down.
+        QVERIFY(qobject_cast<QComboBox *>(edit("Codec")));
+        // By keys alone: down to the row, Return opens the list, Down and Return pick.
+        tree->setFocus();
+        QTest::keyClick(tree, Qt::Key_Up);
+        QTest::keyClick(tree, Qt::Key_Down);
+        auto *combo = qobject_cast<QComboBox *>(tree->itemWidget(row("Codec"), 1));
+        QCOMPARE(combo->accessibleName(), u"Codec"_s);
+        QTest::keyClick(tree, Qt::Key_Return);
+        QTRY_VERIFY(combo->view()->isVisible());
+        QTest::keyClick(combo->view(), Qt::Key_Down);
+        QTest::keyClick(combo->view(), Qt::Key_Return);
+        QCOMPARE(row("Codec")->text(1), u"h264"_s);
+
+        // A disabled row gets no editor.
+        QVERIFY(!edit("Locked"));
+        QVERIFY(row("Locked")->isDisabled());
+    }
+
+    void rowsShowStateAndFollowTheLanguage()
+    {
+        title->setModified(true);
+        QVERIFY(row("Title")->font(1).bold());
+        title->setModified(false);
+        QVERIFY(!row("Title")->font(1).bold());
+
+        FixedTranslator german("QtTreePropertyBrowser", "Property", u"Eigenschaft"_s);
+        QCoreApplication::installTranslator(&german);
+        QTreeWidgetItem *header = browser->treeWidget()->headerItem();
+        QTRY_COMPARE(header->text(0), u"Eigenschaft"_s);
+        QCoreApplication::removeTranslator(&german);
+        QTRY_COMPARE(header->text(0), u"Property"_s);
+    }
+
+    void editableCombo_data()
+    {
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QString>("stored");
+        // \x1b for Escape, \n to pick the list's first entry; the focus then leaves by Tab.
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("result");
+        const auto add = [](const char *name, const char *key, const char *stored,
+                            const char *typed, const char *result) {
+            QTest::newRow(name) << key << stored << typed << result;
+        };
+        add("a size", "s", "320*240", "720*480", "720*480");
+        add("a size with x", "s", "320*240", "720x480", "720x480");
+        add("half a size goes back", "s", "320*240", "720*", "320*240");
+        add("Escape goes back", "b", "1200", "1500\x1b", "1200");
+        add("no zero bit rate", "b", "1200", "0", "1200");
+        add("no leading zero in a size", "s", "320*240", "0", "320*240");
+        add("a volume needs its sign", "vol", "75%", "100", "75%");
+        add("a volume", "vol", "75%", "150%", "150%");
+        add("an aspect ratio", "aspect", "Auto", "16:9", "16:9");
+        // "Auto" can't be typed as a size, but it can be picked.
+        add("picked from the list", "s", "320*240", "\n", "Auto");
+    }
+
+    void editableCombo()
+    {
+        QFETCH(QString, key);
+        QFETCH(QString, stored);
+        QFETCH(QString, typed);
+        QFETCH(QString, result);
+        combos->setValue(open, stored);
+        comboFactory->setPattern(open, EditableComboFactory::patternFor(key));
+        QSignalSpy changed(combos, &EditableComboManager::valueChanged);
+        auto *editor = qobject_cast<EditableCombo *>(edit("Size"));
+        QVERIFY(editor);
+        FocusOutCombo *combo = editor->comboBox();
+        QLineEdit *line = combo->lineEdit();
+        QTRY_VERIFY(line->hasFocus());
+        line->selectAll();
+        for (const QChar c : typed) {
+            if (c == u'\x1b') {
+                QTest::keyClick(line, Qt::Key_Escape);
+            } else if (c == u'\n') {
+                QTest::keyClick(combo, Qt::Key_Down, Qt::AltModifier);
+                QTRY_VERIFY(combo->view()->isVisible());
+                QTest::keyClick(combo->view(), Qt::Key_Home);
+                QTest::keyClick(combo->view(), Qt::Key_Return);
+            } else {
+                QTest::keyClicks(line, QString(c));
+            }
+        }
+        QTest::keyClick(line, Qt::Key_Tab);
+        QCOMPARE(combos->value(open), result);
+        QCOMPARE(combo->currentText(), result);
+        // Only a change is told; what stood already says nothing.
+        QCOMPARE(changed.count(), result == stored ? 0 : 1);
+        // The list is the candidates alone: nothing typed joins it.
+        QCOMPARE(combo->count(), 2);
+    }
 
 private:
-    QTreeWidgetItem *row(const char *name) const;
-    // Clicks the row's value, and returns the editor that opens there.
-    QWidget *edit(const char *name);
     std::unique_ptr<QWidget> window;
     QtTreePropertyBrowser *browser = nullptr;
     QtVariantPropertyManager *variants = nullptr;
@@ -37,166 +164,24 @@ private:
     EditableComboFactory *comboFactory = nullptr;
     QtProperty *group = nullptr, *title = nullptr, *codec = nullptr, *locked = nullptr,
                *open = nullptr;
-};
 
-void TestPropertyBrowser::init()
-{
-    window = std::make_unique<QWidget>();
-    window->resize(400, 500);
-    browser = new QtTreePropertyBrowser(window.get());
-    browser->resize(400, 460);
-    (new QLineEdit(window.get()))->move(0, 470); // somewhere for the focus to go
-    variants = new QtVariantPropertyManager(window.get());
-    combos = new EditableComboManager(window.get());
-    comboFactory = new EditableComboFactory(window.get());
-    browser->setFactoryForManager(variants, new QtVariantEditorFactory(window.get()));
-    browser->setFactoryForManager(combos, comboFactory);
-    browser->setPropertiesWithoutValueMarked(true);
-
-    group = variants->addProperty(QtVariantPropertyManager::groupTypeId(), QStringLiteral("Video"));
-    title = variants->addProperty(QMetaType::QString, QStringLiteral("Title"));
-    variants->setValue(title, QStringLiteral("Holiday"));
-    codec = variants->addProperty(QtVariantPropertyManager::enumTypeId(), QStringLiteral("Codec"));
-    variants->setAttribute(codec, QStringLiteral("enumNames"),
-                           QStringList{QStringLiteral("mpeg4"), QStringLiteral("h264")});
-    locked = variants->addProperty(QMetaType::QString, QStringLiteral("Locked"));
-    locked->setEnabled(false);
-    open = combos->addProperty(QStringLiteral("Size"));
-    combos->setCandidateValues(open, {QStringLiteral("Auto"), QStringLiteral("320*240")});
-    for (QtProperty *p : {title, codec, locked, open})
-        group->addSubProperty(p);
-    browser->addProperty(group);
-    QVERIFY(showExposed(window.get()));
-}
-
-QTreeWidgetItem *TestPropertyBrowser::row(const char *name) const
-{
-    return browser->treeWidget()
-        ->findItems(QString::fromLatin1(name), Qt::MatchExactly | Qt::MatchRecursive)
-        .value(0);
-}
-
-QWidget *TestPropertyBrowser::edit(const char *name)
-{
-    QTreeWidget *tree = browser->treeWidget();
-    const QRect cell = tree->visualItemRect(row(name));
-    QTest::mouseClick(tree->viewport(), Qt::LeftButton, {},
-                      QPoint(tree->header()->sectionPosition(1) + 20, cell.center().y()));
-    return tree->itemWidget(row(name), 1);
-}
-
-void TestPropertyBrowser::editorLivesWhileItsRowIsCurrent()
-{
-    QTreeWidget *tree = browser->treeWidget();
-    QPointer<QLineEdit> line = qobject_cast<QLineEdit *>(edit("Title"));
-    QVERIFY(line);
-    QTRY_VERIFY(line->hasFocus());
-    // Typed text counts when the focus leaves, by Tab.
-    line->selectAll();
-    QTest::keyClicks(line, QStringLiteral("Trip"));
-    QTest::keyClick(line, Qt::Key_Tab);
-    QCOMPARE(variants->value(title).toString(), QStringLiteral("Trip"));
-
-    // Another row current: the old editor is gone, the choice gets a drop-down.
-    QVERIFY(qobject_cast<QComboBox *>(edit("Codec")));
-    QVERIFY(line.isNull());
-    // By keys alone: down to the row, Return opens the list, Down and Return pick.
-    tree->setFocus();
-    QTest::keyClick(tree, Qt::Key_Up);
-    QTest::keyClick(tree, Qt::Key_Down);
-    auto *combo = qobject_cast<QComboBox *>(tree->itemWidget(row("Codec"), 1));
-    QCOMPARE(combo->accessibleName(), QStringLiteral("Codec"));
-    QTest::keyClick(tree, Qt::Key_Return);
-    QTRY_VERIFY(combo->view()->isVisible());
-    QTest::keyClick(combo->view(), Qt::Key_Down);
-    QTest::keyClick(combo->view(), Qt::Key_Return);
-    QCOMPARE(row("Codec")->text(1), QStringLiteral("h264"));
-
-    // A disabled row gets no editor.
-    QVERIFY(!edit("Locked"));
-    QVERIFY(row("Locked")->isDisabled());
-}
-
-void TestPropertyBrowser::rowsShowStateAndFollowTheLanguage()
-{
-    title->setModified(true);
-    QVERIFY(row("Title")->font(1).bold());
-    title->setModified(false);
-    QVERIFY(!row("Title")->font(1).bold());
-
-    // A removed row leaves the tree; a destroyed one too.
-    group->removeSubProperty(locked);
-    QVERIFY(!row("Locked"));
-    delete codec;
-    QVERIFY(!row("Codec"));
-
-    FixedTranslator german("QtTreePropertyBrowser", "Property", QStringLiteral("Eigenschaft"));
-    QCoreApplication::installTranslator(&german);
-    QTreeWidgetItem *header = browser->treeWidget()->headerItem();
-    QTRY_COMPARE(header->text(0), QStringLiteral("Eigenschaft"));
-    QCoreApplication::removeTranslator(&german);
-    QTRY_COMPARE(header->text(0), QStringLiteral("Property"));
-}
-
-void TestPropertyBrowser::editableCombo_data()
-{
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<QString>("stored");
-    // \x1b for Escape, \n to pick the list's first entry; the focus then leaves by Tab.
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("result");
-    const auto add = [](const char *name, const char *key, const char *stored, const char *typed,
-                        const char *result) {
-        QTest::newRow(name) << key << stored << typed << result;
-    };
-    add("a size", "s", "320*240", "720*480", "720*480");
-    add("a size with x", "s", "320*240", "720x480", "720x480");
-    add("half a size goes back", "s", "320*240", "720*", "320*240");
-    add("Escape goes back", "b", "1200", "1500\x1b", "1200");
-    add("no zero bit rate", "b", "1200", "0", "1200");
-    add("no leading zero in a size", "s", "320*240", "0", "320*240");
-    add("a volume needs its sign", "vol", "75%", "100", "75%");
-    add("a volume", "vol", "75%", "150%", "150%");
-    add("an aspect ratio", "aspect", "Auto", "16:9", "16:9");
-    // "Auto" can't be typed as a size, but it can be picked.
-    add("picked from the list", "s", "320*240", "\n", "Auto");
-}
-
-void TestPropertyBrowser::editableCombo()
-{
-    QFETCH(QString, key);
-    QFETCH(QString, stored);
-    QFETCH(QString, typed);
-    QFETCH(QString, result);
-    combos->setValue(open, stored);
-    comboFactory->setPattern(open, EditableComboFactory::patternFor(key));
-    QSignalSpy changed(combos, &EditableComboManager::valueChanged);
-    auto *editor = qobject_cast<EditableCombo *>(edit("Size"));
-    QVERIFY(editor);
-    FocusOutCombo *combo = editor->comboBox();
-    QLineEdit *line = combo->lineEdit();
-    QTRY_VERIFY(line->hasFocus());
-    line->selectAll();
-    for (const QChar c : typed) {
-        if (c == QLatin1Char('\x1b')) {
-            QTest::keyClick(line, Qt::Key_Escape);
-        } else if (c == QLatin1Char('\n')) {
-            QTest::keyClick(combo, Qt::Key_Down, Qt::AltModifier);
-            QTRY_VERIFY(combo->view()->isVisible());
-            QTest::keyClick(combo->view(), Qt::Key_Home);
-            QTest::keyClick(combo->view(), Qt::Key_Return);
-        } else {
-            QTest::keyClicks(line, QString(c));
-        }
+    QTreeWidgetItem *row(const char *name) const
+    {
+        return browser->treeWidget()
+            ->findItems(QString::fromLatin1(name), Qt::MatchExactly | Qt::MatchRecursive)
+            .value(0);
     }
-    QTest::keyClick(line, Qt::Key_Tab);
-    QCOMPARE(combos->value(open), result);
-    QCOMPARE(combo->currentText(), result);
-    // Only a change is told; what stood already says nothing.
-    QCOMPARE(changed.count(), result == stored ? 0 : 1);
-    // The list is the candidates alone: nothing typed joins it.
-    QCOMPARE(combo->count(), 2);
-}
+
+    // Clicks the row's value, and returns the editor that opens there.
+    QWidget *edit(const char *name)
+    {
+        QTreeWidget *tree = browser->treeWidget();
+        const QRect cell = tree->visualItemRect(row(name));
+        QTest::mouseClick(tree->viewport(), Qt::LeftButton, {},
+                          QPoint(tree->header()->sectionPosition(1) + 20, cell.center().y()));
+        return tree->itemWidget(row(name), 1);
+    }
+};
 
 QTEST_MAIN(TestPropertyBrowser)
 #include "tst_propertybrowser.moc"
