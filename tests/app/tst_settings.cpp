@@ -1,23 +1,28 @@
+#include "desktop.h"
 #include "pathparts.h"
 #include "settings.h"
 #include "testhome.h"
 #include "utils.h"
 
 #include <QCoreApplication>
+#include <QDBusConnection>
+#include <QDBusConnectionInterface>
+#include <QDesktopServices>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <QProcess>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QUrl>
 #include <QVariant>
 
 #include <climits>
 #include <csignal>
 #include <cstdio>
-#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -33,10 +38,56 @@ void touch(const QString &path)
     file.write("x");
 }
 
+const QString fileManagerService = u"org.freedesktop.FileManager1"_s;
+
+// A bus of our own with nothing that can be started on demand, so that no
+// real file manager of the machine ever opens.
+const char busConfig[] = "<busconfig><type>session</type><listen>unix:tmpdir=/tmp</listen>"
+                         "<auth>EXTERNAL</auth><policy context=\"default\">"
+                         "<allow send_destination=\"*\" eavesdrop=\"true\"/>"
+                         "<allow eavesdrop=\"true\"/><allow own=\"*\"/></policy></busconfig>\n";
+
+// Stands in for a file manager: prints each ShowItems call.
+class FakeFileManager : public QObject
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.FileManager1")
+
+public slots:
+    void ShowItems(const QStringList &uris, const QString &)
+    {
+        QStringList files;
+        for (const QString &uri : uris)
+            files << QUrl(uri).toLocalFile();
+        std::printf("%s\n", files.join(u'|').toUtf8().constData());
+        std::fflush(stdout);
+    }
+};
+
+// One that refuses holds the name but answers every call with an error.
+int fakeFileManagerMain(bool refuse)
+{
+    FakeFileManager manager;
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    if ((!refuse
+         && !bus.registerObject(u"/org/freedesktop/FileManager1"_s, &manager,
+                                QDBusConnection::ExportAllSlots))
+        || !bus.registerService(fileManagerService))
+        return 1;
+    std::printf("ready\n");
+    std::fflush(stdout);
+    return QCoreApplication::exec();
+}
+
+bool fileManagerRegistered()
+{
+    return QDBusConnection::sessionBus().interface()->isServiceRegistered(fileManagerService);
+}
+
 } // namespace
 
-// The store and the paths and names the program makes. The store is process-wide,
-// so each test process gets a fresh home first.
+// The store, the paths and names the program makes, and the desktop's file manager. The
+// store is process-wide, so each test process gets a fresh home and a session bus of its own.
 class TestSettings : public QObject
 {
     Q_OBJECT
@@ -44,10 +95,17 @@ class TestSettings : public QObject
 public:
     explicit TestSettings(const QString &home)
         : home(home)
+        , root(home + u"/files"_s)
     {}
 
+public slots:
+    // Stands in for the desktop's program for files and folders.
+    void openUrl(const QUrl &url) { urls << url; }
+
 private:
-    QString home;
+    QString home, root;
+    QList<QUrl> urls;
+    QProcess fake;
 
     // Runs this program as a helper that writes (without an explicit sync),
     // or reads "processes|output folder|output to source".
@@ -62,6 +120,22 @@ private:
     }
 
 private slots:
+    void initTestCase()
+    {
+        QVERIFY2(QDBusConnection::sessionBus().isConnected(), "no private session bus");
+        QDesktopServices::setUrlHandler(u"file"_s, this, "openUrl");
+    }
+
+    void cleanup()
+    {
+        urls.clear();
+        if (fake.state() == QProcess::NotRunning)
+            return;
+        fake.kill();
+        fake.waitForFinished();
+        QTRY_VERIFY(!fileManagerRegistered());
+    }
+
     void freshUserGetsFoldersAndAnEmptyStore()
     {
         QCOMPARE(Setting::outputDir(), home + u"/Documents/Tessarine Kestrove"_s);
@@ -306,19 +380,57 @@ private slots:
         QVERIFY2(timer.elapsed() >= 120, qPrintable(QString::number(timer.elapsed())));
     }
 
+    void openFolderAndSelect_data()
+    {
+        QTest::addColumn<QString>("fileManager");
+        QTest::newRow("file manager selects the files") << "--fake-file-manager";
+        QTest::newRow("file manager refuses: plain folders") << "--refusing-file-manager";
+        QTest::newRow("no file manager: plain folders") << "";
+    }
+
+    void openFolderAndSelect()
+    {
+        QFETCH(QString, fileManager);
+        if (!fileManager.isEmpty()) {
+            fake.start(QCoreApplication::applicationFilePath(), {fileManager});
+            QVERIFY(fake.waitForReadyRead(10000) && fake.readLine().trimmed() == "ready");
+        }
+        QCOMPARE(fileManagerRegistered(), !fileManager.isEmpty());
+        // Files in seven folders, two in the first, in no order; names with blanks
+        // and umlauts; and files that are gone, one of them in a folder that's gone.
+        QStringList files;
+        for (int i = 7; i >= 1; --i)
+            files << root + u"/f%1 ü/clip %1.mp4"_s.arg(i);
+        files << root + u"/f1 ü/Ärger.mkv"_s;
+        for (const QString &file : files)
+            QVERIFY(QDir().mkpath(QFileInfo(file).path())
+                    && QFile(file).open(QIODevice::WriteOnly));
+        Utils::openFolderAndSelect(
+            files << root + u"/a/gone.mp4"_s << root + u"/f2 ü/gone.mp4"_s << QString(), 5);
+        // The calls are answered before openFolderAndSelect returns.
+        QStringList shown;
+        while (fake.canReadLine() || fake.waitForReadyRead(300))
+            shown << QString::fromUtf8(fake.readLine()).trimmed();
+        for (const QUrl &url : std::as_const(urls))
+            shown << url.toLocalFile();
+        // At most five folders, sorted, each once: their files selected, or the folders opened.
+        QCOMPARE(shown.join(u' ').replace(root, u"~"_s),
+                 fileManager == "--fake-file-manager"_L1
+                     ? QStringLiteral("~/f1 ü/clip 1.mp4|~/f1 ü/Ärger.mkv ~/f2 ü/clip 2.mp4 "
+                                      "~/f3 ü/clip 3.mp4 ~/f4 ü/clip 4.mp4 ~/f5 ü/clip 5.mp4")
+                     : u"~/f1 ü ~/f2 ü ~/f3 ü ~/f4 ü ~/f5 ü"_s);
+    }
+
     // Starts the real window program, as a user would, from a foreign folder,
     // on an empty store under a system language.
     void firstStartFollowsTheSystemAndQuitsCleanly_data()
     {
         QTest::addColumn<QString>("system");
-        QTest::addColumn<QString>("stored");
         QTest::addColumn<int>("signalNumber");
-        QTest::newRow("German, logout") << "de_DE.UTF-8"
-                                        << "de" << int(SIGTERM);
-        QTest::newRow("Chinese as listed, ctrl-c") << "zh_CN.UTF-8"
-                                                   << "zh_CN" << int(SIGINT);
-        QTest::newRow("Chinese of a region not listed") << "zh_HK.UTF-8"
-                                                        << "en" << int(SIGTERM);
+        QTest::addColumn<QString>("stored");
+        QTest::newRow("German, logout") << "de_DE.UTF-8" << int(SIGTERM) << "de";
+        QTest::newRow("Chinese as listed, ctrl-c") << "zh_CN.UTF-8" << int(SIGINT) << "zh_CN";
+        QTest::newRow("Chinese of a region not listed") << "zh_HK.UTF-8" << int(SIGTERM) << "en";
     }
 
     void firstStartFollowsTheSystemAndQuitsCleanly()
@@ -363,22 +475,46 @@ private slots:
 
 int main(int argc, char *argv[])
 {
-    // The helper inherits the test's home, so it reads the store under test.
+    // Helpers: a file manager on the test's bus, or the store under the test's home.
     const QByteArray mode = argc > 1 ? QByteArray(argv[1]) : QByteArray();
-    std::unique_ptr<TestHome> home(mode.startsWith("--") ? nullptr : new TestHome);
-    QCoreApplication app(argc, argv);
-    if (mode == "--write") {
-        setSettingInt(u"ProcessCount"_s, 3);
-        setSettingString(u"OutputDir"_s, QCoreApplication::arguments().value(2));
+    if (mode.startsWith("--")) {
+        QCoreApplication app(argc, argv);
+        if (mode.endsWith("file-manager"))
+            return fakeFileManagerMain(mode == "--refusing-file-manager");
+        if (mode == "--write") {
+            setSettingInt(u"ProcessCount"_s, 3);
+            setSettingString(u"OutputDir"_s, QCoreApplication::arguments().value(2));
+        } else {
+            std::printf("%d|%s|%d\n", Setting::processCount(),
+                        Setting::outputDir().toUtf8().constData(), Setting::outputToSrc());
+        }
         return 0;
     }
-    if (mode == "--read") {
-        std::printf("%d|%s|%d\n", Setting::processCount(),
-                    Setting::outputDir().toUtf8().constData(), Setting::outputToSrc());
-        return 0;
+
+    TestHome home;
+    // The bus must stand before Qt first connects to the session bus.
+    const QString configPath = home.path() + u"/bus.conf"_s;
+    QFile config(configPath);
+    if (!config.open(QIODevice::WriteOnly) || config.write(busConfig) < 0)
+        return 1;
+    config.close();
+    QProcess daemon;
+    daemon.start(u"dbus-daemon"_s,
+                 {u"--config-file="_s + configPath, u"--nofork"_s, u"--print-address"_s});
+    if (!daemon.waitForReadyRead(10000)) {
+        std::fprintf(stderr, "FAIL: dbus-daemon did not start (install Debian's dbus): %s\n",
+                     qPrintable(daemon.errorString()));
+        return 1;
     }
-    TestSettings test(home->path());
-    return QTest::qExec(&test, argc, argv);
+    qputenv("DBUS_SESSION_BUS_ADDRESS", daemon.readLine().trimmed());
+
+    QGuiApplication app(argc, argv);
+    TestSettings test(home.path());
+    const int result = QTest::qExec(&test, argc, argv);
+    QDesktopServices::unsetUrlHandler(u"file"_s);
+    daemon.kill();
+    daemon.waitForFinished();
+    return result;
 }
 
 #include "tst_settings.moc"
