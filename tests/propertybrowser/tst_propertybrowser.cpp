@@ -7,7 +7,6 @@
 
 #include <QApplication>
 #include <QComboBox>
-#include <QHeaderView>
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QTreeWidget>
@@ -173,14 +172,7 @@ private:
     }
 
     // Clicks the row's value, and returns the editor that opens there.
-    QWidget *edit(const char *name)
-    {
-        QTreeWidget *tree = browser->treeWidget();
-        const QRect cell = tree->visualItemRect(row(name));
-        QTest::mouseClick(tree->viewport(), Qt::LeftButton, {},
-                          QPoint(tree->header()->sectionPosition(1) + 20, cell.center().y()));
-        return tree->itemWidget(row(name), 1);
-    }
+    QWidget *edit(const char *name) { return editValue(browser->treeWidget(), row(name)); }
 };
 
 QTEST_MAIN(TestPropertyBrowser)
