@@ -82,9 +82,10 @@ bool writeFile(const QString &path, const QByteArray &data)
     return file.open(QIODevice::WriteOnly) && file.write(data) == data.size();
 }
 
-QByteArray styleWithBlock(const QByteArray &name, const QByteArray &extra = QByteArray())
+// A skin's style sheet, its settings in the block the program reads.
+QByteArray block(const QByteArray &settings)
 {
-    return "/* __CONFIG_BEBIN__\nSKIN_NAME=" + name + "\n" + extra
+    return "/* __CONFIG_BEBIN__\n" + settings
            + "__CONFIG_END__ */\nQWidget { image: url(:/skins/skin2/close.png); }\n";
 }
 
@@ -262,7 +263,7 @@ private slots:
         const QString root = scratch.path() + u"/switch"_s;
         QVERIFY(QDir().mkpath(root + u"/skin1"_s));
         QVERIFY(QFile::copy(u":/skins/skin1.qss"_s, root + u"/skin1.qss"_s));
-        makeSkin(root, 2, styleWithBlock("Paper", "ABOUT_LINK_COLOR=#123456\n"));
+        makeSkin(root, 2, block("SKIN_NAME=Paper\nABOUT_LINK_COLOR=#123456\n"));
         makeSkin(root, 3, QByteArray("QWidget {}\n")); // no name at all
 
         setSettingInt(skinIndexKey, 0);
@@ -296,9 +297,6 @@ private slots:
         const auto row = [](const char *tag, const QByteArray &sheet, const QByteArray &ini,
                             const char *value, int fade = 330) {
             QTest::newRow(tag) << sheet << ini << QString::fromLatin1(value) << fade;
-        };
-        const auto block = [](const char *extra) {
-            return styleWithBlock("X", extra);
         };
         const QByteArray none;
         row("blanks trimmed", block("   K=v w  \r\n"), none, "v w");
@@ -336,7 +334,7 @@ private slots:
     {
         const QString root = scratch.path() + u"/range"_s;
         for (int n : {2, 5, 8, 10}) // skin10 is beyond the numbers looked for
-            makeSkin(root, n, styleWithBlock("S" + QByteArray::number(n)));
+            makeSkin(root, n, block("SKIN_NAME=S" + QByteArray::number(n) + "\n"));
         QCOMPARE(QxSkin(root).skinNumbers(), (QList<int>{2, 5, 8}));
         for (int position : {7, 3, -2}) {
             setSettingInt(skinIndexKey, position);
