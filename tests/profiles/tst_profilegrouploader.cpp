@@ -215,7 +215,7 @@ private slots:
     {
         const ProfileGroupLoader catalogue;
         QVERIFY(catalogue.hasProfile(catalogue.defaultProfile()));
-        QStringList files = QDir(u":/profile"_s).entryList({u"*.xml"_s});
+        QStringList files = QDir(u":/profile"_s).entryList({u"*.xml"_s}), wrong;
         files.removeAll(u"Group.xml"_s);
         QSet<QString> keys;
         QStringList icons{u":/profile/recommend.png"_s};
@@ -227,40 +227,39 @@ private slots:
                 const QString id = childValue(entries.at(i), u"Id"_s);
                 const QString key = ProfileGroupLoader::profileKey(groupId, id);
                 const QString file = catalogue.profileFileName(groupId, id);
-                QVERIFY2(!keys.contains(key) && catalogue.hasProfile(key) && files.contains(file)
-                             && !catalogue.profileExtName(groupId, id).isEmpty(),
-                         qPrintable(key + u' ' + file));
+                if (keys.contains(key) || !catalogue.hasProfile(key) || !files.contains(file)
+                    || catalogue.profileExtName(groupId, id).isEmpty())
+                    wrong << key + u' ' + file;
                 keys.insert(key);
                 icons << ProfileGroupLoader::iconPath(childValue(entries.at(i), u"IconName"_s));
             }
         }
-        QVERIFY(keys.size() > 80);
         for (const QString &path : icons) {
             const QImage image(path);
-            QVERIFY2(image.width() >= 16 && image.width() == image.height()
-                         && image.hasAlphaChannel(),
-                     qPrintable(path));
+            if (image.width() < 16 || image.width() != image.height() || !image.hasAlphaChannel())
+                wrong << path;
         }
-        // Every document, named by a row or not, can be shown as it is.
-        QVERIFY(files.size() > 100);
+        // Every document, named by a row or not, can be shown as it is: a closed list stands
+        // at one of its candidates, a simple setting has a label for each value.
         for (const QString &file : files) {
             const Profile profile(u":/profile/"_s + file);
             const QStringList names = profile.keys();
-            QVERIFY2(!profile.sections().isEmpty(), qPrintable(file));
-            QVERIFY2(QSet<QString>(names.begin(), names.end()).size() == names.size(),
-                     qPrintable(file));
-            // A closed list must stand at one of its candidates, or it can't be shown.
+            if (profile.sections().isEmpty()
+                || QSet<QString>(names.begin(), names.end()).size() != names.size())
+                wrong << file;
             for (const QDomElement &parameter : profile.parameters()) {
-                if (Profile::kind(parameter) == Profile::ClosedList)
-                    QVERIFY2(
-                        Profile::candidates(parameter).contains(Profile::defaultValue(parameter)),
-                        qPrintable(file + u' ' + Profile::key(parameter)));
+                if (Profile::kind(parameter) == Profile::ClosedList
+                    && !Profile::candidates(parameter).contains(Profile::defaultValue(parameter)))
+                    wrong << file + u' ' + Profile::key(parameter);
             }
-            for (const QDomNode &parameter : profile.simpleParameters())
-                QVERIFY2(Profile::simpleLabels(parameter).size()
-                             == Profile::simpleValues(parameter).size(),
-                         qPrintable(file + u' ' + Profile::key(parameter)));
+            for (const QDomNode &parameter : profile.simpleParameters()) {
+                if (Profile::simpleLabels(parameter).size()
+                    != Profile::simpleValues(parameter).size())
+                    wrong << file + u' ' + Profile::key(parameter);
+            }
         }
+        QVERIFY(keys.size() > 80 && files.size() > 100);
+        QCOMPARE(wrong.join(u"\n"), QString());
     }
 
     void sectionsAndKeysInDocumentOrder()
