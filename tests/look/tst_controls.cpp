@@ -547,7 +547,6 @@ private slots:
             }
         };
         pick(u"Deutsch"_s);
-        QCOMPARE(language->currentLocale(), u"de"_s);
         QCOMPARE(menu->title(), u"&Sprache"_s);
         QCOMPARE(menuState(menu),
                  QStringLiteral("English|Français|Deutsch*-|Español|Italiano|"
@@ -568,7 +567,6 @@ private slots:
         // A stored language that's no longer known keeps English texts.
         language->setLanguage(u"xx"_s);
         QCOMPARE(menu->title(), u"&Language"_s);
-        QCOMPARE(Setting::uiLanguage(), u"xx"_s);
     }
 };
 
