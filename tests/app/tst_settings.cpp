@@ -199,8 +199,7 @@ private slots:
         QTest::addColumn<QString>("renamed");
         const auto row = [](const char *tag, const char *path, const char *parts,
                             const char *rename, const char *renamed) {
-            QTest::newRow(tag) << QString::fromUtf8(path) << QString::fromUtf8(parts)
-                               << QString::fromUtf8(rename) << QString::fromUtf8(renamed);
+            QTest::newRow(tag) << path << parts << rename << renamed;
         };
         row("drive", "C:/a/b.c.mp4", "C:|C:/a|b.c|mp4", "Title_2", "C:/a/Title_2.mp4");
         row("backslashes", "D:\\v\\t.vob", "D:|D:\\v|t|vob", "b.mkv", "D:\\v/b.mkv");
@@ -237,8 +236,7 @@ private slots:
         QTest::addColumn<QString>("expected");
         const auto row = [](const char *tag, const char *name, int position, const char *present,
                             int number, const char *expected) {
-            QTest::newRow(tag) << QString::fromUtf8(name) << position << QString::fromUtf8(present)
-                               << number << QString::fromUtf8(expected);
+            QTest::newRow(tag) << name << position << present << number << expected;
         };
         row("free", "a.mp4", plain, "b.mp4", 0, "a.mp4");
         row("two taken", "a.mp4", plain, "a.mp4|a(1).mp4", 2, "a(2).mp4");
@@ -318,8 +316,7 @@ private slots:
         QTest::addColumn<QString>("expected");
         const auto row
             = [](const char *call, const char *tag, const char *input, const char *expected) {
-                  QTest::newRow(tag) << QString::fromLatin1(call) << QString::fromUtf8(input)
-                                     << QString::fromUtf8(expected);
+                  QTest::newRow(tag) << call << input << expected;
               };
         row("name", "every forbidden character", "a/b*c?d:e<f>g|h\"i\\j", "abcdefghij");
         row("name", "blanks trimmed, inner ones and non-ASCII stay", " Amélie:  Ça va? ",

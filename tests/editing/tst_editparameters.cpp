@@ -230,8 +230,7 @@ private slots:
         QTest::addColumn<QString>("colours"); // left, right, most opaque alpha
         const auto row = [](const char *name, const char *text, QRect entry, QRect placed,
                             const char *colours = "") {
-            QTest::newRow(name) << QString::fromLatin1(text) << entry << placed
-                                << QString::fromLatin1(colours);
+            QTest::newRow(name) << text << entry << placed << colours;
         };
         row("inside", "", QRect(10, 5, 20, 10), QRect(10, 5, 20, 10), "#ff0000 #0000ff 255");
         row("past right and bottom", "", QRect(90, 45, 20, 10), QRect(90, 45, 10, 5),

@@ -296,7 +296,7 @@ private slots:
         QTest::addColumn<int>("fade");
         const auto row = [](const char *tag, const QByteArray &sheet, const QByteArray &ini,
                             const char *value, int fade = 330) {
-            QTest::newRow(tag) << sheet << ini << QString::fromLatin1(value) << fade;
+            QTest::newRow(tag) << sheet << ini << value << fade;
         };
         const QByteArray none;
         row("blanks trimmed", block("   K=v w  \r\n"), none, "v w");
@@ -412,7 +412,7 @@ private slots:
     {
         QTest::addColumn<QString>("kind");
         for (const char *kind : {"widget", "main", "dialog"})
-            QTest::newRow(kind) << QString::fromLatin1(kind);
+            QTest::newRow(kind) << kind;
     }
 
     void paintsNinePiecesAndTakesTheirShape()

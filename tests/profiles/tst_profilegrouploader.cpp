@@ -54,7 +54,7 @@ private slots:
         QTest::addColumn<QString>("key");
         QTest::addColumn<QString>("found");
         const auto row = [](const char *name, const char *key, const char *found = "|||") {
-            QTest::newRow(name) << QString::fromLatin1(key) << QString::fromLatin1(found);
+            QTest::newRow(name) << key << found;
         };
         row("default", "1,68", "mp4.xml|mp4|1,64|1,69");
         row("audio", "2,134", "alac.xml|m4a|2,4|2,133");
