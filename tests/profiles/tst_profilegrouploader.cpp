@@ -91,19 +91,17 @@ private slots:
         QTest::addColumn<QByteArray>("contents"); // null: no file
         QTest::addColumn<bool>("unreadable");     // says so in the log
         QTest::addColumn<QString>("first");
-        const QByteArray entry = "<Profile><Id value=\"1001\"/><Name value=\"Mine\"/></Profile>";
+        const QByteArray mine
+            = "<Profile><Id value=\"1001\"/><Name value=\"Mine\"/></Profile></Group></Groups>";
         QTest::newRow("none") << QByteArray() << false << "1,12";
         QTest::newRow("malformed")
             << QByteArray("<Groups><Group><Id value=\"0\"/>") << true << "1,12";
-        QTest::newRow("no group 0")
-            << "<Groups><Group><Id value=\"5\"/>" + entry + "</Group></Groups>" << false << "1,12";
-        QTest::newRow("group without an id reads as 0")
-            << "<Groups><Group><Name value=\"x\"/>" + entry + "</Group></Groups>" << false
-            << "0,1001";
+        QTest::newRow("no group 0") << "<Groups><Group><Id value=\"5\"/>" + mine << false << "1,12";
+        QTest::newRow("no id reads as 0")
+            << "<Groups><Group><Name value=\"x\"/>" + mine << false << "0,1001";
         QTest::newRow("other groups are ignored")
-            << "<Groups><Group><Id value=\"1\"/></Group><Group><Id value=\"0\"/>" + entry
-                   + "</Group></Groups>"
-            << false << "0,1001";
+            << "<Groups><Group><Id value=\"1\"/></Group><Group><Id value=\"0\"/>" + mine << false
+            << "0,1001";
     }
 
     void userFile()
