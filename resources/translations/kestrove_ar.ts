@@ -49,6 +49,135 @@
     </message>
 </context>
 <context>
+    <name>CustomItemWidget</name>
+    <message>
+        <source>Convert This Item</source>
+        <translation>تحويل هذا العنصر</translation>
+    </message>
+    <message>
+        <source>Audio Track</source>
+        <translation>مسار الصوت</translation>
+    </message>
+    <message>
+        <source>Subtitle</source>
+        <translation>الترجمة</translation>
+    </message>
+    <message>
+        <source>Output Name</source>
+        <translation>اسم الملف الناتج</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>ملف التعريف</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>تحريك لأعلى</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>تحريك لأسفل</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>إغلاق</translation>
+    </message>
+    <message>
+        <source>Stop Converting</source>
+        <translation>إيقاف التحويل</translation>
+    </message>
+    <message>
+        <source>Expand</source>
+        <translation>توسيع</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>إيقاف مؤقت</translation>
+    </message>
+    <message>
+        <source>Remaining</source>
+        <translation>المتبقي</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>الاسم</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>البرنامج</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>الحجم</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>المدة</translation>
+    </message>
+    <message>
+        <source>BitRate</source>
+        <translation>معدل البت</translation>
+    </message>
+    <message>
+        <source>%1 kbps</source>
+        <translation>%1 كيلوبت/ث</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>الموقع</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>لا شيء</translation>
+    </message>
+    <message>
+        <source>Edit Audio</source>
+        <translation>تحرير الصوت</translation>
+    </message>
+    <message>
+        <source>Edit Subtitle</source>
+        <translation>تحرير الترجمة</translation>
+    </message>
+    <message>
+        <source>Waiting...</source>
+        <translation>في الانتظار...</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>متوقف مؤقتًا</translation>
+    </message>
+    <message>
+        <source>Pending...</source>
+        <translation>معلّق...</translation>
+    </message>
+    <message>
+        <source>Succeed</source>
+        <translation>نجح</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>فشل</translation>
+    </message>
+    <message>
+        <source>Collapse</source>
+        <translation>طي</translation>
+    </message>
+    <message>
+        <source>Tessarine Kestrove</source>
+        <translation>Tessarine Kestrove</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to stop converting?
+Some of the unfinished files cannot be played properly.</source>
+        <translation>هل أنت متأكد من أنك تريد إيقاف التحويل؟
+لن يمكن تشغيل بعض الملفات غير المكتملة بشكل صحيح.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>متابعة</translation>
+    </message>
+</context>
+<context>
     <name>PlayerScreen</name>
     <message>
         <source>Video</source>

@@ -49,6 +49,135 @@
     </message>
 </context>
 <context>
+    <name>CustomItemWidget</name>
+    <message>
+        <source>Convert This Item</source>
+        <translation>Převést tuto položku</translation>
+    </message>
+    <message>
+        <source>Audio Track</source>
+        <translation>Zvuková stopa</translation>
+    </message>
+    <message>
+        <source>Subtitle</source>
+        <translation>Titulky</translation>
+    </message>
+    <message>
+        <source>Output Name</source>
+        <translation>Název výstupu</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>Profil</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>Posunout nahoru</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Posunout dolů</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Zavřít</translation>
+    </message>
+    <message>
+        <source>Stop Converting</source>
+        <translation>Zastavit převod</translation>
+    </message>
+    <message>
+        <source>Expand</source>
+        <translation>Rozbalit</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pozastavit</translation>
+    </message>
+    <message>
+        <source>Remaining</source>
+        <translation>Zbývá</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Název</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Program</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Velikost</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Délka</translation>
+    </message>
+    <message>
+        <source>BitRate</source>
+        <translation>Datový tok</translation>
+    </message>
+    <message>
+        <source>%1 kbps</source>
+        <translation>%1 kb/s</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Umístění</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Žádné</translation>
+    </message>
+    <message>
+        <source>Edit Audio</source>
+        <translation>Upravit zvuk</translation>
+    </message>
+    <message>
+        <source>Edit Subtitle</source>
+        <translation>Upravit titulky</translation>
+    </message>
+    <message>
+        <source>Waiting...</source>
+        <translation>Čeká...</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>Pozastaveno</translation>
+    </message>
+    <message>
+        <source>Pending...</source>
+        <translation>Připravuje se...</translation>
+    </message>
+    <message>
+        <source>Succeed</source>
+        <translation>Hotovo</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Selhalo</translation>
+    </message>
+    <message>
+        <source>Collapse</source>
+        <translation>Sbalit</translation>
+    </message>
+    <message>
+        <source>Tessarine Kestrove</source>
+        <translation>Tessarine Kestrove</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to stop converting?
+Some of the unfinished files cannot be played properly.</source>
+        <translation>Opravdu chcete zastavit převod?
+Některé z nedokončených souborů nepůjde správně přehrát.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Pokračovat</translation>
+    </message>
+</context>
+<context>
     <name>PlayerScreen</name>
     <message>
         <source>Video</source>

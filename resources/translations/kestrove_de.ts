@@ -49,6 +49,135 @@
     </message>
 </context>
 <context>
+    <name>CustomItemWidget</name>
+    <message>
+        <source>Convert This Item</source>
+        <translation>Dieses Element konvertieren</translation>
+    </message>
+    <message>
+        <source>Audio Track</source>
+        <translation>Tonspur</translation>
+    </message>
+    <message>
+        <source>Subtitle</source>
+        <translation>Untertitel</translation>
+    </message>
+    <message>
+        <source>Output Name</source>
+        <translation>Ausgabename</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>Profil</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>Nach oben</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Nach unten</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Stop Converting</source>
+        <translation>Konvertierung abbrechen</translation>
+    </message>
+    <message>
+        <source>Expand</source>
+        <translation>Aufklappen</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Remaining</source>
+        <translation>Verbleibend</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Programm</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Dauer</translation>
+    </message>
+    <message>
+        <source>BitRate</source>
+        <translation>Bitrate</translation>
+    </message>
+    <message>
+        <source>%1 kbps</source>
+        <translation>%1 kbit/s</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Ort</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>Edit Audio</source>
+        <translation>Audio bearbeiten</translation>
+    </message>
+    <message>
+        <source>Edit Subtitle</source>
+        <translation>Untertitel bearbeiten</translation>
+    </message>
+    <message>
+        <source>Waiting...</source>
+        <translation>Wartet...</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>Angehalten</translation>
+    </message>
+    <message>
+        <source>Pending...</source>
+        <translation>Ausstehend...</translation>
+    </message>
+    <message>
+        <source>Succeed</source>
+        <translation>Erfolgreich</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>Collapse</source>
+        <translation>Zuklappen</translation>
+    </message>
+    <message>
+        <source>Tessarine Kestrove</source>
+        <translation>Tessarine Kestrove</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to stop converting?
+Some of the unfinished files cannot be played properly.</source>
+        <translation>Möchten Sie die Konvertierung wirklich abbrechen?
+Einige der unfertigen Dateien lassen sich nicht richtig abspielen.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Fortsetzen</translation>
+    </message>
+</context>
+<context>
     <name>PlayerScreen</name>
     <message>
         <source>Video</source>

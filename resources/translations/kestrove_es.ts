@@ -49,6 +49,135 @@
     </message>
 </context>
 <context>
+    <name>CustomItemWidget</name>
+    <message>
+        <source>Convert This Item</source>
+        <translation>Convertir este elemento</translation>
+    </message>
+    <message>
+        <source>Audio Track</source>
+        <translation>Pista de audio</translation>
+    </message>
+    <message>
+        <source>Subtitle</source>
+        <translation>Subtítulo</translation>
+    </message>
+    <message>
+        <source>Output Name</source>
+        <translation>Nombre de salida</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>Perfil</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>Subir</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Bajar</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Stop Converting</source>
+        <translation>Detener la conversión</translation>
+    </message>
+    <message>
+        <source>Expand</source>
+        <translation>Expandir</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pausa</translation>
+    </message>
+    <message>
+        <source>Remaining</source>
+        <translation>Restante</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Programa</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Tamaño</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Duración</translation>
+    </message>
+    <message>
+        <source>BitRate</source>
+        <translation>Tasa de bits</translation>
+    </message>
+    <message>
+        <source>%1 kbps</source>
+        <translation>%1 kbps</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Ubicación</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Ninguno</translation>
+    </message>
+    <message>
+        <source>Edit Audio</source>
+        <translation>Editar audio</translation>
+    </message>
+    <message>
+        <source>Edit Subtitle</source>
+        <translation>Editar subtítulos</translation>
+    </message>
+    <message>
+        <source>Waiting...</source>
+        <translation>Esperando...</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>En pausa</translation>
+    </message>
+    <message>
+        <source>Pending...</source>
+        <translation>Pendiente...</translation>
+    </message>
+    <message>
+        <source>Succeed</source>
+        <translation>Completado</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>Collapse</source>
+        <translation>Contraer</translation>
+    </message>
+    <message>
+        <source>Tessarine Kestrove</source>
+        <translation>Tessarine Kestrove</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to stop converting?
+Some of the unfinished files cannot be played properly.</source>
+        <translation>¿Seguro que desea detener la conversión?
+Algunos de los archivos sin terminar no se podrán reproducir correctamente.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Continuar</translation>
+    </message>
+</context>
+<context>
     <name>PlayerScreen</name>
     <message>
         <source>Video</source>

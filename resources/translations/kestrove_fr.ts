@@ -49,6 +49,135 @@
     </message>
 </context>
 <context>
+    <name>CustomItemWidget</name>
+    <message>
+        <source>Convert This Item</source>
+        <translation>Convertir cet élément</translation>
+    </message>
+    <message>
+        <source>Audio Track</source>
+        <translation>Piste audio</translation>
+    </message>
+    <message>
+        <source>Subtitle</source>
+        <translation>Sous-titre</translation>
+    </message>
+    <message>
+        <source>Output Name</source>
+        <translation>Nom de sortie</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>Profil</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>Monter</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Descendre</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Stop Converting</source>
+        <translation>Arrêter la conversion</translation>
+    </message>
+    <message>
+        <source>Expand</source>
+        <translation>Développer</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Remaining</source>
+        <translation>Restant</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Programme</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Taille</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Durée</translation>
+    </message>
+    <message>
+        <source>BitRate</source>
+        <translation>Débit</translation>
+    </message>
+    <message>
+        <source>%1 kbps</source>
+        <translation>%1 kb/s</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Emplacement</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Aucun</translation>
+    </message>
+    <message>
+        <source>Edit Audio</source>
+        <translation>Modifier l&apos;audio</translation>
+    </message>
+    <message>
+        <source>Edit Subtitle</source>
+        <translation>Modifier les sous-titres</translation>
+    </message>
+    <message>
+        <source>Waiting...</source>
+        <translation>En attente...</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>En pause</translation>
+    </message>
+    <message>
+        <source>Pending...</source>
+        <translation>En suspens...</translation>
+    </message>
+    <message>
+        <source>Succeed</source>
+        <translation>Réussi</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Échec</translation>
+    </message>
+    <message>
+        <source>Collapse</source>
+        <translation>Réduire</translation>
+    </message>
+    <message>
+        <source>Tessarine Kestrove</source>
+        <translation>Tessarine Kestrove</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to stop converting?
+Some of the unfinished files cannot be played properly.</source>
+        <translation>Voulez-vous vraiment arrêter la conversion ?
+Certains fichiers inachevés ne pourront pas être lus correctement.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Reprendre</translation>
+    </message>
+</context>
+<context>
     <name>PlayerScreen</name>
     <message>
         <source>Video</source>

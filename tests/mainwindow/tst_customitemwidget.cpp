@@ -1,0 +1,282 @@
+#include "controls.h"
+#include "customitemwidget.h"
+#include "dvddisc.h"
+#include "mediafixtures.h"
+#include "profilegrouploader.h"
+#include "tasklist.h"
+#include "tasktreeops.h"
+#include "testhome.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+// Stands in for the main window: the rows find these slots by name.
+class HostWindow : public QWidget
+{
+    Q_OBJECT
+
+public:
+    int audioEdits = 0;
+    int trackChanges = 0;
+    int plays = 0;
+
+public slots:
+    void on_actionPlay_Pause_triggered() { ++plays; }
+    void on_actionAudio_Track_triggered() { ++audioEdits; }
+    void onStopAndContinuePlay(int, int) { ++trackChanges; }
+};
+
+class TestCustomItemWidget : public QObject
+{
+    Q_OBJECT
+
+private:
+    QString fixtures;
+    std::unique_ptr<DvdDisc> disc;
+    std::unique_ptr<TaskList> list;
+    std::unique_ptr<HostWindow> window;
+    QTreeWidget *tree = nullptr;
+
+    // One plain row for a fixture file, or for the disc's first title ("dvd").
+    CustomItemWidget *addRow(const QString &source)
+    {
+        const QString key = ProfileGroupLoader::instance()->defaultProfile();
+        const int id = source == QLatin1String("dvd")
+                           ? list->addTitle(key, *disc->titles[0], 1, 1)
+                           : list->addFile(key, fixture(fixtures, source.toUtf8().constData()));
+        if (id < 0)
+            return nullptr;
+        return addItem(nullptr, id, RowNormal, -1);
+    }
+
+    CustomItemWidget *addItem(QTreeWidgetItem *parent, int taskId, RowKind kind, int childId)
+    {
+        if (parent)
+            parent->setExpanded(true);
+        auto *item = parent ? new QTreeWidgetItem(parent) : new QTreeWidgetItem(tree);
+        item->setData(0, RoleTaskId, taskId);
+        item->setData(0, RoleChildId, childId);
+        item->setData(0, RoleKind, kind);
+        if (kind == RowDisc)
+            item->setData(0, RoleDiscPath, fixture(fixtures, "dvd-main"));
+        auto *row = new CustomItemWidget(tree, item, list.get(), taskId, kind, childId);
+        tree->setItemWidget(item, 0, row);
+        tree->setCurrentItem(item);
+        QCoreApplication::processEvents(); // the tree lays out its rows
+        return row;
+    }
+
+private slots:
+    void initTestCase()
+    {
+        REQUIRE_MEDIA_FIXTURES(fixtures);
+        disc = loadDisc(fixture(fixtures, "dvd-main/VIDEO_TS/VTS_01_0.IFO"));
+        QVERIFY(disc && !disc->titles.empty());
+    }
+
+    void init()
+    {
+        list = std::make_unique<TaskList>(ProfileGroupLoader::instance());
+        window = std::make_unique<HostWindow>();
+        tree = new QTreeWidget(window.get());
+        (new QVBoxLayout(window.get()))->addWidget(tree);
+        window->resize(700, 300);
+        window->show();
+        window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(window.get()));
+    }
+
+    void cleanup()
+    {
+        window.reset();
+        list.reset();
+    }
+
+    void rename_data()
+    {
+        QTest::addColumn<QString>("source");
+        QTest::addColumn<bool>("byKey"); // F2 on the tree, else a click on the name
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<int>("endKey");
+        QTest::addColumn<QString>("base"); // expected; empty: the old one stays
+        QTest::newRow("click, Return") << "movie.mkv" << false << "holiday" << int(Qt::Key_Return)
+                                       << "holiday";
+        QTest::newRow("F2, Enter, title") << "dvd" << true << "  feature  " << int(Qt::Key_Enter)
+                                          << "feature";
+        QTest::newRow("points stay in the name")
+            << "tone.flac" << false << "a.b" << int(Qt::Key_Return) << "a.b";
+        QTest::newRow("Escape") << "movie.mkv" << true << "other" << int(Qt::Key_Escape) << "";
+        QTest::newRow("only forbidden") << "movie.mkv" << false << "<>:?*|" << int(Qt::Key_Return)
+                                        << "";
+    }
+
+    void rename()
+    {
+        QFETCH(QString, source);
+        QFETCH(bool, byKey);
+        QFETCH(QString, typed);
+        QFETCH(int, endKey);
+        QFETCH(QString, base);
+        CustomItemWidget *row = addRow(source);
+        QVERIFY(row);
+        Task *task = list->at(0);
+        const QString old = task->output.fileName;
+        const QString extension = QFileInfo(old).suffix();
+        QVERIFY(!extension.isEmpty());
+        QCOMPARE(row->labelOutputName->text(), old);
+
+        if (byKey) {
+            tree->setFocus();
+            QTest::keyClick(tree, Qt::Key_F2);
+        } else {
+            QTest::mouseClick(row->labelOutputName, Qt::LeftButton);
+        }
+        QTRY_VERIFY(row->editOutputName->hasFocus());
+        QCOMPARE(row->editOutputName->text(), QFileInfo(old).completeBaseName());
+        QVERIFY(!row->labelOutputName->isVisible());
+        row->editOutputName->clear();
+        QTest::keyClicks(row->editOutputName, typed);
+        QTest::keyClick(row->editOutputName, Qt::Key(endKey));
+
+        const QString expected = base.isEmpty() ? old : base + QLatin1Char('.') + extension;
+        QCOMPARE(task->output.fileName, expected);
+        QCOMPARE(row->labelOutputName->text(), expected);
+        QVERIFY(row->labelOutputName->isVisible());
+        QVERIFY(!row->editOutputName->isVisible());
+    }
+
+    void tracks_data()
+    {
+        QTest::addColumn<QString>("source");
+        QTest::addColumn<QStringList>("audioHead"); // the first entries of the audio combo
+        QTest::addColumn<bool>("subtitles");
+        QTest::newRow("video file") << "movie.mkv" << QStringList{QStringLiteral("None")} << true;
+        QTest::newRow("audio only") << "tone.flac" << QStringList{} << false;
+        QTest::newRow("disc title") << "dvd" << QStringList{QStringLiteral("None")} << true;
+    }
+
+    void tracks()
+    {
+        QFETCH(QString, source);
+        QFETCH(QStringList, audioHead);
+        QFETCH(bool, subtitles);
+        CustomItemWidget *row = addRow(source);
+        QVERIFY(row);
+        ChildTask *input = list->at(0)->item(0);
+        QComboBox *combo = row->comboAudio;
+        const int tracks = int(input->edit.audioTracks.size());
+        QVERIFY(tracks > 0);
+        QCOMPARE(combo->count(), audioHead.size() + tracks + 1);
+        for (int i = 0; i < audioHead.size(); ++i)
+            QCOMPARE(combo->itemText(i), audioHead[i]);
+        QCOMPARE(combo->itemText(audioHead.size()), input->edit.audioTracks[0]->text());
+        QCOMPARE(row->comboSubtitle->isEnabled(), subtitles);
+
+        // "Edit Audio" opens the editor and keeps the track chosen before.
+        const int shown = combo->currentIndex();
+        const int stream = input->edit.selectedAudioStream();
+        QTest::keyClick(combo, Qt::Key_End);
+        QCOMPARE(window->audioEdits, 1);
+        QCOMPARE(input->edit.selectedAudioStream(), stream);
+        QCOMPARE(combo->currentIndex(), shown);
+        QCOMPARE(window->trackChanges, 0);
+
+        // The first entry is "None" where there is a picture, else the first track.
+        QTest::keyClick(combo, Qt::Key_Home);
+        QCOMPARE(window->trackChanges, shown == 0 ? 0 : 1);
+        QCOMPARE(input->edit.anyAudioSelected(), audioHead.isEmpty());
+        QCOMPARE(tree->currentItem(), tree->topLevelItem(0));
+    }
+
+    void kinds_data()
+    {
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<bool>("tracks"); // the track combos are shown
+        QTest::addColumn<bool>("tick");   // the check box is shown
+        QTest::addColumn<bool>("plays");  // on a double click
+        QTest::addColumn<bool>("renames"); // on a click on the name
+        QTest::newRow("merge") << int(RowMerge) << "" << false << true << false << true;
+        QTest::newRow("child") << int(RowChild) << "movie" << true << false << true << false;
+        QTest::newRow("disc") << int(RowDisc) << "dvd-main" << false << false << false << false;
+    }
+
+    void kinds()
+    {
+        QFETCH(int, kind);
+        QFETCH(QString, name);
+        QFETCH(bool, tracks);
+        QFETCH(bool, tick);
+        QFETCH(bool, plays);
+        QFETCH(bool, renames);
+        const QString key = ProfileGroupLoader::instance()->defaultProfile();
+        const int source = list->addFile(key, fixture(fixtures, "movie.mkv"));
+        const int merge = list->addMerge(key);
+        const int child = list->addToMerge(source, merge);
+        QVERIFY(child >= 0);
+        CustomItemWidget *row = nullptr;
+        if (kind == RowDisc) {
+            row = addItem(nullptr, -1, RowDisc, -1);
+        } else {
+            row = addItem(nullptr, merge, RowMerge, -1);
+            if (kind == RowChild)
+                row = addItem(tree->topLevelItem(0), merge, RowChild, child);
+        }
+        if (name.isEmpty())
+            name = list->byId(merge)->output.fileName;
+        QVERIFY(row->labelOutputName->text().endsWith(name));
+        QCOMPARE(row->comboAudio->isVisible(), tracks);
+        QCOMPARE(row->checkBox->isVisible(), tick);
+        QTest::mouseClick(row->labelOutputName, Qt::LeftButton);
+        QCOMPARE(row->editOutputName->isVisible(), renames);
+        QTest::keyClick(row->editOutputName, Qt::Key_Escape);
+        QTest::mouseDClick(row->timeLengthLabel, Qt::LeftButton);
+        QCOMPARE(window->plays, plays ? 1 : 0);
+    }
+
+    void faces_data()
+    {
+        QTest::addColumn<int>("state");
+        QTest::addColumn<bool>("progress");
+        QTest::addColumn<QString>("status");
+        QTest::newRow("Idle") << int(Task::Idle) << false << "";
+        QTest::newRow("Waiting") << int(Task::Waiting) << false << "Waiting...";
+        QTest::newRow("Running") << int(Task::Running) << true << "";
+        QTest::newRow("Paused") << int(Task::Paused) << true << "Paused";
+        QTest::newRow("Pending") << int(Task::Pending) << true << "Pending...";
+        QTest::newRow("Succeed") << int(Task::Succeed) << false << "Succeed";
+        QTest::newRow("Failed") << int(Task::Failed) << false << "Failed";
+    }
+
+    // Each state reached from Running and from Idle, as the window switches them.
+    void faces()
+    {
+        QFETCH(int, state);
+        QFETCH(bool, progress);
+        QFETCH(QString, status);
+        CustomItemWidget *row = addRow(QStringLiteral("movie.mkv"));
+        QVERIFY(row);
+        Task *task = list->at(0);
+        for (const Task::EState from : {Task::Running, Task::Idle}) {
+            task->setState(from);
+            row->showProgress(from == Task::Running);
+            row->refresh();
+            task->setState(Task::EState(state));
+            row->showProgress(progress);
+            row->refresh();
+            QCOMPARE(row->progressWidget->isVisible(), progress);
+            QCOMPARE(row->profileWidget->isVisible(), !progress);
+            QCOMPARE(row->taskStatusLabel->text(), status);
+        }
+    }
+};
+
+// Made before the application, so the store and the user's folders are the test's own.
+static TestHome home;
+QTEST_MAIN(TestCustomItemWidget)
+#include "tst_customitemwidget.moc"
