@@ -263,7 +263,8 @@ void CustomItemWidget::connectToWindow()
     if (!window)
         return;
     static const char *const pairs[][2] = {
-        {SIGNAL(itemChanged(QTreeWidgetItem *, int)), SLOT(on_treeTask_itemChanged(QTreeWidgetItem *, int))},
+        {SIGNAL(itemChanged(QTreeWidgetItem *, int)),
+         SLOT(on_treeTask_itemChanged(QTreeWidgetItem *, int))},
         {SIGNAL(pauseTask(int, bool)), SLOT(onPauseTask(int, bool))},
         {SIGNAL(stopTask(int)), SLOT(onStopTask(int))},
         {SIGNAL(emptyList()), SLOT(on_actionClear_All_triggered())},
@@ -320,8 +321,8 @@ void CustomItemWidget::applyKind()
         }
         break;
     case RowMerge:
-        for (QWidget *widget : std::initializer_list<QWidget *>{pictureFrame, pictureLabel1, pictureLabel2,
-                                                                 pictureLabel3, pictureLabel4}) {
+        for (QWidget *widget : std::initializer_list<QWidget *>{
+                 pictureFrame, pictureLabel1, pictureLabel2, pictureLabel3, pictureLabel4}) {
             widget->setProperty("type", QStringLiteral("merge"));
             TaskTreeOps::Repolish(widget);
         }
@@ -437,7 +438,8 @@ void CustomItemWidget::fillSubtitleCombo()
     comboSubtitle->addItem(tr("None"));
     int current = 0;
     for (const auto &entry : source->edit.subtitles) {
-        comboSubtitle->addItem(entry->external ? QStringLiteral("* ") + entry->text() : entry->text());
+        comboSubtitle->addItem(entry->external ? QStringLiteral("* ") + entry->text()
+                                               : entry->text());
         if (entry->selected)
             current = comboSubtitle->count() - 1;
     }
@@ -522,18 +524,18 @@ void CustomItemWidget::refreshProfileIcon()
     const QDomNode profile = ProfileGroupLoader::instance()->profile(key[0], key[1]);
     if (profile.isNull())
         return;
-    const QString small = ProfileGroupLoader::iconPath(childValue(profile, QStringLiteral("IconName")));
+    const QString small
+        = ProfileGroupLoader::iconPath(childValue(profile, QStringLiteral("IconName")));
     const QString big = QString(small).replace(QStringLiteral("/small/"), QStringLiteral("/big/"));
     profileBtn->setIcon(QIcon(QFile::exists(big) ? big : small));
     const QString name = childValue(profile, QStringLiteral("Name"));
     const QString desc = childValue(profile, QStringLiteral("Desc"));
     // A user's own profile is named as the user wrote it.
-    profileBtn->setToolTip(
-        QStringLiteral("%1\n%2")
-            .arg(ProfileGroupLoader::isUserProfileId(key[1])
-                     ? name
-                     : QCoreApplication::translate("Profile", name.toUtf8().constData()),
-                 QCoreApplication::translate("Profile", desc.toUtf8().constData())));
+    profileBtn->setToolTip(QStringLiteral("%1\n%2").arg(
+        ProfileGroupLoader::isUserProfileId(key[1])
+            ? name
+            : QCoreApplication::translate("Profile", name.toUtf8().constData()),
+        QCoreApplication::translate("Profile", desc.toUtf8().constData())));
 }
 
 void CustomItemWidget::on_profileBtn_clicked()
@@ -560,8 +562,9 @@ bool CustomItemWidget::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == tree) {
         // F2 on the tree renames its current row, as a click on the name does.
-        if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent *>(event)->key() == Qt::Key_F2
-            && tree->currentItem() == item && canStartRename()) {
+        if (event->type() == QEvent::KeyPress
+            && static_cast<QKeyEvent *>(event)->key() == Qt::Key_F2 && tree->currentItem() == item
+            && canStartRename()) {
             startRename();
             return true;
         }
@@ -590,9 +593,9 @@ bool CustomItemWidget::eventFilter(QObject *watched, QEvent *event)
 
 void CustomItemWidget::keyPressEvent(QKeyEvent *event)
 {
-    const bool renameKey = event->key() == Qt::Key_F2
-                           || (hasFocus() && (event->key() == Qt::Key_Return
-                                              || event->key() == Qt::Key_Enter));
+    const bool renameKey
+        = event->key() == Qt::Key_F2
+          || (hasFocus() && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter));
     if (renameKey && canStartRename()) {
         startRename();
         return;
@@ -815,10 +818,9 @@ void CustomItemWidget::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange) {
         retranslateUi(this);
-        pauseBtn->setAccessibleName(pauseBtn->property("status").toString()
-                                            == QLatin1String("continue")
-                                        ? tr("Continue")
-                                        : tr("Pause"));
+        pauseBtn->setAccessibleName(
+            pauseBtn->property("status").toString() == QLatin1String("continue") ? tr("Continue")
+                                                                                 : tr("Pause"));
         TaskTreeOps::Repolish(pauseBtn);
         refresh();
     }

@@ -24,8 +24,10 @@ public:
     int audioEdits = 0;
     int trackChanges = 0;
     int plays = 0;
+    int clears = 0;
 
 public slots:
+    void on_actionClear_All_triggered() { ++clears; }
     void on_actionPlay_Pause_triggered() { ++plays; }
     void on_actionAudio_Track_triggered() { ++audioEdits; }
     void onStopAndContinuePlay(int, int) { ++trackChanges; }
@@ -104,15 +106,15 @@ private slots:
         QTest::addColumn<QString>("typed");
         QTest::addColumn<int>("endKey");
         QTest::addColumn<QString>("base"); // expected; empty: the old one stays
-        QTest::newRow("click, Return") << "movie.mkv" << false << "holiday" << int(Qt::Key_Return)
-                                       << "holiday";
-        QTest::newRow("F2, Enter, title") << "dvd" << true << "  feature  " << int(Qt::Key_Enter)
-                                          << "feature";
+        QTest::newRow("click, Return")
+            << "movie.mkv" << false << "holiday" << int(Qt::Key_Return) << "holiday";
+        QTest::newRow("F2, Enter, title")
+            << "dvd" << true << "  feature  " << int(Qt::Key_Enter) << "feature";
         QTest::newRow("points stay in the name")
             << "tone.flac" << false << "a.b" << int(Qt::Key_Return) << "a.b";
         QTest::newRow("Escape") << "movie.mkv" << true << "other" << int(Qt::Key_Escape) << "";
-        QTest::newRow("only forbidden") << "movie.mkv" << false << "<>:?*|" << int(Qt::Key_Return)
-                                        << "";
+        QTest::newRow("only forbidden")
+            << "movie.mkv" << false << "<>:?*|" << int(Qt::Key_Return) << "";
     }
 
     void rename()
@@ -197,9 +199,9 @@ private slots:
     {
         QTest::addColumn<int>("kind");
         QTest::addColumn<QString>("name");
-        QTest::addColumn<bool>("tracks"); // the track combos are shown
-        QTest::addColumn<bool>("tick");   // the check box is shown
-        QTest::addColumn<bool>("plays");  // on a double click
+        QTest::addColumn<bool>("tracks");  // the track combos are shown
+        QTest::addColumn<bool>("tick");    // the check box is shown
+        QTest::addColumn<bool>("plays");   // on a double click
         QTest::addColumn<bool>("renames"); // on a click on the name
         QTest::newRow("merge") << int(RowMerge) << "" << false << true << false << true;
         QTest::newRow("child") << int(RowChild) << "movie" << true << false << true << false;
@@ -237,6 +239,34 @@ private slots:
         QTest::keyClick(row->editOutputName, Qt::Key_Escape);
         QTest::mouseDClick(row->timeLengthLabel, Qt::LeftButton);
         QCOMPARE(window->plays, plays ? 1 : 0);
+    }
+
+    void closeButton_data()
+    {
+        QTest::addColumn<int>("state");
+        QTest::addColumn<bool>("removed");
+        QTest::newRow("idle") << int(Task::Idle) << true;
+        QTest::newRow("running") << int(Task::Running) << false;
+    }
+
+    // The last row closed empties the list; a busy one can't be closed.
+    void closeButton()
+    {
+        QFETCH(int, state);
+        QFETCH(bool, removed);
+        CustomItemWidget *row = addRow(QStringLiteral("movie.mkv"));
+        QVERIFY(row);
+        list->at(0)->setState(Task::EState(state));
+        // What the window's list operation will do.
+        connect(row, &CustomItemWidget::removeRequested, tree,
+                [this] { delete tree->takeTopLevelItem(0); });
+        QEnterEvent enter(QPointF(1, 1), QPointF(1, 1), QPointF(1, 1));
+        QCoreApplication::sendEvent(row, &enter);
+        QVERIFY(row->closeBtn->isVisible());
+        QVERIFY(!row->upBtn->isEnabled());
+        QTest::mouseClick(row->closeBtn, Qt::LeftButton);
+        QCOMPARE(tree->topLevelItemCount(), removed ? 0 : 1);
+        QCOMPARE(window->clears, removed ? 1 : 0);
     }
 
     void faces_data()
