@@ -99,14 +99,6 @@ inline void setIfoField(QByteArray &ifo, int at, int size, quint32 value)
         ifo[at + i] = char(value & 0xff);
 }
 
-// Where the cell playback table of PGC `pgc` (from 0) of a title set IFO lies.
-inline int cellTableOfPgc(const QByteArray &ifo, int pgc)
-{
-    const int pgcit = int(ifoField(ifo, 0xcc, 4)) * 2048;
-    const int start = pgcit + int(ifoField(ifo, pgcit + 12 + 8 * pgc, 4));
-    return start + int(ifoField(ifo, start + 232, 2));
-}
-
 #if __has_include("dvddisc.h")
 #include "dvddisc.h"
 

@@ -23,35 +23,23 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // "index:language:rate:channels:codec" per audio stream, then "| index:language"
-// per subtitle stream, then "| start-end:name" per chapter; a disc title's
-// streams have no index.
-QString streams(const MediaInfo &info, bool indexed = true)
+// per subtitle stream, then "| start-end:name" per chapter.
+QString streams(const MediaInfo &info)
 {
     QStringList audio, subtitles, chapters;
-    const auto index = [indexed](int i) {
-        return indexed ? u"%1:"_s.arg(i) : QString();
-    };
     for (const AudioStreamInfo &stream : info.audioStreams)
-        audio << index(stream.index)
-                     + u"%1:%2:%3:%4"_s.arg(stream.language)
-                           .arg(stream.sampleRate)
-                           .arg(stream.channels)
-                           .arg(stream.codec);
+        audio << u"%1:%2:%3:%4:%5"_s.arg(stream.index)
+                     .arg(stream.language)
+                     .arg(stream.sampleRate)
+                     .arg(stream.channels)
+                     .arg(stream.codec);
     for (const SubtitleStreamInfo &subtitle : info.subtitleStreams)
-        subtitles << index(subtitle.index) + subtitle.language;
+        subtitles << u"%1:%2"_s.arg(subtitle.index).arg(subtitle.language);
     for (const MediaChapter &chapter : info.chapters)
         chapters << u"%1-%2:%3"_s.arg(chapter.start, 0, 'g', 4)
                         .arg(chapter.end, 0, 'g', 4)
                         .arg(chapter.name);
     return u"%1 | %2 | %3"_s.arg(audio.join(u' '), subtitles.join(u' '), chapters.join(u' '));
-}
-
-QString video(const MediaInfo &info)
-{
-    return u"%1 %2x%3@%4"_s.arg(info.videoCodec)
-        .arg(info.width)
-        .arg(info.height)
-        .arg(info.frameRate);
 }
 
 const QString profile = QStringLiteral("1,68");
@@ -88,7 +76,7 @@ class TestMediaInfo : public QObject
     QTemporaryDir scratch;
     QString main() const { return fixture(fixtures, "dvd-main/VIDEO_TS/VTS_01_0.IFO"); }
     QString ntsc() const { return fixture(fixtures, "dvd-ntsc/VIDEO_TS/VTS_01_0.IFO"); }
-    std::unique_ptr<DvdDisc> disc;
+    std::unique_ptr<DvdDisc> disc, ntscDisc;
     TaskList list;
     QImage placeholder = filled(Qt::darkGray);
     QImage audioPlaceholder = filled(Qt::darkGreen);
@@ -101,7 +89,8 @@ private slots:
     {
         REQUIRE_MEDIA_FIXTURES(fixtures);
         disc = loadDisc(main());
-        QVERIFY(disc && disc->titles.size() == 3);
+        ntscDisc = loadDisc(ntsc(), 0);
+        QVERIFY(disc && disc->titles.size() == 3 && ntscDisc);
         reader()->setTaskList(&list);
         reader()->setVideoImage(placeholder);
         reader()->setAudioImage(audioPlaceholder);
@@ -114,37 +103,57 @@ private slots:
 
     void probe_data()
     {
-        QTest::addColumn<QString>("path");
-        QTest::addColumn<int>("pgc"); // a title of a disc, read through the title reader
-        QTest::addColumn<double>("duration");
-        QTest::addColumn<QString>("video"); // "codec WxH@fps aspect", empty for none
+        QTest::addColumn<QString>("path"); // "title N" is one of the disc's, as its IFO tells it
+        QTest::addColumn<int>("pgc");      // a title of a disc, read through the title reader
+        QTest::addColumn<double>("duration"); // none: the probe fails
+        QTest::addColumn<QString>("video");   // "codec WxH@fps aspect", empty for none
         QTest::addColumn<QString>("streams");
-        const auto row = [this](const char *name, const char *path, double duration,
-                                const char *video, const char *streams, int pgc = -1) {
-            QTest::newRow(name) << fixture(fixtures, path) << pgc << duration
+        const auto row = [this](const char *name, const QString &path, double duration,
+                                const char *video = "", const char *streams = " |  | ",
+                                int pgc = -1) {
+            QTest::newRow(name) << QDir(fixtures).filePath(path) << pgc << duration
                                 << QString::fromLatin1(video) << QString::fromLatin1(streams);
         };
-        row("Matroska", "movie.mkv", 3.0, "mpeg4 320x240@25 0",
+        row("Matroska", u"movie.mkv"_s, 3.0, "mpeg4 320x240@25 0",
             "1:eng:48000:2:mp2 2:fre:44100:1:ac3 | 3:ger | 0-1.5:Opening 1.5-3:Chapter_2");
-        row("MP4", "clip.mp4", 2.0, "mpeg4 160x120@30 0", "1:und:44100:1:aac |  | ");
+        row("MP4", u"clip.mp4"_s, 2.0, "mpeg4 160x120@30 0", "1:und:44100:1:aac |  | ");
         // Pixels that are not square: the shape comes from their aspect.
-        row("16:9 MP4", "wide.mp4", 1.0, "mpeg4 720x576@25 1.778", " |  | ");
-        row("4:3 MPEG-PS", "narrow.mpg", 1.0, "mpeg2video 720x576@25 1.333", " |  | ");
-        row("turned a quarter", "turned.mp4", 1.0, "mpeg4 240x320@25 0", " |  | ");
+        row("16:9 MP4", u"wide.mp4"_s, 1.0, "mpeg4 720x576@25 1.778");
+        row("4:3 MPEG-PS", u"narrow.mpg"_s, 1.0, "mpeg2video 720x576@25 1.333");
+        row("turned a quarter", u"turned.mp4"_s, 1.0, "mpeg4 240x320@25 0");
         // Program streams whose timestamps start again: the walk through
         // them counts what plays.
-        row("recorder VOB, clock set back", "recorder.vob", 20.0, "mpeg2video 352x288@25 0",
+        row("recorder VOB, clock set back", u"recorder.vob"_s, 20.0, "mpeg2video 352x288@25 0",
             "1::48000:1:mp2 |  | ");
-        row("VOB of a disc, cells from 0 each", "dvd-main/VIDEO_TS/VTS_01_1.VOB", 8.8,
+        row("VOB of a disc, cells from 0 each", u"dvd-main/VIDEO_TS/VTS_01_1.VOB"_s, 8.8,
             "mpeg2video 720x576@25 1.333", "2::48000:2:ac3 3::48000:2:mp2 | 4: | ");
-        row("audio only", "tone.flac", 2.5, "", "0::44100:1:flac |  | ");
+        row("audio only", u"tone.flac"_s, 2.5, "", "0::44100:1:flac |  | ");
         // Under libavformat's MPEG-PS demuxer the streams the IFO announces
         // appear by their stream ids.
-        const char *ifo = "dvd-main/VIDEO_TS/VTS_01_0.IFO";
-        row("red title", ifo, 4.8, "mpeg2video 720x576@25 1.333",
+        row("red title", main(), 4.8, "mpeg2video 720x576@25 1.333",
             "128::48000:2:ac3 192::48000:2:mp2 | 32: | ", 0);
-        row("blue title", ifo, 2.4, "mpeg2video 720x576@25 1.333",
+        row("blue title", main(), 2.4, "mpeg2video 720x576@25 1.333",
             "128::48000:2:ac3 192::48000:2:mp2 |  | ", 1);
+        // The disc gives one set of sound attributes for all tracks.
+        const QString tracks = u"0:en AC3 2ch:48000:2:AC3 0:fr MPEG-1 2ch:48000:2:AC3 | "_s;
+        row("three chapters", u"title 0"_s, 4.8, "MPEG-2 720x576@25 1.333",
+            qPrintable(tracks + u"0:de Normal | 0-1.2:Chapter_1 1.2-3:Chapter_2 3-4.2:Chapter_3"_s));
+        row("one chapter gives none", u"title 1"_s, 2.4, "MPEG-2 720x576@25 1.333",
+            qPrintable(tracks + u" | "_s));
+        row("NTSC 16:9", u"NTSC title 0"_s, 3.003, "MPEG-2 720x480@30 1.778",
+            "0:ja AC3 2ch:48000:2:AC3 0:es MPEG-1 2ch:48000:2:AC3 |  | 0-1.201:Chapter_1 "
+            "1.201-2.402:Chapter_2");
+        const auto write = [this](const char *name, const QByteArray &data) {
+            return writeFile(scratch.filePath(QLatin1String(name)), data);
+        };
+        row("picture", u"picture.png"_s, -1);
+        row("empty file", write("empty.mkv", {}), -1);
+        row("random bytes", write("noise.mp4", randomBytes(64 * 1024, 99)), -1);
+        row("text", write("notes.avi", "just some text\n"), -1);
+        row("missing", scratch.filePath(u"missing.mkv"_s), -1);
+        row("a folder", fixtures, -1);
+        row("PGC past the end", main(), -1, "", " |  | ", 7);
+        row("a media file as a title", u"movie.mkv"_s, -1, "", " |  | ", 0);
     }
 
     void probe()
@@ -155,99 +164,33 @@ private slots:
         QFETCH(QString, video);
         QFETCH(QString, streams);
         MediaInfo info;
-        QCOMPARE(pgc < 0 ? info.Load(path) : info.ProbeTitle(path, pgc), 0);
-        QVERIFY2(std::abs(info.duration - duration) < (pgc < 0 ? 0.1 : 0.3),
+        info.audioStreams.push_back({}); // a failed probe leaves none behind
+        const QString title = QFileInfo(path).fileName();
+        const DvdDisc &titles = title.startsWith("NTSC"_L1) ? *ntscDisc : *disc;
+        const int result = title.contains("title "_L1)
+                               ? info.LoadTitle(*titles.titles[title.right(1).toUInt()])
+                           : pgc < 0 ? info.Load(path)
+                                     : info.ProbeTitle(path, pgc);
+        QCOMPARE(result, duration < 0 ? -1 : 0);
+        QVERIFY2(duration < 0 || std::abs(info.duration - duration) < (pgc < 0 ? 0.1 : 0.3),
                  qPrintable(QString::number(info.duration)));
         QCOMPARE(info.hasVideo, !video.isEmpty());
         if (info.hasVideo)
-            QCOMPARE(::video(info) + u' ' + QString::number(info.displayAspect, 'g', 4), video);
+            QCOMPARE(u"%1 %2x%3@%4 %5"_s.arg(info.videoCodec)
+                         .arg(info.width)
+                         .arg(info.height)
+                         .arg(info.frameRate)
+                         .arg(info.displayAspect, 0, 'g', 4),
+                     video);
         QCOMPARE(::streams(info), streams);
         QVERIFY(info.allCodecsKnown);
         QVERIFY(info.forcedFormat.isEmpty());
-    }
-
-    void badFiles_data()
-    {
-        QTest::addColumn<QString>("path");
-        QTest::addColumn<int>("pgc");
-        QTest::addColumn<bool>("probes"); // as a file with a duration, though it has no picture
-        const auto write = [this](const char *name, const QByteArray &data) {
-            return writeFile(scratch.filePath(QLatin1String(name)), data);
-        };
-        QTest::newRow("picture") << fixture(fixtures, "picture.png") << -1 << false;
-        QTest::newRow("empty file") << write("empty.mkv", {}) << -1 << false;
-        QTest::newRow("random bytes")
-            << write("noise.mp4", randomBytes(64 * 1024, 99)) << -1 << false;
-        QTest::newRow("text") << write("notes.avi", "just some text\n") << -1 << false;
-        QTest::newRow("missing") << scratch.filePath(u"missing.mkv"_s) << -1 << false;
-        QTest::newRow("a folder") << fixtures << -1 << false;
-        QTest::newRow("audio only") << fixture(fixtures, "tone.flac") << -1 << true;
-        QTest::newRow("PGC past the end") << main() << 7 << false;
-        QTest::newRow("a media file as a title") << fixture(fixtures, "movie.mkv") << 0 << false;
-    }
-
-    void badFiles()
-    {
-        QFETCH(QString, path);
-        QFETCH(int, pgc);
-        QFETCH(bool, probes);
-        MediaInfo info;
-        info.audioStreams.push_back({});
-        if (pgc >= 0)
-            QCOMPARE(info.ProbeTitle(path, pgc), -1);
-        else if (!probes) {
-            QCOMPARE(info.Load(path), -1);
-            QVERIFY(info.audioStreams.empty());
-        }
+        if (info.hasVideo)
+            return;
         QTest::ignoreMessage(
             QtDebugMsg,
             QRegularExpression(u"^MediaInfo\\(\\d+\\): GetPictureFromVideo\\(.*\\) x$"_s));
         QVERIFY(GetPictureFromVideo(path, pgc, 1.0).isNull());
-    }
-
-    void loadTitle_data()
-    {
-        QTest::addColumn<QString>("ifo");
-        QTest::addColumn<int>("title");
-        QTest::addColumn<QString>("expected");
-        // The disc gives one set of sound attributes for all tracks.
-        const QString tracks = u"en AC3 2ch:48000:2:AC3 fr MPEG-1 2ch:48000:2:AC3 | "_s;
-        QTest::newRow("three chapters")
-            << main() << 0
-            << u"4.8s MPEG-2 720x576@25 1.333 "_s + tracks
-                   + u"de Normal | 0-1.2:Chapter_1 1.2-3:Chapter_2 3-4.2:Chapter_3"_s;
-        QTest::newRow("one chapter gives none")
-            << main() << 1 << u"2.4s MPEG-2 720x576@25 1.333 "_s + tracks + u" | "_s;
-        QTest::newRow("NTSC 16:9") << ntsc() << 0
-                                   << u"3.003s MPEG-2 720x480@30 1.778 ja AC3 2ch:48000:2:AC3 "
-                                      "es MPEG-1 2ch:48000:2:AC3 |  | 0-1.201:Chapter_1 "
-                                      "1.201-2.402:Chapter_2"_s;
-    }
-
-    void loadTitle()
-    {
-        QFETCH(QString, ifo);
-        QFETCH(int, title);
-        QFETCH(QString, expected);
-        const std::unique_ptr<DvdDisc> disc = loadDisc(ifo, ifo == main() ? 2 : 0);
-        QVERIFY(disc && int(disc->titles.size()) > title);
-        MediaInfo info;
-        QCOMPARE(info.LoadTitle(*disc->titles[size_t(title)]), 0);
-        QVERIFY(info.hasVideo);
-        QCOMPARE(u"%1s %2 %3 "_s.arg(info.duration, 0, 'g', 4)
-                         .arg(video(info))
-                         .arg(info.DisplayAspect(), 0, 'f', 3)
-                     + streams(info, false),
-                 expected);
-
-        // A title needs a length.
-        DvdTitle empty;
-        empty.disc = disc.get();
-        empty.range = std::make_unique<DvdChapter>();
-        QCOMPARE(info.LoadTitle(empty), -1);
-        empty.range->end = 0.5;
-        QCOMPARE(info.LoadTitle(empty), 0);
-        QCOMPARE(info.duration, 0.5);
     }
 
     void derivedValues()
@@ -266,6 +209,14 @@ private slots:
         info.audioStreams.push_back({});
         info.audioStreams[0].codec = u"ac3"_s;
         QCOMPARE(info.audioCodec(0) + info.audioCodec(1) + info.audioCodec(-1), u"ac3"_s);
+        // A title needs a length.
+        DvdTitle empty;
+        empty.disc = disc.get();
+        empty.range = std::make_unique<DvdChapter>();
+        QCOMPARE(info.LoadTitle(empty), -1);
+        empty.range->end = 0.5;
+        QCOMPARE(info.LoadTitle(empty), 0);
+        QCOMPARE(info.duration, 0.5);
     }
 
     // A still of a picture that does not change, against ffmpeg's own
@@ -314,25 +265,16 @@ private slots:
         QVERIFY2(diff < (colour.isValid() ? 12.0 : 6.0), qPrintable(QString::number(diff)));
     }
 
-    void subtitleLanguages_data()
+    void subtitleLanguages()
     {
-        QTest::addColumn<QString>("path");
-        QTest::addColumn<QStringList>("languages");
         const QByteArray idx = "# VobSub index file, v7\nsize: 720x576\n"
                                "id: en, index: 0\ntimestamp: 00:00:01:000, filepos: 000000000\n"
                                "id: fr, index: 1\n";
-        QTest::newRow("VobSub index")
-            << writeFile(scratch.filePath(u"movie.IDX"_s), idx) << QStringList{u"en"_s, u"fr"_s};
-        QTest::newRow("SubRip") << writeFile(scratch.filePath(u"movie.srt"_s), "1\n")
-                                << QStringList{QString()};
-        QTest::newRow("missing index") << scratch.filePath(u"gone.idx"_s) << QStringList();
-    }
-
-    void subtitleLanguages()
-    {
-        QFETCH(QString, path);
-        QFETCH(QStringList, languages);
-        QCOMPARE(GetSubtitleLanguages(path), languages);
+        QCOMPARE(GetSubtitleLanguages(writeFile(scratch.filePath(u"movie.IDX"_s), idx)),
+                 QStringList({u"en"_s, u"fr"_s}));
+        QCOMPARE(GetSubtitleLanguages(writeFile(scratch.filePath(u"movie.srt"_s), "1\n")),
+                 QStringList{QString()});
+        QCOMPARE(GetSubtitleLanguages(scratch.filePath(u"gone.idx"_s)), QStringList());
     }
 
     void thumbnails_data()
