@@ -103,17 +103,17 @@ private slots:
 
     void probe_data()
     {
-        QTest::addColumn<QString>("path"); // "title N" is one of the disc's, as its IFO tells it
-        QTest::addColumn<int>("pgc");      // a title of a disc, read through the title reader
+        QTest::addColumn<QString>("path");    // "title N" is one of the disc's, as its IFO tells it
+        QTest::addColumn<int>("pgc");         // a title of a disc, read through the title reader
         QTest::addColumn<double>("duration"); // none: the probe fails
         QTest::addColumn<QString>("video");   // "codec WxH@fps aspect", empty for none
         QTest::addColumn<QString>("streams");
-        const auto row = [this](const char *name, const QString &path, double duration,
-                                const char *video = "", const char *streams = " |  | ",
-                                int pgc = -1) {
-            QTest::newRow(name) << QDir(fixtures).filePath(path) << pgc << duration
-                                << QString::fromLatin1(video) << QString::fromLatin1(streams);
-        };
+        const auto row
+            = [this](const char *name, const QString &path, double duration, const char *video = "",
+                     const char *streams = " |  | ", int pgc = -1) {
+                  QTest::newRow(name) << QDir(fixtures).filePath(path) << pgc << duration
+                                      << QString::fromLatin1(video) << QString::fromLatin1(streams);
+              };
         row("Matroska", u"movie.mkv"_s, 3.0, "mpeg4 320x240@25 0",
             "1:eng:48000:2:mp2 2:fre:44100:1:ac3 | 3:ger | 0-1.5:Opening 1.5-3:Chapter_2");
         row("MP4", u"clip.mp4"_s, 2.0, "mpeg4 160x120@30 0", "1:und:44100:1:aac |  | ");
@@ -137,7 +137,8 @@ private slots:
         // The disc gives one set of sound attributes for all tracks.
         const QString tracks = u"0:en AC3 2ch:48000:2:AC3 0:fr MPEG-1 2ch:48000:2:AC3 | "_s;
         row("three chapters", u"title 0"_s, 4.8, "MPEG-2 720x576@25 1.333",
-            qPrintable(tracks + u"0:de Normal | 0-1.2:Chapter_1 1.2-3:Chapter_2 3-4.2:Chapter_3"_s));
+            qPrintable(tracks
+                       + u"0:de Normal | 0-1.2:Chapter_1 1.2-3:Chapter_2 3-4.2:Chapter_3"_s));
         row("one chapter gives none", u"title 1"_s, 2.4, "MPEG-2 720x576@25 1.333",
             qPrintable(tracks + u" | "_s));
         row("NTSC 16:9", u"NTSC title 0"_s, 3.003, "MPEG-2 720x480@30 1.778",
