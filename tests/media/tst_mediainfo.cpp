@@ -57,13 +57,6 @@ void settle()
     QCoreApplication::processEvents();
 }
 
-QImage filled(Qt::GlobalColor colour)
-{
-    QImage image(8, 8, QImage::Format_RGB32);
-    image.fill(colour);
-    return image;
-}
-
 } // namespace
 
 // What is known of files and disc titles, their stills, and the reader that
@@ -78,8 +71,7 @@ class TestMediaInfo : public QObject
     QString ntsc() const { return fixture(fixtures, "dvd-ntsc/VIDEO_TS/VTS_01_0.IFO"); }
     std::unique_ptr<DvdDisc> disc, ntscDisc;
     TaskList list;
-    QImage placeholder = filled(Qt::darkGray);
-    QImage audioPlaceholder = filled(Qt::darkGreen);
+    QImage placeholder{8, 8, QImage::Format_RGB32}, audioPlaceholder{8, 8, QImage::Format_RGB32};
     MediaImageReader *reader() { return MediaImageReader::instance(); }
     // Threads that delivered imageChanged(taskId) while `wait` runs.
     QList<QThread *> deliveries;
@@ -92,6 +84,8 @@ private slots:
         ntscDisc = loadDisc(ntsc(), 0);
         QVERIFY(disc && disc->titles.size() == 3 && ntscDisc);
         reader()->setTaskList(&list);
+        placeholder.fill(Qt::darkGray);
+        audioPlaceholder.fill(Qt::darkGreen);
         reader()->setVideoImage(placeholder);
         reader()->setAudioImage(audioPlaceholder);
         QCOMPARE(QThreadPool::globalInstance()->maxThreadCount(), 1);
