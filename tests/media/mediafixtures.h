@@ -15,13 +15,8 @@
 inline QString mediaFixtures()
 {
     const QString dir = QStringLiteral(KESTROVE_MEDIA_FIXTURES);
-    QProcess script;
-    script.setProcessChannelMode(QProcess::ForwardedChannels);
-    script.start(QStringLiteral(KESTROVE_MEDIA_FIXTURE_SCRIPT), {dir});
-    if (!script.waitForFinished(120000) || script.exitStatus() != QProcess::NormalExit
-        || script.exitCode() != 0)
-        return {};
-    return dir;
+    const int exitCode = QProcess::execute(QStringLiteral(KESTROVE_MEDIA_FIXTURE_SCRIPT), {dir});
+    return exitCode == 0 ? dir : QString();
 }
 
 // For initTestCase(): puts the fixture folder in `dir`, or fails.

@@ -277,15 +277,11 @@ private slots:
         QTest::addColumn<QString>("path");   // a fixture, or "title N" of the disc
         QTest::addColumn<qint64>("size");    // the picture made this big and put in its place
         QTest::addColumn<QString>("atOnce"); // "placeholder", "audio" or "picture"
-        QTest::addColumn<QColor>("colour");  // of the frame that follows the placeholder
-        const auto row = [](const char *name, const char *path, qint64 size, const char *atOnce,
-                            QColor colour = {}) {
-            QTest::newRow(name) << QString::fromLatin1(path) << size << QString::fromLatin1(atOnce)
-                                << colour;
+        const auto row = [](const char *name, const char *path, qint64 size, const char *atOnce) {
+            QTest::newRow(name) << QString::fromLatin1(path) << size << QString::fromLatin1(atOnce);
         };
         row("file", "movie.mkv", -1, "placeholder");
-        row("red title", "title 0", -1, "placeholder", Qt::red);
-        row("blue title", "title 1", -1, "placeholder", Qt::blue);
+        row("red title", "title 0", -1, "placeholder");
         row("audio", "tone.flac", -1, "audio");
         row("small picture", "", 0, "picture");
         row("one byte under the limit", "", 5242879, "picture");
@@ -298,7 +294,6 @@ private slots:
         QFETCH(QString, path);
         QFETCH(qint64, size);
         QFETCH(QString, atOnce);
-        QFETCH(QColor, colour);
         // The probe finds no duration in a still picture, so a picture's task
         // is made from a video and then pointed at the picture.
         const int id = path.startsWith("title "_L1)
@@ -339,15 +334,13 @@ private slots:
         QCOMPARE(deliveries, QList<QThread *>({thread(), thread()}));
         const QImage image = task->thumbnail(0);
         QCOMPARE(image.size(), QSize(96, 72));
-        if (colour.isValid()) {
-            const QColor mean = meanColour(image);
-            QVERIFY2(qAbs(mean.red() - colour.red()) < 40 && qAbs(mean.blue() - colour.blue()) < 40,
-                     qPrintable(mean.name()));
-        } else {
-            // testsrc2 is many colours, never one flat grey.
+        // The red title's frame; testsrc2 is many colours, never one flat grey.
+        const QColor mean = meanColour(image);
+        if (path.startsWith("title "_L1))
+            QVERIFY2(mean.red() > 215 && mean.green() + mean.blue() < 40, qPrintable(mean.name()));
+        else
             QVERIFY(image.pixel(10, 10) != image.pixel(80, 60)
                     || image.pixel(10, 60) != image.pixel(80, 10));
-        }
     }
 
     void mergedTaskHasOnePicturePerChild()
