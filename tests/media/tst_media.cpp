@@ -210,8 +210,6 @@ private slots:
         QCOMPARE(QThreadPool::globalInstance()->maxThreadCount(), 1);
         connect(reader(), qOverload<int>(&MediaImageReader::imageChanged), this,
                 [this](int) { deliveries.append(QThread::currentThread()); });
-        connect(reader(), qOverload<int, int>(&MediaImageReader::imageChanged), this,
-                [this](int, int) { deliveries.append(QThread::currentThread()); });
     }
 
     void scan_data()
@@ -309,29 +307,29 @@ private slots:
         // The fixture's PGCIT is sector 2 and its first PGC starts at byte 64.
         const QString pgcs = u"damaged program chain table"_s,
                       chapters = u"damaged chapter table"_s;
-        row("PGC count raised", damaged(valid, "PGC count", 200), "good", pgcs);
-        row("PGC count raised, bad backup", damaged(valid, "PGC count", 200), "same", pgcs);
-        row("PGC count lowered", damaged(valid, "PGC count", 6), "none", chapters);
-        row("PGCs share a start past the end", damaged(valid, "every PGC start", 0xffff0000u),
-            "same", pgcs);
-        row("PGC start inside the pointers", damaged(valid, "first PGC start", 16), "good", pgcs);
-        row("cell count raised", damaged(valid, "cell count", 5), "good", pgcs);
-        row("cell count lowered", damaged(valid, "cell count", 3), "same", pgcs);
-        row("more programs than cells", damaged(valid, "program count", 9), "none", pgcs);
-        row("chapter table on the PGCs", damaged(valid, "chapter table sector", 2), "good",
-            chapters);
-        row("PGC table past the end", damaged(valid, "PGC table sector", 1000), "none", pgcs);
-        row("PGC table missing", damaged(valid, "PGC table sector", 0), "good",
-            u"no program chain table"_s);
-        row("cell address table missing", damaged(valid, "cell address table sector", 0), "same",
-            u"no cell address table"_s);
-        row("chapters before their table", damaged(valid, "first title's chapters", 0), "same",
-            chapters);
-        row("chapters past their table", damaged(valid, "first title's chapters", 0x7fffff00u),
-            "good", chapters);
-        row("IFO of 100 bytes", damaged(valid, "length", 100), "good", empty);
-        row("IFO cut before its tables", damaged(valid, "length", 2100), "none", pgcs);
-        row("IFO cut inside its tables", damaged(valid, "length", 4096), "none", pgcs);
+        const auto damage = [&](const char *name, const char *field, quint32 value,
+                                const char *backup, const QString &note) {
+            row(name, damaged(valid, field, value), backup, note);
+        };
+        damage("PGC count raised", "PGC count", 200, "good", pgcs);
+        damage("PGC count raised, bad backup", "PGC count", 200, "same", pgcs);
+        damage("PGC count lowered", "PGC count", 6, "none", chapters);
+        damage("PGCs share a start past the end", "every PGC start", 0xffff0000u, "same", pgcs);
+        damage("PGC start inside the pointers", "first PGC start", 16, "good", pgcs);
+        damage("cell count raised", "cell count", 5, "good", pgcs);
+        damage("cell count lowered", "cell count", 3, "same", pgcs);
+        damage("more programs than cells", "program count", 9, "none", pgcs);
+        damage("chapter table on the PGCs", "chapter table sector", 2, "good", chapters);
+        damage("PGC table past the end", "PGC table sector", 1000, "none", pgcs);
+        damage("PGC table missing", "PGC table sector", 0, "good", u"no program chain table"_s);
+        damage("cell address table missing", "cell address table sector", 0, "same",
+               u"no cell address table"_s);
+        damage("chapters before their table", "first title's chapters", 0, "same", chapters);
+        damage("chapters past their table", "first title's chapters", 0x7fffff00u, "good",
+               chapters);
+        damage("IFO of 100 bytes", "length", 100, "good", empty);
+        damage("IFO cut before its tables", "length", 2100, "none", pgcs);
+        damage("IFO cut inside its tables", "length", 4096, "none", pgcs);
     }
 
     // Whatever the damage, libdvdread only reads a copy that holds together;
@@ -365,8 +363,8 @@ private slots:
             = backup == "none"_L1 ? u", and no backup"_s : u", and no sound backup"_s;
         QCOMPARE(error, backup.isEmpty() ? damage : damage + note);
         IfoRecord parsed;
-        QVERIFY(ifoParse(QFile::encodeName(path).toStdString(), &parsed) < 0);
-        QVERIFY(parsed.pgcs.empty());
+        QVERIFY(ifoParse(QFile::encodeName(path).toStdString(), &parsed) < 0
+                && parsed.pgcs.empty());
         DvdTitleReader reader;
         QVERIFY(!reader.open(path, 0) && !reader.isOpen());
         char byte = 0;
@@ -632,13 +630,11 @@ private slots:
         row("NTSC 16:9", u"NTSC title 0"_s, 3.003, "MPEG-2 720x480@30 1.778",
             "0:ja AC3 2ch:48000:2:AC3 0:es MPEG-1 2ch:48000:2:AC3 |  | 0-1.201:Chapter_1 "
             "1.201-2.402:Chapter_2");
-        const auto write = [this](const char *name, const QByteArray &data) {
-            return writeFile(scratch.filePath(QLatin1String(name)), data);
-        };
         row("picture", u"picture.png"_s, -1);
-        row("empty file", write("empty.mkv", {}), -1);
-        row("random bytes", write("noise.mp4", randomBytes(64 * 1024, 99)), -1);
-        row("text", write("notes.avi", "just some text\n"), -1);
+        row("empty file", writeFile(scratch.filePath(u"empty.mkv"_s), {}), -1);
+        row("random bytes", writeFile(scratch.filePath(u"noise.mp4"_s), randomBytes(65536, 99)),
+            -1);
+        row("text", writeFile(scratch.filePath(u"notes.avi"_s), "just some text\n"), -1);
         row("missing", scratch.filePath(u"missing.mkv"_s), -1);
         row("a folder", fixtures, -1);
         row("PGC past the end", ifo, -1, "", " |  | ", 7);
@@ -672,8 +668,7 @@ private slots:
                          .arg(info.displayAspect, 0, 'g', 4),
                      video);
         QCOMPARE(::streams(info), streams);
-        QVERIFY(info.allCodecsKnown);
-        QVERIFY(info.forcedFormat.isEmpty());
+        QVERIFY(info.allCodecsKnown && info.forcedFormat.isEmpty());
         if (info.hasVideo)
             return;
         QTest::ignoreMessage(
@@ -846,7 +841,6 @@ private slots:
         const int redChild = list.addToMerge(red, merge);
         const int toneChild = list.addToMerge(tone, merge);
         const int blueChild = list.addToMerge(blue, merge);
-        QVERIFY(redChild >= 0 && toneChild >= 0 && blueChild >= 0);
         QSignalSpy changed(reader(), qOverload<int, int>(&MediaImageReader::imageChanged));
 
         reader()->requestImage(merge, 1.0, true);
