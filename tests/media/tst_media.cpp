@@ -180,11 +180,6 @@ class TestMedia : public QObject
     QTemporaryDir scratch;
     QString videoTs;
     QString ifo;
-    QString ntsc;
-    QString vts(const char *ending) const
-    {
-        return videoTs + u"/VTS_01_0."_s + QLatin1String(ending);
-    }
     std::unique_ptr<DvdDisc> disc, ntscDisc;
     TaskList list;
     QImage placeholder{8, 8, QImage::Format_RGB32}, audioPlaceholder{8, 8, QImage::Format_RGB32};
@@ -197,10 +192,9 @@ private slots:
     {
         REQUIRE_MEDIA_FIXTURES(fixtures);
         videoTs = fixture(fixtures, "dvd-main/VIDEO_TS");
-        ifo = vts("IFO");
-        ntsc = fixture(fixtures, "dvd-ntsc/VIDEO_TS/VTS_01_0.IFO");
+        ifo = videoTs + u"/VTS_01_0.IFO"_s;
         disc = loadDisc(ifo);
-        ntscDisc = loadDisc(ntsc, 0);
+        ntscDisc = loadDisc(fixture(fixtures, "dvd-ntsc/VIDEO_TS/VTS_01_0.IFO"), 0);
         QVERIFY(disc && disc->titles.size() == 3 && ntscDisc);
         reader()->setTaskList(&list);
         placeholder.fill(Qt::darkGray);
@@ -346,7 +340,8 @@ private slots:
             QVERIFY(
                 !writeFile(name.endsWith(u'/') ? path + u"notes.txt"_s : path, content).isEmpty());
         if (backup == "good"_L1 || backup == "same"_L1) {
-            const QByteArray bup = backup == "good"_L1 ? readFile(vts("BUP")) : content;
+            const QByteArray bup
+                = backup == "good"_L1 ? readFile(videoTs + u"/VTS_01_0.BUP"_s) : content;
             QVERIFY(!writeFile(path.chopped(3) + u"BUP"_s, bup).isEmpty());
         }
         QString error;
@@ -376,12 +371,10 @@ private slots:
     void unreadableIfo()
     {
         QTemporaryDir dir;
-        for (const char *name : {"IFO", "BUP"}) {
-            const QString copy = dir.filePath(u"VTS_01_0."_s + QLatin1String(name));
-            QVERIFY(QFile::copy(vts(name), copy) && QFile::setPermissions(copy, {}));
-        }
-        QVERIFY(QFile::copy(videoTs + u"/VTS_01_1.VOB"_s, dir.filePath(u"VTS_01_1.VOB"_s)));
-        const QString path = dir.filePath(u"VTS_01_0.IFO"_s);
+        const QString copy = copyDisc(videoTs, dir.path());
+        const QString path = copy + u"/VTS_01_0.IFO"_s;
+        QVERIFY(QFile::setPermissions(path, {})
+                && QFile::setPermissions(copy + u"/VTS_01_0.BUP"_s, {}));
         const bool readable = QFile(path).open(QIODevice::ReadOnly);
         const std::unique_ptr<DvdDisc> disc = loadDisc(path, readable ? 2 : 0);
         QCOMPARE(disc ? disc->titles.size() : 0, readable ? size_t(3) : 0);
@@ -716,7 +709,7 @@ private slots:
         QTest::newRow("red") << ifo << 0 << QColor(Qt::red);
         QTest::newRow("blue") << ifo << 1 << QColor(Qt::blue);
         QTest::newRow("red again") << ifo << 6 << QColor(Qt::red);
-        QTest::newRow("NTSC magenta") << ntsc << 0 << QColor(Qt::magenta);
+        QTest::newRow("NTSC magenta") << ntscDisc->path << 0 << QColor(Qt::magenta);
     }
 
     void stills()
