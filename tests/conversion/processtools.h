@@ -19,23 +19,16 @@ struct ProcEntry
 inline QList<ProcEntry> processTable()
 {
     QList<ProcEntry> table;
-    const QStringList entries = QDir(QStringLiteral("/proc")).entryList(QDir::Dirs);
-    for (const QString &entry : entries) {
-        bool numeric = false;
-        const qint64 pid = entry.toLongLong(&numeric);
-        if (!numeric)
-            continue;
-        QFile stat(QStringLiteral("/proc/%1/stat").arg(pid));
-        if (!stat.open(QIODevice::ReadOnly))
+    for (const QString &entry : QDir(QStringLiteral("/proc")).entryList(QDir::Dirs)) {
+        QFile stat(QStringLiteral("/proc/%1/stat").arg(entry));
+        if (entry.toLongLong() <= 0 || !stat.open(QIODevice::ReadOnly))
             continue;
         const QByteArray text = stat.readAll();
-        const int open = text.indexOf('(');
-        const int close = text.lastIndexOf(')');
+        const int open = text.indexOf('('), close = text.lastIndexOf(')');
         const QList<QByteArray> fields = text.mid(close + 2).split(' ');
-        if (open < 0 || fields.size() < 2 || fields[0].isEmpty())
-            continue;
-        table.append(
-            {pid, fields[1].toLongLong(), text.mid(open + 1, close - open - 1), fields[0].at(0)});
+        if (open >= 0 && fields.size() >= 2 && !fields[0].isEmpty())
+            table.append({entry.toLongLong(), fields[1].toLongLong(),
+                          text.mid(open + 1, close - open - 1), fields[0].at(0)});
     }
     return table;
 }
@@ -55,20 +48,24 @@ inline QList<qint64> processTree(qint64 root)
 // '?' for a process that is gone.
 inline char processState(qint64 pid)
 {
-    for (const ProcEntry &entry : processTable()) {
+    for (const ProcEntry &entry : processTable())
         if (entry.pid == pid)
             return entry.state;
-    }
     return '?';
+}
+
+// Gone, or a zombie: ended either way.
+inline bool processEnded(qint64 pid)
+{
+    return QByteArrayLiteral("?Z").contains(processState(pid));
 }
 
 // Live (not zombie) children of `parent` with the command name `name`.
 inline QList<qint64> childrenNamed(qint64 parent, const QByteArray &name)
 {
     QList<qint64> found;
-    for (const ProcEntry &entry : processTable()) {
+    for (const ProcEntry &entry : processTable())
         if (entry.parent == parent && entry.state != 'Z' && entry.name == name.left(15))
             found.append(entry.pid);
-    }
     return found;
 }

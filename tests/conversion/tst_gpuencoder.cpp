@@ -4,6 +4,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 class TestGpuEncoder : public QObject
 {
     Q_OBJECT
@@ -33,31 +35,25 @@ private:
 
     int runs(const QString &program)
     {
-        QFile file(program + QStringLiteral(".runs"));
-        if (!file.open(QIODevice::ReadOnly))
-            return 0;
-        return file.readAll().count('\n');
+        QFile file(program + u".runs"_s);
+        return file.open(QIODevice::ReadOnly) ? int(file.readAll().count('\n')) : 0;
     }
 
 private slots:
     void probe_data()
     {
         QTest::addColumn<QString>("library");
-        QTest::addColumn<QStringList>("encoders");
+        QTest::addColumn<QString>("encoders");
         QTest::addColumn<int>("exitCode");
         QTest::addColumn<bool>("usable");
         QTest::addColumn<int>("ffmpegRuns");
-
-        const QStringList nvenc{QStringLiteral("libx264"), QStringLiteral("h264_nvenc")};
-        const QString missing = dir.filePath(QStringLiteral("libnvidia-encode-missing.so.1"));
-        QTest::newRow("no library") << missing << nvenc << 0 << false << 0;
-        QTest::newRow("library and h264_nvenc")
-            << QStringLiteral(FAKE_NVENCODE) << nvenc << 0 << true << 1;
+        const QString nvenc = u"libx264 h264_nvenc"_s, whole = QStringLiteral(FAKE_NVENCODE);
+        QTest::newRow("no library")
+            << dir.filePath(u"libnvidia-encode-missing.so.1"_s) << nvenc << 0 << false << 0;
+        QTest::newRow("library and h264_nvenc") << whole << nvenc << 0 << true << 1;
         QTest::newRow("ffmpeg without h264_nvenc")
-            << QStringLiteral(FAKE_NVENCODE)
-            << QStringList{QStringLiteral("libx264"), QStringLiteral("hevc_nvenc")} << 0 << false
-            << 1;
-        QTest::newRow("ffmpeg fails") << QStringLiteral(FAKE_NVENCODE) << nvenc << 1 << false << 1;
+            << whole << u"libx264 hevc_nvenc"_s << 0 << false << 1;
+        QTest::newRow("ffmpeg fails") << whole << nvenc << 1 << false << 1;
         QTest::newRow("library lacks an entry point")
             << QStringLiteral(FAKE_NVENCODE_MISSING_EXPORT) << nvenc << 0 << false << 0;
         QTest::newRow("no device for the library")
@@ -67,49 +63,44 @@ private slots:
     void probe()
     {
         QFETCH(QString, library);
-        QFETCH(QStringList, encoders);
+        QFETCH(QString, encoders);
         QFETCH(int, exitCode);
         QFETCH(bool, usable);
         QFETCH(int, ffmpegRuns);
         // A program of its own for each row: lists are kept per program.
         const QString ffmpeg
-            = fakeFfmpeg(QStringLiteral("ffmpeg-%1").arg(++programs), encoders, exitCode);
+            = fakeFfmpeg(u"ffmpeg-%1"_s.arg(++programs), encoders.split(u' '), exitCode);
         QVERIFY(!ffmpeg.isEmpty());
-        QCOMPARE(probeGpuEncoder(library, ffmpeg), usable);
-        QCOMPARE(runs(ffmpeg), ffmpegRuns);
         // The encoder list of a program is read once.
-        QCOMPARE(probeGpuEncoder(library, ffmpeg), usable);
-        QCOMPARE(runs(ffmpeg), ffmpegRuns);
+        for (int round = 0; round < 2; ++round) {
+            QCOMPARE(probeGpuEncoder(library, ffmpeg), usable);
+            QCOMPARE(runs(ffmpeg), ffmpegRuns);
+        }
     }
 
     void encoderList()
     {
-        const QString ffmpeg
-            = fakeFfmpeg(QStringLiteral("ffmpeg-list"),
-                         {QStringLiteral("libx264"), QStringLiteral("h264_nvenc")});
-        QVERIFY(ffmpegHasEncoder(ffmpeg, QStringLiteral("h264_nvenc")));
-        QVERIFY(ffmpegHasEncoder(ffmpeg, QStringLiteral("libx264")));
-        QVERIFY(!ffmpegHasEncoder(ffmpeg, QStringLiteral("h264")));
-        QVERIFY(!ffmpegHasEncoder(ffmpeg, QStringLiteral("Video")));
-        QVERIFY(!ffmpegHasEncoder(ffmpeg, QStringLiteral("=")));
+        const QString ffmpeg = fakeFfmpeg(u"ffmpeg-list"_s, {u"libx264"_s, u"h264_nvenc"_s});
+        QString found;
+        for (const char *name : {"h264_nvenc", "libx264", "h264", "Video", "="})
+            found += u"%1=%2 "_s.arg(QLatin1String(name))
+                         .arg(ffmpegHasEncoder(ffmpeg, QLatin1String(name)));
+        QCOMPARE(found, u"h264_nvenc=1 libx264=1 h264=0 Video=0 ==0 "_s);
         QCOMPARE(runs(ffmpeg), 1);
         // Debian's own ffmpeg, which the tests need anyway.
-        QVERIFY(ffmpegHasEncoder(QStringLiteral("ffmpeg"), QStringLiteral("libx264")));
-        QVERIFY(!ffmpegHasEncoder(dir.filePath(QStringLiteral("no-such-ffmpeg")),
-                                  QStringLiteral("libx264")));
+        QVERIFY(ffmpegHasEncoder(u"ffmpeg"_s, u"libx264"_s));
+        QVERIFY(!ffmpegHasEncoder(dir.filePath(u"no-such-ffmpeg"_s), u"libx264"_s));
     }
 
     void thisMachine()
     {
-        if (QLibrary(QStringLiteral("libnvidia-encode.so.1")).load())
+        if (QLibrary(u"libnvidia-encode.so.1"_s).load())
             QSKIP("an NVIDIA driver is installed here");
         // An ffmpeg that offers h264_nvenc does not make up for the missing
         // library, and isn't even asked.
-        const QString ffmpeg
-            = fakeFfmpeg(QStringLiteral("ffmpeg-nvenc"), {QStringLiteral("h264_nvenc")});
+        const QString ffmpeg = fakeFfmpeg(u"ffmpeg-nvenc"_s, {u"h264_nvenc"_s});
         qputenv("KESTROVE_FFMPEG", QFile::encodeName(ffmpeg));
-        QVERIFY(!isGpuEncoderAvailable());
-        QVERIFY(!isGpuEncoderAvailable());
+        QVERIFY(!isGpuEncoderAvailable() && !isGpuEncoderAvailable());
         QCOMPARE(runs(ffmpeg), 0);
         qunsetenv("KESTROVE_FFMPEG");
     }
