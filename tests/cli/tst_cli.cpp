@@ -253,9 +253,9 @@ private slots:
     {
         QFETCH(QString, text);
         QFETCH(bool, hits);
-        const QStringList search{u"--search"_s, text};
         const Result found
-            = cli(words(u"profiles --json"_s) + (text.isNull() ? QStringList() : search));
+            = cli(words(u"profiles --json"_s)
+                  + (text.isNull() ? QStringList() : QStringList{u"--search"_s, text}));
         QVERIFY2(found.status == 0, qPrintable(found.err));
         QSet<QString> keys;
         int recommended = 0;
@@ -440,12 +440,11 @@ private slots:
     {
         // An encoder that never ends, and says who it is; the one that
         // encodes a task's sound apart says so in a file of its own.
-        const QString pids = home.filePath(u"encoder.pids"_s);
-        const QString soundPids = home.filePath(u"sound.pids"_s);
         const QString fake
             = writeFile(home.filePath(u"slow-ffmpeg"_s),
-                        "#!/bin/sh\ncase \"$*\" in *pipe:1) echo $$ >> '" + soundPids.toUtf8()
-                            + "';; *) echo $$ >> '" + pids.toUtf8() + "';; esac\nexec sleep 120\n");
+                        "#!/bin/sh\ncase \"$*\" in *pipe:1) echo $$ >> \"$0.sound\";; "
+                        "*) echo $$ >> \"$0.pids\";; esac\nexec sleep 120\n");
+        const QString pids = fake + u".pids"_s;
         QVERIFY(
             QFile::setPermissions(fake, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
 
@@ -472,7 +471,7 @@ private slots:
         QCOMPARE(states.join(u' '), u"Failed/stopped Failed/stopped Idle/not started"_s);
 
         // No encoder outlives the program (a zombie has ended too).
-        for (const QByteArray &pid : (readFile(pids) + readFile(soundPids)).split('\n'))
+        for (const QByteArray &pid : (readFile(pids) + readFile(fake + u".sound"_s)).split('\n'))
             QTRY_VERIFY_WITH_TIMEOUT(pid.isEmpty() || processEnded(pid.toLongLong()), 10000);
         QCOMPARE(readFile(pids).count('\n'), 2);
         // Nothing is left, not even the empty names the queue reserved.

@@ -14,23 +14,20 @@ private:
     QTemporaryDir dir;
     int programs = 0;
 
-    // A stand-in for ffmpeg: prints an encoder list with the given lines and
+    // A stand-in for ffmpeg: prints an encoder list with the given names and
     // counts its runs in "<name>.runs".
-    QString fakeFfmpeg(const QString &name, const QStringList &encoders, int exitCode = 0)
+    QString fakeFfmpeg(const QString &name, const QString &encoders, int exitCode = 0)
     {
-        const QString path = dir.filePath(name);
-        QFile script(path);
-        if (!script.open(QIODevice::WriteOnly))
-            return {};
-        QByteArray text = "#!/bin/sh\necho run >> '" + QFile::encodeName(path) + ".runs'\n";
-        text += "echo 'Encoders:'\necho ' V..... = Video'\necho ' ------'\n";
-        for (const QString &encoder : encoders)
-            text += "echo ' V....D " + encoder.toUtf8() + "   some encoder'\n";
-        text += "exit " + QByteArray::number(exitCode) + "\n";
-        script.write(text);
-        script.close();
-        script.setPermissions(script.permissions() | QFileDevice::ExeOwner);
-        return path;
+        const QByteArray text = "#!/bin/sh\necho run >> \"$0.runs\"\n"
+                                "printf 'Encoders:\\n V..... = Video\\n ------\\n'\n"
+                                "printf ' V....D %s   some encoder\\n' "
+                                + encoders.toUtf8() + "\nexit " + QByteArray::number(exitCode)
+                                + "\n";
+        QFile script(dir.filePath(name));
+        const bool made
+            = script.open(QIODevice::WriteOnly) && script.write(text) == text.size()
+              && script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        return made ? script.fileName() : QString();
     }
 
     int runs(const QString &program)
@@ -68,8 +65,7 @@ private slots:
         QFETCH(bool, usable);
         QFETCH(int, ffmpegRuns);
         // A program of its own for each row: lists are kept per program.
-        const QString ffmpeg
-            = fakeFfmpeg(u"ffmpeg-%1"_s.arg(++programs), encoders.split(u' '), exitCode);
+        const QString ffmpeg = fakeFfmpeg(u"ffmpeg-%1"_s.arg(++programs), encoders, exitCode);
         QVERIFY(!ffmpeg.isEmpty());
         // The encoder list of a program is read once.
         for (int round = 0; round < 2; ++round) {
@@ -80,7 +76,7 @@ private slots:
 
     void encoderList()
     {
-        const QString ffmpeg = fakeFfmpeg(u"ffmpeg-list"_s, {u"libx264"_s, u"h264_nvenc"_s});
+        const QString ffmpeg = fakeFfmpeg(u"ffmpeg-list"_s, u"libx264 h264_nvenc"_s);
         QString found;
         for (const char *name : {"h264_nvenc", "libx264", "h264", "Video", "="})
             found += u"%1=%2 "_s.arg(QLatin1String(name))
@@ -98,7 +94,7 @@ private slots:
             QSKIP("an NVIDIA driver is installed here");
         // An ffmpeg that offers h264_nvenc does not make up for the missing
         // library, and isn't even asked.
-        const QString ffmpeg = fakeFfmpeg(u"ffmpeg-nvenc"_s, {u"h264_nvenc"_s});
+        const QString ffmpeg = fakeFfmpeg(u"ffmpeg-nvenc"_s, u"h264_nvenc"_s);
         qputenv("KESTROVE_FFMPEG", QFile::encodeName(ffmpeg));
         QVERIFY(!isGpuEncoderAvailable() && !isGpuEncoderAvailable());
         QCOMPARE(runs(ffmpeg), 0);
