@@ -151,7 +151,6 @@ private slots:
 
     void initTestCase()
     {
-        QVERIFY(home.isValid());
         // The programs started here inherit these.
         qputenv("HOME", QFile::encodeName(home.path()));
         qputenv("TMPDIR", QFile::encodeName(home.path()));
