@@ -8,12 +8,64 @@
         <translation>Tessarine Kestrove</translation>
     </message>
     <message>
-        <source>Version: %1</source>
-        <translation>الإصدار: %1</translation>
-    </message>
-    <message>
         <source>LTR</source>
         <translation>RTL</translation>
+    </message>
+    <message>
+        <source>Display Original Frame</source>
+        <translation>عرض الإطار الأصلي</translation>
+    </message>
+    <message>
+        <source>Display Output Frame</source>
+        <translation>عرض إطار الإخراج</translation>
+    </message>
+    <message>
+        <source>&amp;Save As...</source>
+        <translation>&amp;حفظ باسم...</translation>
+    </message>
+    <message>
+        <source>&amp;Rename...</source>
+        <translation>إعادة ت&amp;سمية...</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>ح&amp;ذف</translation>
+    </message>
+    <message>
+        <source>Getting Started</source>
+        <translation>البدء</translation>
+    </message>
+    <message>
+        <source>1. Click &quot;%1 Open DVD %2&quot; to Open DVD.</source>
+        <translation>1. انقر على &quot;%1 فتح DVD %2&quot; لفتح قرص DVD.</translation>
+    </message>
+    <message>
+        <source>2. Click &quot;%1 Trim&quot; or &quot;%2 Crop&quot; to edit video file.</source>
+        <translation>2. انقر على &quot;%1 قص&quot; أو &quot;%2 اقتصاص&quot; لتحرير ملف الفيديو.</translation>
+    </message>
+    <message>
+        <source>3. Select output format from the &quot;Profile&quot; list.</source>
+        <translation>3. اختر تنسيق الإخراج من قائمة &quot;ملف التعريف&quot;.</translation>
+    </message>
+    <message>
+        <source>4. Click &quot;%1&quot; to convert.</source>
+        <translation>4. انقر على &quot;%1&quot; لبدء التحويل.</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to stop converting?</source>
+        <translation>هل أنت متأكد من أنك تريد إيقاف التحويل؟</translation>
+    </message>
+    <message>
+        <source>Restore Down</source>
+        <translation>استعادة للأسفل</translation>
+    </message>
+    <message>
+        <source>Maximize</source>
+        <translation>تكبير</translation>
+    </message>
+    <message>
+        <source>Please Select Output Folder</source>
+        <translation>الرجاء تحديد مجلد الإخراج</translation>
     </message>
 </context>
 <context>
@@ -1339,6 +1391,397 @@ Some of the unfinished files cannot be played properly.</source>
     <message>
         <source>YB</source>
         <translation>ي.بايت</translation>
+    </message>
+</context>
+<context>
+    <name>mainWindow</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;ملف</translation>
+    </message>
+    <message>
+        <source>Open DVD...</source>
+        <translation>فتح DVD...</translation>
+    </message>
+    <message>
+        <source>Open DVD Folder...</source>
+        <translation>فتح مجلد DVD...</translation>
+    </message>
+    <message>
+        <source>Open IFO Files...</source>
+        <translation>فتح ملفات IFO...</translation>
+    </message>
+    <message>
+        <source>Load Project...</source>
+        <translation>تحميل مشروع...</translation>
+    </message>
+    <message>
+        <source>Save Project...</source>
+        <translation>حفظ المشروع...</translation>
+    </message>
+    <message>
+        <source>Save Project As...</source>
+        <translation>حفظ المشروع باسم...</translation>
+    </message>
+    <message>
+        <source>Search Profile...</source>
+        <translation>البحث عن ملف تعريف...</translation>
+    </message>
+    <message>
+        <source>Properties...</source>
+        <translation>الخصائص...</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>خروج</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;تحرير</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>إعادة تسمية</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>نقل</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>نقل لأعلى</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>نقل لأسفل</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>إلى الأعلى</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>إلى الأسفل</translation>
+    </message>
+    <message>
+        <source>Clone</source>
+        <translation>استنساخ</translation>
+    </message>
+    <message>
+        <source>Remove Selected Item(s)</source>
+        <translation>إزالة العناصر المحددة</translation>
+    </message>
+    <message>
+        <source>Clear All</source>
+        <translation>مسح الكل</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>تحديد الكل</translation>
+    </message>
+    <message>
+        <source>Select None</source>
+        <translation>إلغاء تحديد الكل</translation>
+    </message>
+    <message>
+        <source>Invert Selection</source>
+        <translation>عكس التحديد</translation>
+    </message>
+    <message>
+        <source>Check All</source>
+        <translation>وضع علامة على الكل</translation>
+    </message>
+    <message>
+        <source>Uncheck All</source>
+        <translation>إزالة العلامة عن الكل</translation>
+    </message>
+    <message>
+        <source>Invert Check</source>
+        <translation>عكس العلامات</translation>
+    </message>
+    <message>
+        <source>Merge Selected into One</source>
+        <translation>دمج العناصر المحددة في ملف واحد</translation>
+    </message>
+    <message>
+        <source>Split by Chapter</source>
+        <translation>تقسيم حسب الفصل</translation>
+    </message>
+    <message>
+        <source>Add Output Profile...</source>
+        <translation>إضافة ملف تعريف إخراج...</translation>
+    </message>
+    <message>
+        <source>Apply Profile to All</source>
+        <translation>تطبيق ملف التعريف على الكل</translation>
+    </message>
+    <message>
+        <source>&amp;Play</source>
+        <translation>ت&amp;شغيل</translation>
+    </message>
+    <message>
+        <source>Play/Pause</source>
+        <translation>تشغيل/إيقاف مؤقت</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>إيقاف</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>السابق</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>التالي</translation>
+    </message>
+    <message>
+        <source>Snapshot</source>
+        <translation>لقطة</translation>
+    </message>
+    <message>
+        <source>Open Snapshot Folder</source>
+        <translation>فتح مجلد اللقطات</translation>
+    </message>
+    <message>
+        <source>Change Snapshot Folder</source>
+        <translation>تغيير مجلد اللقطات</translation>
+    </message>
+    <message>
+        <source>Snapshot Format</source>
+        <translation>تنسيق اللقطة</translation>
+    </message>
+    <message>
+        <source>PNG</source>
+        <translation>PNG</translation>
+    </message>
+    <message>
+        <source>BMP</source>
+        <translation>BMP</translation>
+    </message>
+    <message>
+        <source>JPG</source>
+        <translation>JPG</translation>
+    </message>
+    <message>
+        <source>GIF</source>
+        <translation>GIF</translation>
+    </message>
+    <message>
+        <source>Full Screen</source>
+        <translation>ملء الشاشة</translation>
+    </message>
+    <message>
+        <source>&amp;Clip</source>
+        <translation>م&amp;قطع</translation>
+    </message>
+    <message>
+        <source>Trim...</source>
+        <translation>قص...</translation>
+    </message>
+    <message>
+        <source>Crop...</source>
+        <translation>اقتصاص...</translation>
+    </message>
+    <message>
+        <source>Smart Crop</source>
+        <translation>اقتصاص ذكي</translation>
+    </message>
+    <message>
+        <source>Watermark...</source>
+        <translation>علامة مائية...</translation>
+    </message>
+    <message>
+        <source>Effect...</source>
+        <translation>تأثير...</translation>
+    </message>
+    <message>
+        <source>Clear All Effects</source>
+        <translation>مسح كل التأثيرات</translation>
+    </message>
+    <message>
+        <source>Audio Track...</source>
+        <translation>المسار الصوتي...</translation>
+    </message>
+    <message>
+        <source>Subtitle...</source>
+        <translation>الترجمة...</translation>
+    </message>
+    <message>
+        <source>&amp;Action</source>
+        <translation>إ&amp;جراء</translation>
+    </message>
+    <message>
+        <source>Convert Checked Item(s)</source>
+        <translation>تحويل العناصر المعلّمة</translation>
+    </message>
+    <message>
+        <source>Pause Checked Item(s)</source>
+        <translation>إيقاف مؤقت للعناصر المعلّمة</translation>
+    </message>
+    <message>
+        <source>Stop Checked Item(s)</source>
+        <translation>إيقاف العناصر المعلّمة</translation>
+    </message>
+    <message>
+        <source>Open Source File Location</source>
+        <translation>فتح موقع الملف المصدر</translation>
+    </message>
+    <message>
+        <source>Open Output File Location</source>
+        <translation>فتح موقع ملف الإخراج</translation>
+    </message>
+    <message>
+        <source>Post Task Actions</source>
+        <translation>إجراءات ما بعد المهمة</translation>
+    </message>
+    <message>
+        <source>Do Nothing</source>
+        <translation>عدم القيام بأي شيء</translation>
+    </message>
+    <message>
+        <source>Exit Program</source>
+        <translation>إنهاء البرنامج</translation>
+    </message>
+    <message>
+        <source>Shut Down</source>
+        <translation>إيقاف التشغيل</translation>
+    </message>
+    <message>
+        <source>Log Off</source>
+        <translation>تسجيل الخروج</translation>
+    </message>
+    <message>
+        <source>Hibernate</source>
+        <translation>إسبات</translation>
+    </message>
+    <message>
+        <source>Stand By</source>
+        <translation>وضع الاستعداد</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>إعادة التشغيل</translation>
+    </message>
+    <message>
+        <source>&amp;Option</source>
+        <translation>&amp;خيارات</translation>
+    </message>
+    <message>
+        <source>Preferences...</source>
+        <translation>التفضيلات...</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>م&amp;ساعدة</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>مساعدة</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>حول</translation>
+    </message>
+    <message>
+        <source>Tessarine Kestrove</source>
+        <translation>Tessarine Kestrove</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>تصغير</translation>
+    </message>
+    <message>
+        <source>Maximize</source>
+        <translation>تكبير</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>إغلاق</translation>
+    </message>
+    <message>
+        <source>&amp;Open DVD</source>
+        <translation>&amp;فتح DVD</translation>
+    </message>
+    <message>
+        <source>&amp;Trim</source>
+        <translation>&amp;قص</translation>
+    </message>
+    <message>
+        <source>&amp;Crop</source>
+        <translation>ا&amp;قتصاص</translation>
+    </message>
+    <message>
+        <source>&amp;Effect</source>
+        <translation>&amp;تأثير</translation>
+    </message>
+    <message>
+        <source>&amp;Merge</source>
+        <translation>&amp;دمج</translation>
+    </message>
+    <message>
+        <source>&amp;Preference</source>
+        <translation>ال&amp;تفضيلات</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>تشغيل</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>كتم الصوت</translation>
+    </message>
+    <message>
+        <source>&amp;Profile:</source>
+        <translation>م&amp;لف التعريف:</translation>
+    </message>
+    <message>
+        <source>Setting...</source>
+        <translation>الإعدادات...</translation>
+    </message>
+    <message>
+        <source>Save As...</source>
+        <translation>حفظ باسم...</translation>
+    </message>
+    <message>
+        <source>&amp;Destination:</source>
+        <translation>ال&amp;وجهة:</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>استعراض...</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>فتح المجلد</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>الموضع</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>مستوى الصوت</translation>
+    </message>
+    <message>
+        <source>Tasks</source>
+        <translation>المهام</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>ملف التعريف</translation>
+    </message>
+    <message>
+        <source>Destination</source>
+        <translation>الوجهة</translation>
+    </message>
+    <message>
+        <source>Total progress</source>
+        <translation>التقدم الإجمالي</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>بدء</translation>
     </message>
 </context>
 <context>

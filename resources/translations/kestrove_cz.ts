@@ -8,12 +8,64 @@
         <translation>Tessarine Kestrove</translation>
     </message>
     <message>
-        <source>Version: %1</source>
-        <translation>Verze: %1</translation>
-    </message>
-    <message>
         <source>LTR</source>
         <translation>LTR</translation>
+    </message>
+    <message>
+        <source>Display Original Frame</source>
+        <translation>Zobrazit původní snímek</translation>
+    </message>
+    <message>
+        <source>Display Output Frame</source>
+        <translation>Zobrazit výstupní snímek</translation>
+    </message>
+    <message>
+        <source>&amp;Save As...</source>
+        <translation>&amp;Uložit jako...</translation>
+    </message>
+    <message>
+        <source>&amp;Rename...</source>
+        <translation>&amp;Přejmenovat...</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Odstranit</translation>
+    </message>
+    <message>
+        <source>Getting Started</source>
+        <translation>Začínáme</translation>
+    </message>
+    <message>
+        <source>1. Click &quot;%1 Open DVD %2&quot; to Open DVD.</source>
+        <translation>1. Klepněte na „%1 Otevřít DVD %2“ a otevřete DVD.</translation>
+    </message>
+    <message>
+        <source>2. Click &quot;%1 Trim&quot; or &quot;%2 Crop&quot; to edit video file.</source>
+        <translation>2. Klepnutím na „%1 Střih“ nebo „%2 Oříznutí“ upravte video soubor.</translation>
+    </message>
+    <message>
+        <source>3. Select output format from the &quot;Profile&quot; list.</source>
+        <translation>3. Vyberte výstupní formát ze seznamu „Profil“.</translation>
+    </message>
+    <message>
+        <source>4. Click &quot;%1&quot; to convert.</source>
+        <translation>4. Klepnutím na „%1“ spusťte převod.</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to stop converting?</source>
+        <translation>Opravdu chcete zastavit převod?</translation>
+    </message>
+    <message>
+        <source>Restore Down</source>
+        <translation>Obnovit z maxima</translation>
+    </message>
+    <message>
+        <source>Maximize</source>
+        <translation>Maximalizovat</translation>
+    </message>
+    <message>
+        <source>Please Select Output Folder</source>
+        <translation>Vyberte výstupní složku</translation>
     </message>
 </context>
 <context>
@@ -1339,6 +1391,397 @@ Některé z nedokončených souborů nepůjde správně přehrát.</translation>
     <message>
         <source>YB</source>
         <translation>YB</translation>
+    </message>
+</context>
+<context>
+    <name>mainWindow</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Soubor</translation>
+    </message>
+    <message>
+        <source>Open DVD...</source>
+        <translation>Otevřít DVD...</translation>
+    </message>
+    <message>
+        <source>Open DVD Folder...</source>
+        <translation>Otevřít složku DVD...</translation>
+    </message>
+    <message>
+        <source>Open IFO Files...</source>
+        <translation>Otevřít soubory IFO...</translation>
+    </message>
+    <message>
+        <source>Load Project...</source>
+        <translation>Načíst projekt...</translation>
+    </message>
+    <message>
+        <source>Save Project...</source>
+        <translation>Uložit projekt...</translation>
+    </message>
+    <message>
+        <source>Save Project As...</source>
+        <translation>Uložit projekt jako...</translation>
+    </message>
+    <message>
+        <source>Search Profile...</source>
+        <translation>Hledat profil...</translation>
+    </message>
+    <message>
+        <source>Properties...</source>
+        <translation>Vlastnosti...</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Konec</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>Úp&amp;ravy</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Přejmenovat</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Přesunout</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>Posunout nahoru</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Posunout dolů</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Na začátek</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Na konec</translation>
+    </message>
+    <message>
+        <source>Clone</source>
+        <translation>Duplikovat</translation>
+    </message>
+    <message>
+        <source>Remove Selected Item(s)</source>
+        <translation>Odebrat vybrané položky</translation>
+    </message>
+    <message>
+        <source>Clear All</source>
+        <translation>Vymazat vše</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Vybrat vše</translation>
+    </message>
+    <message>
+        <source>Select None</source>
+        <translation>Zrušit výběr</translation>
+    </message>
+    <message>
+        <source>Invert Selection</source>
+        <translation>Obrátit výběr</translation>
+    </message>
+    <message>
+        <source>Check All</source>
+        <translation>Zaškrtnout vše</translation>
+    </message>
+    <message>
+        <source>Uncheck All</source>
+        <translation>Zrušit zaškrtnutí všech</translation>
+    </message>
+    <message>
+        <source>Invert Check</source>
+        <translation>Obrátit zaškrtnutí</translation>
+    </message>
+    <message>
+        <source>Merge Selected into One</source>
+        <translation>Sloučit vybrané do jednoho</translation>
+    </message>
+    <message>
+        <source>Split by Chapter</source>
+        <translation>Rozdělit podle kapitol</translation>
+    </message>
+    <message>
+        <source>Add Output Profile...</source>
+        <translation>Přidat výstupní profil...</translation>
+    </message>
+    <message>
+        <source>Apply Profile to All</source>
+        <translation>Použít profil na vše</translation>
+    </message>
+    <message>
+        <source>&amp;Play</source>
+        <translation>&amp;Přehrát</translation>
+    </message>
+    <message>
+        <source>Play/Pause</source>
+        <translation>Přehrát/Pozastavit</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Zastavit</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>Předchozí</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Další</translation>
+    </message>
+    <message>
+        <source>Snapshot</source>
+        <translation>Snímek</translation>
+    </message>
+    <message>
+        <source>Open Snapshot Folder</source>
+        <translation>Otevřít složku snímků</translation>
+    </message>
+    <message>
+        <source>Change Snapshot Folder</source>
+        <translation>Změnit složku snímků</translation>
+    </message>
+    <message>
+        <source>Snapshot Format</source>
+        <translation>Formát snímku</translation>
+    </message>
+    <message>
+        <source>PNG</source>
+        <translation>PNG</translation>
+    </message>
+    <message>
+        <source>BMP</source>
+        <translation>BMP</translation>
+    </message>
+    <message>
+        <source>JPG</source>
+        <translation>JPG</translation>
+    </message>
+    <message>
+        <source>GIF</source>
+        <translation>GIF</translation>
+    </message>
+    <message>
+        <source>Full Screen</source>
+        <translation>Celá obrazovka</translation>
+    </message>
+    <message>
+        <source>&amp;Clip</source>
+        <translation>&amp;Klip</translation>
+    </message>
+    <message>
+        <source>Trim...</source>
+        <translation>Střih...</translation>
+    </message>
+    <message>
+        <source>Crop...</source>
+        <translation>Oříznutí...</translation>
+    </message>
+    <message>
+        <source>Smart Crop</source>
+        <translation>Chytré oříznutí</translation>
+    </message>
+    <message>
+        <source>Watermark...</source>
+        <translation>Vodoznak...</translation>
+    </message>
+    <message>
+        <source>Effect...</source>
+        <translation>Efekt...</translation>
+    </message>
+    <message>
+        <source>Clear All Effects</source>
+        <translation>Odstranit všechny efekty</translation>
+    </message>
+    <message>
+        <source>Audio Track...</source>
+        <translation>Zvuková stopa...</translation>
+    </message>
+    <message>
+        <source>Subtitle...</source>
+        <translation>Titulky...</translation>
+    </message>
+    <message>
+        <source>&amp;Action</source>
+        <translation>&amp;Akce</translation>
+    </message>
+    <message>
+        <source>Convert Checked Item(s)</source>
+        <translation>Převést zaškrtnuté položky</translation>
+    </message>
+    <message>
+        <source>Pause Checked Item(s)</source>
+        <translation>Pozastavit zaškrtnuté položky</translation>
+    </message>
+    <message>
+        <source>Stop Checked Item(s)</source>
+        <translation>Zastavit zaškrtnuté položky</translation>
+    </message>
+    <message>
+        <source>Open Source File Location</source>
+        <translation>Otevřít umístění zdrojového souboru</translation>
+    </message>
+    <message>
+        <source>Open Output File Location</source>
+        <translation>Otevřít umístění výstupního souboru</translation>
+    </message>
+    <message>
+        <source>Post Task Actions</source>
+        <translation>Akce po dokončení</translation>
+    </message>
+    <message>
+        <source>Do Nothing</source>
+        <translation>Nic nedělat</translation>
+    </message>
+    <message>
+        <source>Exit Program</source>
+        <translation>Ukončit program</translation>
+    </message>
+    <message>
+        <source>Shut Down</source>
+        <translation>Vypnout</translation>
+    </message>
+    <message>
+        <source>Log Off</source>
+        <translation>Odhlásit</translation>
+    </message>
+    <message>
+        <source>Hibernate</source>
+        <translation>Hibernace</translation>
+    </message>
+    <message>
+        <source>Stand By</source>
+        <translation>Úsporný režim</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>Restartovat</translation>
+    </message>
+    <message>
+        <source>&amp;Option</source>
+        <translation>&amp;Možnosti</translation>
+    </message>
+    <message>
+        <source>Preferences...</source>
+        <translation>Předvolby...</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Nápověda</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Nápověda</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>O aplikaci</translation>
+    </message>
+    <message>
+        <source>Tessarine Kestrove</source>
+        <translation>Tessarine Kestrove</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>Minimalizovat</translation>
+    </message>
+    <message>
+        <source>Maximize</source>
+        <translation>Maximalizovat</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Zavřít</translation>
+    </message>
+    <message>
+        <source>&amp;Open DVD</source>
+        <translation>&amp;Otevřít DVD</translation>
+    </message>
+    <message>
+        <source>&amp;Trim</source>
+        <translation>&amp;Střih</translation>
+    </message>
+    <message>
+        <source>&amp;Crop</source>
+        <translation>&amp;Oříznutí</translation>
+    </message>
+    <message>
+        <source>&amp;Effect</source>
+        <translation>&amp;Efekt</translation>
+    </message>
+    <message>
+        <source>&amp;Merge</source>
+        <translation>S&amp;loučit</translation>
+    </message>
+    <message>
+        <source>&amp;Preference</source>
+        <translation>&amp;Předvolby</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Přehrát</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Ztlumit</translation>
+    </message>
+    <message>
+        <source>&amp;Profile:</source>
+        <translation>&amp;Profil:</translation>
+    </message>
+    <message>
+        <source>Setting...</source>
+        <translation>Nastavení...</translation>
+    </message>
+    <message>
+        <source>Save As...</source>
+        <translation>Uložit jako...</translation>
+    </message>
+    <message>
+        <source>&amp;Destination:</source>
+        <translation>&amp;Cíl:</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Procházet...</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>Otevřít složku</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Pozice</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Hlasitost</translation>
+    </message>
+    <message>
+        <source>Tasks</source>
+        <translation>Úlohy</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>Profil</translation>
+    </message>
+    <message>
+        <source>Destination</source>
+        <translation>Cíl</translation>
+    </message>
+    <message>
+        <source>Total progress</source>
+        <translation>Celkový průběh</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Spustit</translation>
     </message>
 </context>
 <context>

@@ -8,12 +8,64 @@
         <translation>Tessarine Kestrove</translation>
     </message>
     <message>
-        <source>Version: %1</source>
-        <translation>Version: %1</translation>
-    </message>
-    <message>
         <source>LTR</source>
         <translation>LTR</translation>
+    </message>
+    <message>
+        <source>Display Original Frame</source>
+        <translation>Originalbild anzeigen</translation>
+    </message>
+    <message>
+        <source>Display Output Frame</source>
+        <translation>Ausgabebild anzeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Save As...</source>
+        <translation>&amp;Speichern unter...</translation>
+    </message>
+    <message>
+        <source>&amp;Rename...</source>
+        <translation>&amp;Umbenennen...</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>Getting Started</source>
+        <translation>Erste Schritte</translation>
+    </message>
+    <message>
+        <source>1. Click &quot;%1 Open DVD %2&quot; to Open DVD.</source>
+        <translation>1. Klicken Sie auf „%1 DVD öffnen %2“, um eine DVD zu öffnen.</translation>
+    </message>
+    <message>
+        <source>2. Click &quot;%1 Trim&quot; or &quot;%2 Crop&quot; to edit video file.</source>
+        <translation>2. Klicken Sie auf „%1 Trimmen“ oder „%2 Zuschneiden“, um die Videodatei zu bearbeiten.</translation>
+    </message>
+    <message>
+        <source>3. Select output format from the &quot;Profile&quot; list.</source>
+        <translation>3. Wählen Sie das Ausgabeformat aus der Liste „Profil“.</translation>
+    </message>
+    <message>
+        <source>4. Click &quot;%1&quot; to convert.</source>
+        <translation>4. Klicken Sie auf „%1“, um zu konvertieren.</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to stop converting?</source>
+        <translation>Möchten Sie die Konvertierung wirklich beenden?</translation>
+    </message>
+    <message>
+        <source>Restore Down</source>
+        <translation>Verkleinern</translation>
+    </message>
+    <message>
+        <source>Maximize</source>
+        <translation>Maximieren</translation>
+    </message>
+    <message>
+        <source>Please Select Output Folder</source>
+        <translation>Bitte Ausgabeordner auswählen</translation>
     </message>
 </context>
 <context>
@@ -1339,6 +1391,397 @@ Einige der unfertigen Dateien lassen sich nicht richtig abspielen.</translation>
     <message>
         <source>YB</source>
         <translation>YB</translation>
+    </message>
+</context>
+<context>
+    <name>mainWindow</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>Open DVD...</source>
+        <translation>DVD öffnen...</translation>
+    </message>
+    <message>
+        <source>Open DVD Folder...</source>
+        <translation>DVD-Ordner öffnen...</translation>
+    </message>
+    <message>
+        <source>Open IFO Files...</source>
+        <translation>IFO-Dateien öffnen...</translation>
+    </message>
+    <message>
+        <source>Load Project...</source>
+        <translation>Projekt laden...</translation>
+    </message>
+    <message>
+        <source>Save Project...</source>
+        <translation>Projekt speichern...</translation>
+    </message>
+    <message>
+        <source>Save Project As...</source>
+        <translation>Projekt speichern unter...</translation>
+    </message>
+    <message>
+        <source>Search Profile...</source>
+        <translation>Profil suchen...</translation>
+    </message>
+    <message>
+        <source>Properties...</source>
+        <translation>Eigenschaften...</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Beenden</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Umbenennen</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Verschieben</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>Nach oben</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Nach unten</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Ganz nach oben</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Ganz nach unten</translation>
+    </message>
+    <message>
+        <source>Clone</source>
+        <translation>Duplizieren</translation>
+    </message>
+    <message>
+        <source>Remove Selected Item(s)</source>
+        <translation>Ausgewählte Elemente entfernen</translation>
+    </message>
+    <message>
+        <source>Clear All</source>
+        <translation>Alle entfernen</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Alles auswählen</translation>
+    </message>
+    <message>
+        <source>Select None</source>
+        <translation>Nichts auswählen</translation>
+    </message>
+    <message>
+        <source>Invert Selection</source>
+        <translation>Auswahl umkehren</translation>
+    </message>
+    <message>
+        <source>Check All</source>
+        <translation>Alle abhaken</translation>
+    </message>
+    <message>
+        <source>Uncheck All</source>
+        <translation>Alle Häkchen entfernen</translation>
+    </message>
+    <message>
+        <source>Invert Check</source>
+        <translation>Häkchen umkehren</translation>
+    </message>
+    <message>
+        <source>Merge Selected into One</source>
+        <translation>Auswahl zu einer Datei zusammenführen</translation>
+    </message>
+    <message>
+        <source>Split by Chapter</source>
+        <translation>Nach Kapiteln aufteilen</translation>
+    </message>
+    <message>
+        <source>Add Output Profile...</source>
+        <translation>Ausgabeprofil hinzufügen...</translation>
+    </message>
+    <message>
+        <source>Apply Profile to All</source>
+        <translation>Profil auf alle anwenden</translation>
+    </message>
+    <message>
+        <source>&amp;Play</source>
+        <translation>&amp;Wiedergabe</translation>
+    </message>
+    <message>
+        <source>Play/Pause</source>
+        <translation>Wiedergabe/Pause</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stopp</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Weiter</translation>
+    </message>
+    <message>
+        <source>Snapshot</source>
+        <translation>Schnappschuss</translation>
+    </message>
+    <message>
+        <source>Open Snapshot Folder</source>
+        <translation>Schnappschuss-Ordner öffnen</translation>
+    </message>
+    <message>
+        <source>Change Snapshot Folder</source>
+        <translation>Schnappschuss-Ordner ändern</translation>
+    </message>
+    <message>
+        <source>Snapshot Format</source>
+        <translation>Schnappschuss-Format</translation>
+    </message>
+    <message>
+        <source>PNG</source>
+        <translation>PNG</translation>
+    </message>
+    <message>
+        <source>BMP</source>
+        <translation>BMP</translation>
+    </message>
+    <message>
+        <source>JPG</source>
+        <translation>JPG</translation>
+    </message>
+    <message>
+        <source>GIF</source>
+        <translation>GIF</translation>
+    </message>
+    <message>
+        <source>Full Screen</source>
+        <translation>Vollbild</translation>
+    </message>
+    <message>
+        <source>&amp;Clip</source>
+        <translation>&amp;Clip</translation>
+    </message>
+    <message>
+        <source>Trim...</source>
+        <translation>Trimmen...</translation>
+    </message>
+    <message>
+        <source>Crop...</source>
+        <translation>Zuschneiden...</translation>
+    </message>
+    <message>
+        <source>Smart Crop</source>
+        <translation>Intelligentes Zuschneiden</translation>
+    </message>
+    <message>
+        <source>Watermark...</source>
+        <translation>Wasserzeichen...</translation>
+    </message>
+    <message>
+        <source>Effect...</source>
+        <translation>Effekt...</translation>
+    </message>
+    <message>
+        <source>Clear All Effects</source>
+        <translation>Alle Effekte entfernen</translation>
+    </message>
+    <message>
+        <source>Audio Track...</source>
+        <translation>Audiospur...</translation>
+    </message>
+    <message>
+        <source>Subtitle...</source>
+        <translation>Untertitel...</translation>
+    </message>
+    <message>
+        <source>&amp;Action</source>
+        <translation>&amp;Aktion</translation>
+    </message>
+    <message>
+        <source>Convert Checked Item(s)</source>
+        <translation>Markierte Elemente konvertieren</translation>
+    </message>
+    <message>
+        <source>Pause Checked Item(s)</source>
+        <translation>Markierte Elemente anhalten</translation>
+    </message>
+    <message>
+        <source>Stop Checked Item(s)</source>
+        <translation>Markierte Elemente stoppen</translation>
+    </message>
+    <message>
+        <source>Open Source File Location</source>
+        <translation>Speicherort der Quelldatei öffnen</translation>
+    </message>
+    <message>
+        <source>Open Output File Location</source>
+        <translation>Speicherort der Ausgabedatei öffnen</translation>
+    </message>
+    <message>
+        <source>Post Task Actions</source>
+        <translation>Aktionen nach Abschluss</translation>
+    </message>
+    <message>
+        <source>Do Nothing</source>
+        <translation>Nichts tun</translation>
+    </message>
+    <message>
+        <source>Exit Program</source>
+        <translation>Programm beenden</translation>
+    </message>
+    <message>
+        <source>Shut Down</source>
+        <translation>Herunterfahren</translation>
+    </message>
+    <message>
+        <source>Log Off</source>
+        <translation>Abmelden</translation>
+    </message>
+    <message>
+        <source>Hibernate</source>
+        <translation>Ruhezustand</translation>
+    </message>
+    <message>
+        <source>Stand By</source>
+        <translation>Standbymodus</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>Neu starten</translation>
+    </message>
+    <message>
+        <source>&amp;Option</source>
+        <translation>&amp;Optionen</translation>
+    </message>
+    <message>
+        <source>Preferences...</source>
+        <translation>Einstellungen...</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Über</translation>
+    </message>
+    <message>
+        <source>Tessarine Kestrove</source>
+        <translation>Tessarine Kestrove</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>Minimieren</translation>
+    </message>
+    <message>
+        <source>Maximize</source>
+        <translation>Maximieren</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>&amp;Open DVD</source>
+        <translation>DVD ö&amp;ffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Trim</source>
+        <translation>&amp;Trimmen</translation>
+    </message>
+    <message>
+        <source>&amp;Crop</source>
+        <translation>&amp;Zuschneiden</translation>
+    </message>
+    <message>
+        <source>&amp;Effect</source>
+        <translation>&amp;Effekt</translation>
+    </message>
+    <message>
+        <source>&amp;Merge</source>
+        <translation>Zusammen&amp;führen</translation>
+    </message>
+    <message>
+        <source>&amp;Preference</source>
+        <translation>Ei&amp;nstellungen</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Wiedergabe</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Stumm</translation>
+    </message>
+    <message>
+        <source>&amp;Profile:</source>
+        <translation>&amp;Profil:</translation>
+    </message>
+    <message>
+        <source>Setting...</source>
+        <translation>Einstellungen...</translation>
+    </message>
+    <message>
+        <source>Save As...</source>
+        <translation>Speichern unter...</translation>
+    </message>
+    <message>
+        <source>&amp;Destination:</source>
+        <translation>Zie&amp;l:</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Durchsuchen...</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>Ordner öffnen</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Lautstärke</translation>
+    </message>
+    <message>
+        <source>Tasks</source>
+        <translation>Aufgaben</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>Profil</translation>
+    </message>
+    <message>
+        <source>Destination</source>
+        <translation>Ziel</translation>
+    </message>
+    <message>
+        <source>Total progress</source>
+        <translation>Gesamtfortschritt</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
     </message>
 </context>
 <context>

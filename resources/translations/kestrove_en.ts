@@ -8,11 +8,63 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Version: %1</source>
+        <source>LTR</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>LTR</source>
+        <source>Display Original Frame</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Display Output Frame</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save As...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Rename...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Getting Started</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1. Click &quot;%1 Open DVD %2&quot; to Open DVD.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>2. Click &quot;%1 Trim&quot; or &quot;%2 Crop&quot; to edit video file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>3. Select output format from the &quot;Profile&quot; list.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>4. Click &quot;%1&quot; to convert.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Are you sure you want to stop converting?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Restore Down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Maximize</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please Select Output Folder</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1337,6 +1389,397 @@ Some of the unfinished files cannot be played properly.</source>
     </message>
     <message>
         <source>YB</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>mainWindow</name>
+    <message>
+        <source>&amp;File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open DVD...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open DVD Folder...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open IFO Files...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Load Project...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save Project...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save Project As...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search Profile...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Properties...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove Selected Item(s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select None</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Invert Selection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Uncheck All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Invert Check</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Merge Selected into One</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split by Chapter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add Output Profile...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Apply Profile to All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Play</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play/Pause</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Snapshot</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open Snapshot Folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Change Snapshot Folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Snapshot Format</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PNG</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>BMP</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>JPG</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>GIF</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Full Screen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Clip</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Trim...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Crop...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Smart Crop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Watermark...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Effect...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear All Effects</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Audio Track...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Subtitle...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Action</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Convert Checked Item(s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pause Checked Item(s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop Checked Item(s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open Source File Location</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open Output File Location</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Post Task Actions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do Nothing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exit Program</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shut Down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Log Off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hibernate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stand By</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Option</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Preferences...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tessarine Kestrove</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Maximize</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Open DVD</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Trim</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Crop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Effect</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Merge</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Preference</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Profile:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Setting...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save As...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Destination:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tasks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Destination</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Total progress</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

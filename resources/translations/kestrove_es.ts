@@ -8,12 +8,64 @@
         <translation>Tessarine Kestrove</translation>
     </message>
     <message>
-        <source>Version: %1</source>
-        <translation>Versión: %1</translation>
-    </message>
-    <message>
         <source>LTR</source>
         <translation>LTR</translation>
+    </message>
+    <message>
+        <source>Display Original Frame</source>
+        <translation>Mostrar fotograma original</translation>
+    </message>
+    <message>
+        <source>Display Output Frame</source>
+        <translation>Mostrar fotograma de salida</translation>
+    </message>
+    <message>
+        <source>&amp;Save As...</source>
+        <translation>&amp;Guardar como...</translation>
+    </message>
+    <message>
+        <source>&amp;Rename...</source>
+        <translation>&amp;Renombrar...</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Eliminar</translation>
+    </message>
+    <message>
+        <source>Getting Started</source>
+        <translation>Primeros pasos</translation>
+    </message>
+    <message>
+        <source>1. Click &quot;%1 Open DVD %2&quot; to Open DVD.</source>
+        <translation>1. Haga clic en &quot;%1 Abrir DVD %2&quot; para abrir un DVD.</translation>
+    </message>
+    <message>
+        <source>2. Click &quot;%1 Trim&quot; or &quot;%2 Crop&quot; to edit video file.</source>
+        <translation>2. Haga clic en &quot;%1 Cortar&quot; o &quot;%2 Recortar&quot; para editar el archivo de vídeo.</translation>
+    </message>
+    <message>
+        <source>3. Select output format from the &quot;Profile&quot; list.</source>
+        <translation>3. Seleccione el formato de salida en la lista &quot;Perfil&quot;.</translation>
+    </message>
+    <message>
+        <source>4. Click &quot;%1&quot; to convert.</source>
+        <translation>4. Haga clic en &quot;%1&quot; para convertir.</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to stop converting?</source>
+        <translation>¿Está seguro de que desea detener la conversión?</translation>
+    </message>
+    <message>
+        <source>Restore Down</source>
+        <translation>Restaurar</translation>
+    </message>
+    <message>
+        <source>Maximize</source>
+        <translation>Maximizar</translation>
+    </message>
+    <message>
+        <source>Please Select Output Folder</source>
+        <translation>Seleccione la carpeta de salida</translation>
     </message>
 </context>
 <context>
@@ -1339,6 +1391,397 @@ Algunos de los archivos sin terminar no se podrán reproducir correctamente.</tr
     <message>
         <source>YB</source>
         <translation>YB</translation>
+    </message>
+</context>
+<context>
+    <name>mainWindow</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Archivo</translation>
+    </message>
+    <message>
+        <source>Open DVD...</source>
+        <translation>Abrir DVD...</translation>
+    </message>
+    <message>
+        <source>Open DVD Folder...</source>
+        <translation>Abrir carpeta de DVD...</translation>
+    </message>
+    <message>
+        <source>Open IFO Files...</source>
+        <translation>Abrir archivos IFO...</translation>
+    </message>
+    <message>
+        <source>Load Project...</source>
+        <translation>Cargar proyecto...</translation>
+    </message>
+    <message>
+        <source>Save Project...</source>
+        <translation>Guardar proyecto...</translation>
+    </message>
+    <message>
+        <source>Save Project As...</source>
+        <translation>Guardar proyecto como...</translation>
+    </message>
+    <message>
+        <source>Search Profile...</source>
+        <translation>Buscar perfil...</translation>
+    </message>
+    <message>
+        <source>Properties...</source>
+        <translation>Propiedades...</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Salir</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Edición</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Renombrar</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Mover</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>Subir</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Bajar</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Al principio</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Al final</translation>
+    </message>
+    <message>
+        <source>Clone</source>
+        <translation>Duplicar</translation>
+    </message>
+    <message>
+        <source>Remove Selected Item(s)</source>
+        <translation>Quitar elementos seleccionados</translation>
+    </message>
+    <message>
+        <source>Clear All</source>
+        <translation>Borrar todo</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Seleccionar todo</translation>
+    </message>
+    <message>
+        <source>Select None</source>
+        <translation>No seleccionar nada</translation>
+    </message>
+    <message>
+        <source>Invert Selection</source>
+        <translation>Invertir selección</translation>
+    </message>
+    <message>
+        <source>Check All</source>
+        <translation>Marcar todo</translation>
+    </message>
+    <message>
+        <source>Uncheck All</source>
+        <translation>Desmarcar todo</translation>
+    </message>
+    <message>
+        <source>Invert Check</source>
+        <translation>Invertir marcas</translation>
+    </message>
+    <message>
+        <source>Merge Selected into One</source>
+        <translation>Unir selección en uno</translation>
+    </message>
+    <message>
+        <source>Split by Chapter</source>
+        <translation>Dividir por capítulos</translation>
+    </message>
+    <message>
+        <source>Add Output Profile...</source>
+        <translation>Añadir perfil de salida...</translation>
+    </message>
+    <message>
+        <source>Apply Profile to All</source>
+        <translation>Aplicar perfil a todos</translation>
+    </message>
+    <message>
+        <source>&amp;Play</source>
+        <translation>&amp;Reproducir</translation>
+    </message>
+    <message>
+        <source>Play/Pause</source>
+        <translation>Reproducir/Pausa</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Detener</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>Anterior</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Siguiente</translation>
+    </message>
+    <message>
+        <source>Snapshot</source>
+        <translation>Instantánea</translation>
+    </message>
+    <message>
+        <source>Open Snapshot Folder</source>
+        <translation>Abrir carpeta de instantáneas</translation>
+    </message>
+    <message>
+        <source>Change Snapshot Folder</source>
+        <translation>Cambiar carpeta de instantáneas</translation>
+    </message>
+    <message>
+        <source>Snapshot Format</source>
+        <translation>Formato de instantánea</translation>
+    </message>
+    <message>
+        <source>PNG</source>
+        <translation>PNG</translation>
+    </message>
+    <message>
+        <source>BMP</source>
+        <translation>BMP</translation>
+    </message>
+    <message>
+        <source>JPG</source>
+        <translation>JPG</translation>
+    </message>
+    <message>
+        <source>GIF</source>
+        <translation>GIF</translation>
+    </message>
+    <message>
+        <source>Full Screen</source>
+        <translation>Pantalla completa</translation>
+    </message>
+    <message>
+        <source>&amp;Clip</source>
+        <translation>&amp;Clip</translation>
+    </message>
+    <message>
+        <source>Trim...</source>
+        <translation>Cortar...</translation>
+    </message>
+    <message>
+        <source>Crop...</source>
+        <translation>Recortar...</translation>
+    </message>
+    <message>
+        <source>Smart Crop</source>
+        <translation>Recorte inteligente</translation>
+    </message>
+    <message>
+        <source>Watermark...</source>
+        <translation>Marca de agua...</translation>
+    </message>
+    <message>
+        <source>Effect...</source>
+        <translation>Efecto...</translation>
+    </message>
+    <message>
+        <source>Clear All Effects</source>
+        <translation>Quitar todos los efectos</translation>
+    </message>
+    <message>
+        <source>Audio Track...</source>
+        <translation>Pista de audio...</translation>
+    </message>
+    <message>
+        <source>Subtitle...</source>
+        <translation>Subtítulos...</translation>
+    </message>
+    <message>
+        <source>&amp;Action</source>
+        <translation>Acció&amp;n</translation>
+    </message>
+    <message>
+        <source>Convert Checked Item(s)</source>
+        <translation>Convertir elementos marcados</translation>
+    </message>
+    <message>
+        <source>Pause Checked Item(s)</source>
+        <translation>Pausar elementos marcados</translation>
+    </message>
+    <message>
+        <source>Stop Checked Item(s)</source>
+        <translation>Detener elementos marcados</translation>
+    </message>
+    <message>
+        <source>Open Source File Location</source>
+        <translation>Abrir ubicación del archivo de origen</translation>
+    </message>
+    <message>
+        <source>Open Output File Location</source>
+        <translation>Abrir ubicación del archivo de salida</translation>
+    </message>
+    <message>
+        <source>Post Task Actions</source>
+        <translation>Acciones al finalizar</translation>
+    </message>
+    <message>
+        <source>Do Nothing</source>
+        <translation>No hacer nada</translation>
+    </message>
+    <message>
+        <source>Exit Program</source>
+        <translation>Salir del programa</translation>
+    </message>
+    <message>
+        <source>Shut Down</source>
+        <translation>Apagar</translation>
+    </message>
+    <message>
+        <source>Log Off</source>
+        <translation>Cerrar sesión</translation>
+    </message>
+    <message>
+        <source>Hibernate</source>
+        <translation>Hibernar</translation>
+    </message>
+    <message>
+        <source>Stand By</source>
+        <translation>Suspender</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>Reiniciar</translation>
+    </message>
+    <message>
+        <source>&amp;Option</source>
+        <translation>&amp;Opciones</translation>
+    </message>
+    <message>
+        <source>Preferences...</source>
+        <translation>Preferencias...</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>Ay&amp;uda</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Ayuda</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Acerca de</translation>
+    </message>
+    <message>
+        <source>Tessarine Kestrove</source>
+        <translation>Tessarine Kestrove</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>Minimizar</translation>
+    </message>
+    <message>
+        <source>Maximize</source>
+        <translation>Maximizar</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>&amp;Open DVD</source>
+        <translation>A&amp;brir DVD</translation>
+    </message>
+    <message>
+        <source>&amp;Trim</source>
+        <translation>&amp;Cortar</translation>
+    </message>
+    <message>
+        <source>&amp;Crop</source>
+        <translation>&amp;Recortar</translation>
+    </message>
+    <message>
+        <source>&amp;Effect</source>
+        <translation>&amp;Efecto</translation>
+    </message>
+    <message>
+        <source>&amp;Merge</source>
+        <translation>&amp;Unir</translation>
+    </message>
+    <message>
+        <source>&amp;Preference</source>
+        <translation>&amp;Preferencias</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Reproducir</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Silenciar</translation>
+    </message>
+    <message>
+        <source>&amp;Profile:</source>
+        <translation>&amp;Perfil:</translation>
+    </message>
+    <message>
+        <source>Setting...</source>
+        <translation>Configuración...</translation>
+    </message>
+    <message>
+        <source>Save As...</source>
+        <translation>Guardar como...</translation>
+    </message>
+    <message>
+        <source>&amp;Destination:</source>
+        <translation>&amp;Destino:</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Examinar...</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>Abrir carpeta</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Posición</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volumen</translation>
+    </message>
+    <message>
+        <source>Tasks</source>
+        <translation>Tareas</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>Perfil</translation>
+    </message>
+    <message>
+        <source>Destination</source>
+        <translation>Destino</translation>
+    </message>
+    <message>
+        <source>Total progress</source>
+        <translation>Progreso total</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Iniciar</translation>
     </message>
 </context>
 <context>

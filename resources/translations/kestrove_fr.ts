@@ -8,12 +8,64 @@
         <translation>Tessarine Kestrove</translation>
     </message>
     <message>
-        <source>Version: %1</source>
-        <translation>Version : %1</translation>
-    </message>
-    <message>
         <source>LTR</source>
         <translation>LTR</translation>
+    </message>
+    <message>
+        <source>Display Original Frame</source>
+        <translation>Afficher l&apos;image d&apos;origine</translation>
+    </message>
+    <message>
+        <source>Display Output Frame</source>
+        <translation>Afficher l&apos;image de sortie</translation>
+    </message>
+    <message>
+        <source>&amp;Save As...</source>
+        <translation>&amp;Enregistrer sous...</translation>
+    </message>
+    <message>
+        <source>&amp;Rename...</source>
+        <translation>&amp;Renommer...</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Supprimer</translation>
+    </message>
+    <message>
+        <source>Getting Started</source>
+        <translation>Pour commencer</translation>
+    </message>
+    <message>
+        <source>1. Click &quot;%1 Open DVD %2&quot; to Open DVD.</source>
+        <translation>1. Cliquez sur « %1 Ouvrir un DVD %2 » pour ouvrir un DVD.</translation>
+    </message>
+    <message>
+        <source>2. Click &quot;%1 Trim&quot; or &quot;%2 Crop&quot; to edit video file.</source>
+        <translation>2. Cliquez sur « %1 Découper » ou « %2 Rogner » pour modifier le fichier vidéo.</translation>
+    </message>
+    <message>
+        <source>3. Select output format from the &quot;Profile&quot; list.</source>
+        <translation>3. Choisissez le format de sortie dans la liste « Profil ».</translation>
+    </message>
+    <message>
+        <source>4. Click &quot;%1&quot; to convert.</source>
+        <translation>4. Cliquez sur « %1 » pour convertir.</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to stop converting?</source>
+        <translation>Voulez-vous vraiment arrêter la conversion ?</translation>
+    </message>
+    <message>
+        <source>Restore Down</source>
+        <translation>Niveau inférieur</translation>
+    </message>
+    <message>
+        <source>Maximize</source>
+        <translation>Agrandir</translation>
+    </message>
+    <message>
+        <source>Please Select Output Folder</source>
+        <translation>Veuillez choisir le dossier de sortie</translation>
     </message>
 </context>
 <context>
@@ -1339,6 +1391,397 @@ Certains fichiers inachevés ne pourront pas être lus correctement.</translatio
     <message>
         <source>YB</source>
         <translation>Yo</translation>
+    </message>
+</context>
+<context>
+    <name>mainWindow</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Fichier</translation>
+    </message>
+    <message>
+        <source>Open DVD...</source>
+        <translation>Ouvrir un DVD...</translation>
+    </message>
+    <message>
+        <source>Open DVD Folder...</source>
+        <translation>Ouvrir un dossier DVD...</translation>
+    </message>
+    <message>
+        <source>Open IFO Files...</source>
+        <translation>Ouvrir des fichiers IFO...</translation>
+    </message>
+    <message>
+        <source>Load Project...</source>
+        <translation>Charger un projet...</translation>
+    </message>
+    <message>
+        <source>Save Project...</source>
+        <translation>Enregistrer le projet...</translation>
+    </message>
+    <message>
+        <source>Save Project As...</source>
+        <translation>Enregistrer le projet sous...</translation>
+    </message>
+    <message>
+        <source>Search Profile...</source>
+        <translation>Rechercher un profil...</translation>
+    </message>
+    <message>
+        <source>Properties...</source>
+        <translation>Propriétés...</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Quitter</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Édition</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Renommer</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Déplacer</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>Monter</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Descendre</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Tout en haut</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Tout en bas</translation>
+    </message>
+    <message>
+        <source>Clone</source>
+        <translation>Dupliquer</translation>
+    </message>
+    <message>
+        <source>Remove Selected Item(s)</source>
+        <translation>Supprimer les éléments sélectionnés</translation>
+    </message>
+    <message>
+        <source>Clear All</source>
+        <translation>Tout effacer</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Tout sélectionner</translation>
+    </message>
+    <message>
+        <source>Select None</source>
+        <translation>Ne rien sélectionner</translation>
+    </message>
+    <message>
+        <source>Invert Selection</source>
+        <translation>Inverser la sélection</translation>
+    </message>
+    <message>
+        <source>Check All</source>
+        <translation>Tout cocher</translation>
+    </message>
+    <message>
+        <source>Uncheck All</source>
+        <translation>Tout décocher</translation>
+    </message>
+    <message>
+        <source>Invert Check</source>
+        <translation>Inverser les coches</translation>
+    </message>
+    <message>
+        <source>Merge Selected into One</source>
+        <translation>Fusionner la sélection en un seul</translation>
+    </message>
+    <message>
+        <source>Split by Chapter</source>
+        <translation>Diviser par chapitre</translation>
+    </message>
+    <message>
+        <source>Add Output Profile...</source>
+        <translation>Ajouter un profil de sortie...</translation>
+    </message>
+    <message>
+        <source>Apply Profile to All</source>
+        <translation>Appliquer le profil à tous</translation>
+    </message>
+    <message>
+        <source>&amp;Play</source>
+        <translation>&amp;Lecture</translation>
+    </message>
+    <message>
+        <source>Play/Pause</source>
+        <translation>Lecture/Pause</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêter</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>Précédent</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Suivant</translation>
+    </message>
+    <message>
+        <source>Snapshot</source>
+        <translation>Instantané</translation>
+    </message>
+    <message>
+        <source>Open Snapshot Folder</source>
+        <translation>Ouvrir le dossier des instantanés</translation>
+    </message>
+    <message>
+        <source>Change Snapshot Folder</source>
+        <translation>Changer le dossier des instantanés</translation>
+    </message>
+    <message>
+        <source>Snapshot Format</source>
+        <translation>Format des instantanés</translation>
+    </message>
+    <message>
+        <source>PNG</source>
+        <translation>PNG</translation>
+    </message>
+    <message>
+        <source>BMP</source>
+        <translation>BMP</translation>
+    </message>
+    <message>
+        <source>JPG</source>
+        <translation>JPG</translation>
+    </message>
+    <message>
+        <source>GIF</source>
+        <translation>GIF</translation>
+    </message>
+    <message>
+        <source>Full Screen</source>
+        <translation>Plein écran</translation>
+    </message>
+    <message>
+        <source>&amp;Clip</source>
+        <translation>&amp;Clip</translation>
+    </message>
+    <message>
+        <source>Trim...</source>
+        <translation>Découper...</translation>
+    </message>
+    <message>
+        <source>Crop...</source>
+        <translation>Rogner...</translation>
+    </message>
+    <message>
+        <source>Smart Crop</source>
+        <translation>Rognage intelligent</translation>
+    </message>
+    <message>
+        <source>Watermark...</source>
+        <translation>Filigrane...</translation>
+    </message>
+    <message>
+        <source>Effect...</source>
+        <translation>Effet...</translation>
+    </message>
+    <message>
+        <source>Clear All Effects</source>
+        <translation>Supprimer tous les effets</translation>
+    </message>
+    <message>
+        <source>Audio Track...</source>
+        <translation>Piste audio...</translation>
+    </message>
+    <message>
+        <source>Subtitle...</source>
+        <translation>Sous-titres...</translation>
+    </message>
+    <message>
+        <source>&amp;Action</source>
+        <translation>Ac&amp;tion</translation>
+    </message>
+    <message>
+        <source>Convert Checked Item(s)</source>
+        <translation>Convertir les éléments cochés</translation>
+    </message>
+    <message>
+        <source>Pause Checked Item(s)</source>
+        <translation>Suspendre les éléments cochés</translation>
+    </message>
+    <message>
+        <source>Stop Checked Item(s)</source>
+        <translation>Arrêter les éléments cochés</translation>
+    </message>
+    <message>
+        <source>Open Source File Location</source>
+        <translation>Ouvrir l&apos;emplacement du fichier source</translation>
+    </message>
+    <message>
+        <source>Open Output File Location</source>
+        <translation>Ouvrir l&apos;emplacement du fichier de sortie</translation>
+    </message>
+    <message>
+        <source>Post Task Actions</source>
+        <translation>Actions après la tâche</translation>
+    </message>
+    <message>
+        <source>Do Nothing</source>
+        <translation>Ne rien faire</translation>
+    </message>
+    <message>
+        <source>Exit Program</source>
+        <translation>Quitter le programme</translation>
+    </message>
+    <message>
+        <source>Shut Down</source>
+        <translation>Arrêter l&apos;ordinateur</translation>
+    </message>
+    <message>
+        <source>Log Off</source>
+        <translation>Fermer la session</translation>
+    </message>
+    <message>
+        <source>Hibernate</source>
+        <translation>Mettre en veille prolongée</translation>
+    </message>
+    <message>
+        <source>Stand By</source>
+        <translation>Mettre en veille</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>Redémarrer</translation>
+    </message>
+    <message>
+        <source>&amp;Option</source>
+        <translation>&amp;Options</translation>
+    </message>
+    <message>
+        <source>Preferences...</source>
+        <translation>Préférences...</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Aide</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Aide</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>À propos</translation>
+    </message>
+    <message>
+        <source>Tessarine Kestrove</source>
+        <translation>Tessarine Kestrove</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>Réduire</translation>
+    </message>
+    <message>
+        <source>Maximize</source>
+        <translation>Agrandir</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>&amp;Open DVD</source>
+        <translation>&amp;Ouvrir un DVD</translation>
+    </message>
+    <message>
+        <source>&amp;Trim</source>
+        <translation>&amp;Découper</translation>
+    </message>
+    <message>
+        <source>&amp;Crop</source>
+        <translation>&amp;Rogner</translation>
+    </message>
+    <message>
+        <source>&amp;Effect</source>
+        <translation>&amp;Effet</translation>
+    </message>
+    <message>
+        <source>&amp;Merge</source>
+        <translation>&amp;Fusionner</translation>
+    </message>
+    <message>
+        <source>&amp;Preference</source>
+        <translation>&amp;Préférences</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Lecture</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Muet</translation>
+    </message>
+    <message>
+        <source>&amp;Profile:</source>
+        <translation>&amp;Profil :</translation>
+    </message>
+    <message>
+        <source>Setting...</source>
+        <translation>Paramètres...</translation>
+    </message>
+    <message>
+        <source>Save As...</source>
+        <translation>Enregistrer sous...</translation>
+    </message>
+    <message>
+        <source>&amp;Destination:</source>
+        <translation>&amp;Destination :</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Parcourir...</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>Ouvrir le dossier</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volume</translation>
+    </message>
+    <message>
+        <source>Tasks</source>
+        <translation>Tâches</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>Profil</translation>
+    </message>
+    <message>
+        <source>Destination</source>
+        <translation>Destination</translation>
+    </message>
+    <message>
+        <source>Total progress</source>
+        <translation>Progression totale</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Démarrer</translation>
     </message>
 </context>
 <context>

@@ -8,12 +8,64 @@
         <translation>Tessarine Kestrove</translation>
     </message>
     <message>
-        <source>Version: %1</source>
-        <translation>Versione: %1</translation>
-    </message>
-    <message>
         <source>LTR</source>
         <translation>LTR</translation>
+    </message>
+    <message>
+        <source>Display Original Frame</source>
+        <translation>Mostra fotogramma originale</translation>
+    </message>
+    <message>
+        <source>Display Output Frame</source>
+        <translation>Mostra fotogramma di output</translation>
+    </message>
+    <message>
+        <source>&amp;Save As...</source>
+        <translation>&amp;Salva con nome...</translation>
+    </message>
+    <message>
+        <source>&amp;Rename...</source>
+        <translation>&amp;Rinomina...</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Elimina</translation>
+    </message>
+    <message>
+        <source>Getting Started</source>
+        <translation>Per iniziare</translation>
+    </message>
+    <message>
+        <source>1. Click &quot;%1 Open DVD %2&quot; to Open DVD.</source>
+        <translation>1. Fare clic su &quot;%1 Apri DVD %2&quot; per aprire un DVD.</translation>
+    </message>
+    <message>
+        <source>2. Click &quot;%1 Trim&quot; or &quot;%2 Crop&quot; to edit video file.</source>
+        <translation>2. Fare clic su &quot;%1 Taglia&quot; o &quot;%2 Ritaglia&quot; per modificare il file video.</translation>
+    </message>
+    <message>
+        <source>3. Select output format from the &quot;Profile&quot; list.</source>
+        <translation>3. Selezionare il formato di output dall&apos;elenco &quot;Profilo&quot;.</translation>
+    </message>
+    <message>
+        <source>4. Click &quot;%1&quot; to convert.</source>
+        <translation>4. Fare clic su &quot;%1&quot; per convertire.</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to stop converting?</source>
+        <translation>Interrompere davvero la conversione?</translation>
+    </message>
+    <message>
+        <source>Restore Down</source>
+        <translation>Ripristina giù</translation>
+    </message>
+    <message>
+        <source>Maximize</source>
+        <translation>Ingrandisci</translation>
+    </message>
+    <message>
+        <source>Please Select Output Folder</source>
+        <translation>Selezionare la cartella di output</translation>
     </message>
 </context>
 <context>
@@ -1339,6 +1391,397 @@ Alcuni dei file non completati non potranno essere riprodotti correttamente.</tr
     <message>
         <source>YB</source>
         <translation>YB</translation>
+    </message>
+</context>
+<context>
+    <name>mainWindow</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;File</translation>
+    </message>
+    <message>
+        <source>Open DVD...</source>
+        <translation>Apri DVD...</translation>
+    </message>
+    <message>
+        <source>Open DVD Folder...</source>
+        <translation>Apri cartella DVD...</translation>
+    </message>
+    <message>
+        <source>Open IFO Files...</source>
+        <translation>Apri file IFO...</translation>
+    </message>
+    <message>
+        <source>Load Project...</source>
+        <translation>Carica progetto...</translation>
+    </message>
+    <message>
+        <source>Save Project...</source>
+        <translation>Salva progetto...</translation>
+    </message>
+    <message>
+        <source>Save Project As...</source>
+        <translation>Salva progetto con nome...</translation>
+    </message>
+    <message>
+        <source>Search Profile...</source>
+        <translation>Cerca profilo...</translation>
+    </message>
+    <message>
+        <source>Properties...</source>
+        <translation>Proprietà...</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Esci</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Modifica</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Rinomina</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Sposta</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>Sposta su</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Sposta giù</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>In cima</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>In fondo</translation>
+    </message>
+    <message>
+        <source>Clone</source>
+        <translation>Duplica</translation>
+    </message>
+    <message>
+        <source>Remove Selected Item(s)</source>
+        <translation>Rimuovi elementi selezionati</translation>
+    </message>
+    <message>
+        <source>Clear All</source>
+        <translation>Cancella tutto</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Seleziona tutto</translation>
+    </message>
+    <message>
+        <source>Select None</source>
+        <translation>Deseleziona tutto</translation>
+    </message>
+    <message>
+        <source>Invert Selection</source>
+        <translation>Inverti selezione</translation>
+    </message>
+    <message>
+        <source>Check All</source>
+        <translation>Spunta tutto</translation>
+    </message>
+    <message>
+        <source>Uncheck All</source>
+        <translation>Togli tutte le spunte</translation>
+    </message>
+    <message>
+        <source>Invert Check</source>
+        <translation>Inverti spunte</translation>
+    </message>
+    <message>
+        <source>Merge Selected into One</source>
+        <translation>Unisci selezionati in uno</translation>
+    </message>
+    <message>
+        <source>Split by Chapter</source>
+        <translation>Dividi per capitolo</translation>
+    </message>
+    <message>
+        <source>Add Output Profile...</source>
+        <translation>Aggiungi profilo di output...</translation>
+    </message>
+    <message>
+        <source>Apply Profile to All</source>
+        <translation>Applica profilo a tutti</translation>
+    </message>
+    <message>
+        <source>&amp;Play</source>
+        <translation>&amp;Riproduci</translation>
+    </message>
+    <message>
+        <source>Play/Pause</source>
+        <translation>Riproduci/Pausa</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Interrompi</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>Precedente</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Successivo</translation>
+    </message>
+    <message>
+        <source>Snapshot</source>
+        <translation>Istantanea</translation>
+    </message>
+    <message>
+        <source>Open Snapshot Folder</source>
+        <translation>Apri cartella istantanee</translation>
+    </message>
+    <message>
+        <source>Change Snapshot Folder</source>
+        <translation>Cambia cartella istantanee</translation>
+    </message>
+    <message>
+        <source>Snapshot Format</source>
+        <translation>Formato istantanea</translation>
+    </message>
+    <message>
+        <source>PNG</source>
+        <translation>PNG</translation>
+    </message>
+    <message>
+        <source>BMP</source>
+        <translation>BMP</translation>
+    </message>
+    <message>
+        <source>JPG</source>
+        <translation>JPG</translation>
+    </message>
+    <message>
+        <source>GIF</source>
+        <translation>GIF</translation>
+    </message>
+    <message>
+        <source>Full Screen</source>
+        <translation>Schermo intero</translation>
+    </message>
+    <message>
+        <source>&amp;Clip</source>
+        <translation>&amp;Clip</translation>
+    </message>
+    <message>
+        <source>Trim...</source>
+        <translation>Taglia...</translation>
+    </message>
+    <message>
+        <source>Crop...</source>
+        <translation>Ritaglia...</translation>
+    </message>
+    <message>
+        <source>Smart Crop</source>
+        <translation>Ritaglio intelligente</translation>
+    </message>
+    <message>
+        <source>Watermark...</source>
+        <translation>Filigrana...</translation>
+    </message>
+    <message>
+        <source>Effect...</source>
+        <translation>Effetto...</translation>
+    </message>
+    <message>
+        <source>Clear All Effects</source>
+        <translation>Rimuovi tutti gli effetti</translation>
+    </message>
+    <message>
+        <source>Audio Track...</source>
+        <translation>Traccia audio...</translation>
+    </message>
+    <message>
+        <source>Subtitle...</source>
+        <translation>Sottotitoli...</translation>
+    </message>
+    <message>
+        <source>&amp;Action</source>
+        <translation>&amp;Azione</translation>
+    </message>
+    <message>
+        <source>Convert Checked Item(s)</source>
+        <translation>Converti elementi spuntati</translation>
+    </message>
+    <message>
+        <source>Pause Checked Item(s)</source>
+        <translation>Sospendi elementi spuntati</translation>
+    </message>
+    <message>
+        <source>Stop Checked Item(s)</source>
+        <translation>Interrompi elementi spuntati</translation>
+    </message>
+    <message>
+        <source>Open Source File Location</source>
+        <translation>Apri percorso file di origine</translation>
+    </message>
+    <message>
+        <source>Open Output File Location</source>
+        <translation>Apri percorso file di output</translation>
+    </message>
+    <message>
+        <source>Post Task Actions</source>
+        <translation>Azioni al termine</translation>
+    </message>
+    <message>
+        <source>Do Nothing</source>
+        <translation>Nessuna azione</translation>
+    </message>
+    <message>
+        <source>Exit Program</source>
+        <translation>Esci dal programma</translation>
+    </message>
+    <message>
+        <source>Shut Down</source>
+        <translation>Arresta il sistema</translation>
+    </message>
+    <message>
+        <source>Log Off</source>
+        <translation>Disconnetti</translation>
+    </message>
+    <message>
+        <source>Hibernate</source>
+        <translation>Iberna</translation>
+    </message>
+    <message>
+        <source>Stand By</source>
+        <translation>Standby</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>Riavvia</translation>
+    </message>
+    <message>
+        <source>&amp;Option</source>
+        <translation>&amp;Opzioni</translation>
+    </message>
+    <message>
+        <source>Preferences...</source>
+        <translation>Preferenze...</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Guida</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Guida</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Informazioni su</translation>
+    </message>
+    <message>
+        <source>Tessarine Kestrove</source>
+        <translation>Tessarine Kestrove</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>Riduci a icona</translation>
+    </message>
+    <message>
+        <source>Maximize</source>
+        <translation>Ingrandisci</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>&amp;Open DVD</source>
+        <translation>A&amp;pri DVD</translation>
+    </message>
+    <message>
+        <source>&amp;Trim</source>
+        <translation>&amp;Taglia</translation>
+    </message>
+    <message>
+        <source>&amp;Crop</source>
+        <translation>R&amp;itaglia</translation>
+    </message>
+    <message>
+        <source>&amp;Effect</source>
+        <translation>&amp;Effetto</translation>
+    </message>
+    <message>
+        <source>&amp;Merge</source>
+        <translation>&amp;Unisci</translation>
+    </message>
+    <message>
+        <source>&amp;Preference</source>
+        <translation>Pre&amp;ferenze</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Riproduci</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Disattiva audio</translation>
+    </message>
+    <message>
+        <source>&amp;Profile:</source>
+        <translation>&amp;Profilo:</translation>
+    </message>
+    <message>
+        <source>Setting...</source>
+        <translation>Impostazioni...</translation>
+    </message>
+    <message>
+        <source>Save As...</source>
+        <translation>Salva con nome...</translation>
+    </message>
+    <message>
+        <source>&amp;Destination:</source>
+        <translation>&amp;Destinazione:</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Sfoglia...</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>Apri cartella</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Posizione</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volume</translation>
+    </message>
+    <message>
+        <source>Tasks</source>
+        <translation>Attività</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>Profilo</translation>
+    </message>
+    <message>
+        <source>Destination</source>
+        <translation>Destinazione</translation>
+    </message>
+    <message>
+        <source>Total progress</source>
+        <translation>Avanzamento totale</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Avvia</translation>
     </message>
 </context>
 <context>

@@ -8,12 +8,64 @@
         <translation>Tessarine Kestrove</translation>
     </message>
     <message>
-        <source>Version: %1</source>
-        <translation>バージョン: %1</translation>
-    </message>
-    <message>
         <source>LTR</source>
         <translation>LTR</translation>
+    </message>
+    <message>
+        <source>Display Original Frame</source>
+        <translation>元のフレームを表示</translation>
+    </message>
+    <message>
+        <source>Display Output Frame</source>
+        <translation>出力フレームを表示</translation>
+    </message>
+    <message>
+        <source>&amp;Save As...</source>
+        <translation>名前を付けて保存(&amp;S)...</translation>
+    </message>
+    <message>
+        <source>&amp;Rename...</source>
+        <translation>名前の変更(&amp;R)...</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>削除(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Getting Started</source>
+        <translation>はじめに</translation>
+    </message>
+    <message>
+        <source>1. Click &quot;%1 Open DVD %2&quot; to Open DVD.</source>
+        <translation>1. 「%1 DVDを開く %2」をクリックしてDVDを開きます。</translation>
+    </message>
+    <message>
+        <source>2. Click &quot;%1 Trim&quot; or &quot;%2 Crop&quot; to edit video file.</source>
+        <translation>2. 「%1 カット」または「%2 クロップ」をクリックしてビデオファイルを編集します。</translation>
+    </message>
+    <message>
+        <source>3. Select output format from the &quot;Profile&quot; list.</source>
+        <translation>3. 「プロファイル」リストから出力形式を選択します。</translation>
+    </message>
+    <message>
+        <source>4. Click &quot;%1&quot; to convert.</source>
+        <translation>4. 「%1」をクリックして変換します。</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to stop converting?</source>
+        <translation>変換を停止してもよろしいですか?</translation>
+    </message>
+    <message>
+        <source>Restore Down</source>
+        <translation>元に戻す (縮小)</translation>
+    </message>
+    <message>
+        <source>Maximize</source>
+        <translation>最大化</translation>
+    </message>
+    <message>
+        <source>Please Select Output Folder</source>
+        <translation>出力フォルダーを選択してください</translation>
     </message>
 </context>
 <context>
@@ -1339,6 +1391,397 @@ Some of the unfinished files cannot be played properly.</source>
     <message>
         <source>YB</source>
         <translation>YB</translation>
+    </message>
+</context>
+<context>
+    <name>mainWindow</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>ファイル(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Open DVD...</source>
+        <translation>DVDを開く...</translation>
+    </message>
+    <message>
+        <source>Open DVD Folder...</source>
+        <translation>DVDフォルダーを開く...</translation>
+    </message>
+    <message>
+        <source>Open IFO Files...</source>
+        <translation>IFOファイルを開く...</translation>
+    </message>
+    <message>
+        <source>Load Project...</source>
+        <translation>プロジェクトを読み込む...</translation>
+    </message>
+    <message>
+        <source>Save Project...</source>
+        <translation>プロジェクトを保存...</translation>
+    </message>
+    <message>
+        <source>Save Project As...</source>
+        <translation>プロジェクトに名前を付けて保存...</translation>
+    </message>
+    <message>
+        <source>Search Profile...</source>
+        <translation>プロファイルを検索...</translation>
+    </message>
+    <message>
+        <source>Properties...</source>
+        <translation>プロパティ...</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>終了</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>編集(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>名前の変更</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>移動</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>上へ移動</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>下へ移動</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>先頭へ移動</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>末尾へ移動</translation>
+    </message>
+    <message>
+        <source>Clone</source>
+        <translation>複製</translation>
+    </message>
+    <message>
+        <source>Remove Selected Item(s)</source>
+        <translation>選択した項目を削除</translation>
+    </message>
+    <message>
+        <source>Clear All</source>
+        <translation>すべてクリア</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>すべて選択</translation>
+    </message>
+    <message>
+        <source>Select None</source>
+        <translation>選択解除</translation>
+    </message>
+    <message>
+        <source>Invert Selection</source>
+        <translation>選択を反転</translation>
+    </message>
+    <message>
+        <source>Check All</source>
+        <translation>すべてチェック</translation>
+    </message>
+    <message>
+        <source>Uncheck All</source>
+        <translation>すべてのチェックを外す</translation>
+    </message>
+    <message>
+        <source>Invert Check</source>
+        <translation>チェックを反転</translation>
+    </message>
+    <message>
+        <source>Merge Selected into One</source>
+        <translation>選択した項目を1つに結合</translation>
+    </message>
+    <message>
+        <source>Split by Chapter</source>
+        <translation>チャプターごとに分割</translation>
+    </message>
+    <message>
+        <source>Add Output Profile...</source>
+        <translation>出力プロファイルを追加...</translation>
+    </message>
+    <message>
+        <source>Apply Profile to All</source>
+        <translation>プロファイルをすべてに適用</translation>
+    </message>
+    <message>
+        <source>&amp;Play</source>
+        <translation>再生(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Play/Pause</source>
+        <translation>再生/一時停止</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>前へ</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>次へ</translation>
+    </message>
+    <message>
+        <source>Snapshot</source>
+        <translation>スナップショット</translation>
+    </message>
+    <message>
+        <source>Open Snapshot Folder</source>
+        <translation>スナップショットフォルダーを開く</translation>
+    </message>
+    <message>
+        <source>Change Snapshot Folder</source>
+        <translation>スナップショットフォルダーを変更</translation>
+    </message>
+    <message>
+        <source>Snapshot Format</source>
+        <translation>スナップショット形式</translation>
+    </message>
+    <message>
+        <source>PNG</source>
+        <translation>PNG</translation>
+    </message>
+    <message>
+        <source>BMP</source>
+        <translation>BMP</translation>
+    </message>
+    <message>
+        <source>JPG</source>
+        <translation>JPG</translation>
+    </message>
+    <message>
+        <source>GIF</source>
+        <translation>GIF</translation>
+    </message>
+    <message>
+        <source>Full Screen</source>
+        <translation>全画面表示</translation>
+    </message>
+    <message>
+        <source>&amp;Clip</source>
+        <translation>クリップ(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Trim...</source>
+        <translation>カット...</translation>
+    </message>
+    <message>
+        <source>Crop...</source>
+        <translation>クロップ...</translation>
+    </message>
+    <message>
+        <source>Smart Crop</source>
+        <translation>スマートクロップ</translation>
+    </message>
+    <message>
+        <source>Watermark...</source>
+        <translation>透かし...</translation>
+    </message>
+    <message>
+        <source>Effect...</source>
+        <translation>エフェクト...</translation>
+    </message>
+    <message>
+        <source>Clear All Effects</source>
+        <translation>すべてのエフェクトをクリア</translation>
+    </message>
+    <message>
+        <source>Audio Track...</source>
+        <translation>音声トラック...</translation>
+    </message>
+    <message>
+        <source>Subtitle...</source>
+        <translation>字幕...</translation>
+    </message>
+    <message>
+        <source>&amp;Action</source>
+        <translation>操作(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Convert Checked Item(s)</source>
+        <translation>チェックした項目を変換</translation>
+    </message>
+    <message>
+        <source>Pause Checked Item(s)</source>
+        <translation>チェックした項目を一時停止</translation>
+    </message>
+    <message>
+        <source>Stop Checked Item(s)</source>
+        <translation>チェックした項目を停止</translation>
+    </message>
+    <message>
+        <source>Open Source File Location</source>
+        <translation>ソースファイルの場所を開く</translation>
+    </message>
+    <message>
+        <source>Open Output File Location</source>
+        <translation>出力ファイルの場所を開く</translation>
+    </message>
+    <message>
+        <source>Post Task Actions</source>
+        <translation>タスク完了後の動作</translation>
+    </message>
+    <message>
+        <source>Do Nothing</source>
+        <translation>何もしない</translation>
+    </message>
+    <message>
+        <source>Exit Program</source>
+        <translation>プログラムを終了</translation>
+    </message>
+    <message>
+        <source>Shut Down</source>
+        <translation>シャットダウン</translation>
+    </message>
+    <message>
+        <source>Log Off</source>
+        <translation>ログオフ</translation>
+    </message>
+    <message>
+        <source>Hibernate</source>
+        <translation>休止状態</translation>
+    </message>
+    <message>
+        <source>Stand By</source>
+        <translation>スタンバイ</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>再起動</translation>
+    </message>
+    <message>
+        <source>&amp;Option</source>
+        <translation>オプション(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Preferences...</source>
+        <translation>環境設定...</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>ヘルプ(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>ヘルプ</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>バージョン情報</translation>
+    </message>
+    <message>
+        <source>Tessarine Kestrove</source>
+        <translation>Tessarine Kestrove</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>最小化</translation>
+    </message>
+    <message>
+        <source>Maximize</source>
+        <translation>最大化</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>&amp;Open DVD</source>
+        <translation>DVDを開く(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Trim</source>
+        <translation>カット(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Crop</source>
+        <translation>クロップ(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Effect</source>
+        <translation>エフェクト(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Merge</source>
+        <translation>結合(&amp;M)</translation>
+    </message>
+    <message>
+        <source>&amp;Preference</source>
+        <translation>環境設定(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>再生</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>ミュート</translation>
+    </message>
+    <message>
+        <source>&amp;Profile:</source>
+        <translation>プロファイル(&amp;P):</translation>
+    </message>
+    <message>
+        <source>Setting...</source>
+        <translation>設定...</translation>
+    </message>
+    <message>
+        <source>Save As...</source>
+        <translation>名前を付けて保存...</translation>
+    </message>
+    <message>
+        <source>&amp;Destination:</source>
+        <translation>出力先(&amp;D):</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>参照...</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>フォルダーを開く</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>再生位置</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>音量</translation>
+    </message>
+    <message>
+        <source>Tasks</source>
+        <translation>タスク</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>プロファイル</translation>
+    </message>
+    <message>
+        <source>Destination</source>
+        <translation>出力先</translation>
+    </message>
+    <message>
+        <source>Total progress</source>
+        <translation>全体の進行状況</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>開始</translation>
     </message>
 </context>
 <context>

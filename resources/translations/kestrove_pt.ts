@@ -8,12 +8,64 @@
         <translation>Tessarine Kestrove</translation>
     </message>
     <message>
-        <source>Version: %1</source>
-        <translation>Versão: %1</translation>
-    </message>
-    <message>
         <source>LTR</source>
         <translation>LTR</translation>
+    </message>
+    <message>
+        <source>Display Original Frame</source>
+        <translation>Mostrar fotograma original</translation>
+    </message>
+    <message>
+        <source>Display Output Frame</source>
+        <translation>Mostrar fotograma de saída</translation>
+    </message>
+    <message>
+        <source>&amp;Save As...</source>
+        <translation>&amp;Guardar como...</translation>
+    </message>
+    <message>
+        <source>&amp;Rename...</source>
+        <translation>&amp;Mudar o nome...</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Eliminar</translation>
+    </message>
+    <message>
+        <source>Getting Started</source>
+        <translation>Primeiros passos</translation>
+    </message>
+    <message>
+        <source>1. Click &quot;%1 Open DVD %2&quot; to Open DVD.</source>
+        <translation>1. Clique em &quot;%1 Abrir DVD %2&quot; para abrir um DVD.</translation>
+    </message>
+    <message>
+        <source>2. Click &quot;%1 Trim&quot; or &quot;%2 Crop&quot; to edit video file.</source>
+        <translation>2. Clique em &quot;%1 Cortar&quot; ou &quot;%2 Recortar&quot; para editar o ficheiro de vídeo.</translation>
+    </message>
+    <message>
+        <source>3. Select output format from the &quot;Profile&quot; list.</source>
+        <translation>3. Selecione o formato de saída na lista &quot;Perfil&quot;.</translation>
+    </message>
+    <message>
+        <source>4. Click &quot;%1&quot; to convert.</source>
+        <translation>4. Clique em &quot;%1&quot; para converter.</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to stop converting?</source>
+        <translation>Tem a certeza de que pretende parar a conversão?</translation>
+    </message>
+    <message>
+        <source>Restore Down</source>
+        <translation>Restaurar para baixo</translation>
+    </message>
+    <message>
+        <source>Maximize</source>
+        <translation>Maximizar</translation>
+    </message>
+    <message>
+        <source>Please Select Output Folder</source>
+        <translation>Selecione a pasta de saída</translation>
     </message>
 </context>
 <context>
@@ -1339,6 +1391,397 @@ Alguns dos arquivos inacabados não poderão ser reproduzidos corretamente.</tra
     <message>
         <source>YB</source>
         <translation>YB</translation>
+    </message>
+</context>
+<context>
+    <name>mainWindow</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Ficheiro</translation>
+    </message>
+    <message>
+        <source>Open DVD...</source>
+        <translation>Abrir DVD...</translation>
+    </message>
+    <message>
+        <source>Open DVD Folder...</source>
+        <translation>Abrir pasta de DVD...</translation>
+    </message>
+    <message>
+        <source>Open IFO Files...</source>
+        <translation>Abrir ficheiros IFO...</translation>
+    </message>
+    <message>
+        <source>Load Project...</source>
+        <translation>Carregar projeto...</translation>
+    </message>
+    <message>
+        <source>Save Project...</source>
+        <translation>Guardar projeto...</translation>
+    </message>
+    <message>
+        <source>Save Project As...</source>
+        <translation>Guardar projeto como...</translation>
+    </message>
+    <message>
+        <source>Search Profile...</source>
+        <translation>Pesquisar perfil...</translation>
+    </message>
+    <message>
+        <source>Properties...</source>
+        <translation>Propriedades...</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Sair</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Editar</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Mudar o nome</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Mover</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>Mover para cima</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Mover para baixo</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Para o topo</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Para o fundo</translation>
+    </message>
+    <message>
+        <source>Clone</source>
+        <translation>Duplicar</translation>
+    </message>
+    <message>
+        <source>Remove Selected Item(s)</source>
+        <translation>Remover itens selecionados</translation>
+    </message>
+    <message>
+        <source>Clear All</source>
+        <translation>Limpar tudo</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Selecionar tudo</translation>
+    </message>
+    <message>
+        <source>Select None</source>
+        <translation>Não selecionar nada</translation>
+    </message>
+    <message>
+        <source>Invert Selection</source>
+        <translation>Inverter seleção</translation>
+    </message>
+    <message>
+        <source>Check All</source>
+        <translation>Marcar tudo</translation>
+    </message>
+    <message>
+        <source>Uncheck All</source>
+        <translation>Desmarcar tudo</translation>
+    </message>
+    <message>
+        <source>Invert Check</source>
+        <translation>Inverter marcação</translation>
+    </message>
+    <message>
+        <source>Merge Selected into One</source>
+        <translation>Juntar seleção num só</translation>
+    </message>
+    <message>
+        <source>Split by Chapter</source>
+        <translation>Dividir por capítulo</translation>
+    </message>
+    <message>
+        <source>Add Output Profile...</source>
+        <translation>Adicionar perfil de saída...</translation>
+    </message>
+    <message>
+        <source>Apply Profile to All</source>
+        <translation>Aplicar perfil a todos</translation>
+    </message>
+    <message>
+        <source>&amp;Play</source>
+        <translation>&amp;Reproduzir</translation>
+    </message>
+    <message>
+        <source>Play/Pause</source>
+        <translation>Reproduzir/Pausa</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Parar</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>Anterior</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Seguinte</translation>
+    </message>
+    <message>
+        <source>Snapshot</source>
+        <translation>Instantâneo</translation>
+    </message>
+    <message>
+        <source>Open Snapshot Folder</source>
+        <translation>Abrir pasta de instantâneos</translation>
+    </message>
+    <message>
+        <source>Change Snapshot Folder</source>
+        <translation>Alterar pasta de instantâneos</translation>
+    </message>
+    <message>
+        <source>Snapshot Format</source>
+        <translation>Formato de instantâneo</translation>
+    </message>
+    <message>
+        <source>PNG</source>
+        <translation>PNG</translation>
+    </message>
+    <message>
+        <source>BMP</source>
+        <translation>BMP</translation>
+    </message>
+    <message>
+        <source>JPG</source>
+        <translation>JPG</translation>
+    </message>
+    <message>
+        <source>GIF</source>
+        <translation>GIF</translation>
+    </message>
+    <message>
+        <source>Full Screen</source>
+        <translation>Ecrã inteiro</translation>
+    </message>
+    <message>
+        <source>&amp;Clip</source>
+        <translation>&amp;Clip</translation>
+    </message>
+    <message>
+        <source>Trim...</source>
+        <translation>Cortar...</translation>
+    </message>
+    <message>
+        <source>Crop...</source>
+        <translation>Recortar...</translation>
+    </message>
+    <message>
+        <source>Smart Crop</source>
+        <translation>Recorte inteligente</translation>
+    </message>
+    <message>
+        <source>Watermark...</source>
+        <translation>Marca de água...</translation>
+    </message>
+    <message>
+        <source>Effect...</source>
+        <translation>Efeito...</translation>
+    </message>
+    <message>
+        <source>Clear All Effects</source>
+        <translation>Remover todos os efeitos</translation>
+    </message>
+    <message>
+        <source>Audio Track...</source>
+        <translation>Faixa de áudio...</translation>
+    </message>
+    <message>
+        <source>Subtitle...</source>
+        <translation>Legendas...</translation>
+    </message>
+    <message>
+        <source>&amp;Action</source>
+        <translation>&amp;Ação</translation>
+    </message>
+    <message>
+        <source>Convert Checked Item(s)</source>
+        <translation>Converter itens marcados</translation>
+    </message>
+    <message>
+        <source>Pause Checked Item(s)</source>
+        <translation>Pausar itens marcados</translation>
+    </message>
+    <message>
+        <source>Stop Checked Item(s)</source>
+        <translation>Parar itens marcados</translation>
+    </message>
+    <message>
+        <source>Open Source File Location</source>
+        <translation>Abrir localização do ficheiro de origem</translation>
+    </message>
+    <message>
+        <source>Open Output File Location</source>
+        <translation>Abrir localização do ficheiro de saída</translation>
+    </message>
+    <message>
+        <source>Post Task Actions</source>
+        <translation>Ações após a tarefa</translation>
+    </message>
+    <message>
+        <source>Do Nothing</source>
+        <translation>Não fazer nada</translation>
+    </message>
+    <message>
+        <source>Exit Program</source>
+        <translation>Sair do programa</translation>
+    </message>
+    <message>
+        <source>Shut Down</source>
+        <translation>Encerrar</translation>
+    </message>
+    <message>
+        <source>Log Off</source>
+        <translation>Terminar sessão</translation>
+    </message>
+    <message>
+        <source>Hibernate</source>
+        <translation>Hibernar</translation>
+    </message>
+    <message>
+        <source>Stand By</source>
+        <translation>Suspender</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>Reiniciar</translation>
+    </message>
+    <message>
+        <source>&amp;Option</source>
+        <translation>&amp;Opções</translation>
+    </message>
+    <message>
+        <source>Preferences...</source>
+        <translation>Preferências...</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>Aj&amp;uda</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Ajuda</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Acerca de</translation>
+    </message>
+    <message>
+        <source>Tessarine Kestrove</source>
+        <translation>Tessarine Kestrove</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>Minimizar</translation>
+    </message>
+    <message>
+        <source>Maximize</source>
+        <translation>Maximizar</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+    <message>
+        <source>&amp;Open DVD</source>
+        <translation>A&amp;brir DVD</translation>
+    </message>
+    <message>
+        <source>&amp;Trim</source>
+        <translation>&amp;Cortar</translation>
+    </message>
+    <message>
+        <source>&amp;Crop</source>
+        <translation>&amp;Recortar</translation>
+    </message>
+    <message>
+        <source>&amp;Effect</source>
+        <translation>&amp;Efeito</translation>
+    </message>
+    <message>
+        <source>&amp;Merge</source>
+        <translation>&amp;Juntar</translation>
+    </message>
+    <message>
+        <source>&amp;Preference</source>
+        <translation>Pre&amp;ferências</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Reproduzir</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Silenciar</translation>
+    </message>
+    <message>
+        <source>&amp;Profile:</source>
+        <translation>&amp;Perfil:</translation>
+    </message>
+    <message>
+        <source>Setting...</source>
+        <translation>Definições...</translation>
+    </message>
+    <message>
+        <source>Save As...</source>
+        <translation>Guardar como...</translation>
+    </message>
+    <message>
+        <source>&amp;Destination:</source>
+        <translation>&amp;Destino:</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Procurar...</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>Abrir pasta</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Posição</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volume</translation>
+    </message>
+    <message>
+        <source>Tasks</source>
+        <translation>Tarefas</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>Perfil</translation>
+    </message>
+    <message>
+        <source>Destination</source>
+        <translation>Destino</translation>
+    </message>
+    <message>
+        <source>Total progress</source>
+        <translation>Progresso total</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Iniciar</translation>
     </message>
 </context>
 <context>

@@ -8,12 +8,64 @@
         <translation>Tessarine Kestrove</translation>
     </message>
     <message>
-        <source>Version: %1</source>
-        <translation>版本：%1</translation>
-    </message>
-    <message>
         <source>LTR</source>
         <translation>LTR</translation>
+    </message>
+    <message>
+        <source>Display Original Frame</source>
+        <translation>显示原始画面</translation>
+    </message>
+    <message>
+        <source>Display Output Frame</source>
+        <translation>显示输出画面</translation>
+    </message>
+    <message>
+        <source>&amp;Save As...</source>
+        <translation>另存为(&amp;S)...</translation>
+    </message>
+    <message>
+        <source>&amp;Rename...</source>
+        <translation>重命名(&amp;R)...</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>删除(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Getting Started</source>
+        <translation>快速入门</translation>
+    </message>
+    <message>
+        <source>1. Click &quot;%1 Open DVD %2&quot; to Open DVD.</source>
+        <translation>1. 单击“%1 打开 DVD %2”打开 DVD。</translation>
+    </message>
+    <message>
+        <source>2. Click &quot;%1 Trim&quot; or &quot;%2 Crop&quot; to edit video file.</source>
+        <translation>2. 单击“%1 剪切”或“%2 裁剪”编辑视频文件。</translation>
+    </message>
+    <message>
+        <source>3. Select output format from the &quot;Profile&quot; list.</source>
+        <translation>3. 从“配置文件”列表中选择输出格式。</translation>
+    </message>
+    <message>
+        <source>4. Click &quot;%1&quot; to convert.</source>
+        <translation>4. 单击“%1”开始转换。</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to stop converting?</source>
+        <translation>确定要停止转换吗？</translation>
+    </message>
+    <message>
+        <source>Restore Down</source>
+        <translation>向下还原</translation>
+    </message>
+    <message>
+        <source>Maximize</source>
+        <translation>最大化</translation>
+    </message>
+    <message>
+        <source>Please Select Output Folder</source>
+        <translation>请选择输出文件夹</translation>
     </message>
 </context>
 <context>
@@ -1339,6 +1391,397 @@ Some of the unfinished files cannot be played properly.</source>
     <message>
         <source>YB</source>
         <translation>YB</translation>
+    </message>
+</context>
+<context>
+    <name>mainWindow</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>文件(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Open DVD...</source>
+        <translation>打开 DVD...</translation>
+    </message>
+    <message>
+        <source>Open DVD Folder...</source>
+        <translation>打开 DVD 文件夹...</translation>
+    </message>
+    <message>
+        <source>Open IFO Files...</source>
+        <translation>打开 IFO 文件...</translation>
+    </message>
+    <message>
+        <source>Load Project...</source>
+        <translation>加载项目...</translation>
+    </message>
+    <message>
+        <source>Save Project...</source>
+        <translation>保存项目...</translation>
+    </message>
+    <message>
+        <source>Save Project As...</source>
+        <translation>项目另存为...</translation>
+    </message>
+    <message>
+        <source>Search Profile...</source>
+        <translation>搜索配置文件...</translation>
+    </message>
+    <message>
+        <source>Properties...</source>
+        <translation>属性...</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>退出</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>编辑(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>重命名</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>移动</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>上移</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>下移</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>移至顶部</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>移至底部</translation>
+    </message>
+    <message>
+        <source>Clone</source>
+        <translation>克隆</translation>
+    </message>
+    <message>
+        <source>Remove Selected Item(s)</source>
+        <translation>移除所选项目</translation>
+    </message>
+    <message>
+        <source>Clear All</source>
+        <translation>全部清除</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>全选</translation>
+    </message>
+    <message>
+        <source>Select None</source>
+        <translation>全不选</translation>
+    </message>
+    <message>
+        <source>Invert Selection</source>
+        <translation>反向选择</translation>
+    </message>
+    <message>
+        <source>Check All</source>
+        <translation>全部勾选</translation>
+    </message>
+    <message>
+        <source>Uncheck All</source>
+        <translation>全部取消勾选</translation>
+    </message>
+    <message>
+        <source>Invert Check</source>
+        <translation>反向勾选</translation>
+    </message>
+    <message>
+        <source>Merge Selected into One</source>
+        <translation>将所选合并为一个</translation>
+    </message>
+    <message>
+        <source>Split by Chapter</source>
+        <translation>按章节分割</translation>
+    </message>
+    <message>
+        <source>Add Output Profile...</source>
+        <translation>添加输出配置文件...</translation>
+    </message>
+    <message>
+        <source>Apply Profile to All</source>
+        <translation>将配置文件应用到全部</translation>
+    </message>
+    <message>
+        <source>&amp;Play</source>
+        <translation>播放(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Play/Pause</source>
+        <translation>播放/暂停</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>上一个</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>下一个</translation>
+    </message>
+    <message>
+        <source>Snapshot</source>
+        <translation>快照</translation>
+    </message>
+    <message>
+        <source>Open Snapshot Folder</source>
+        <translation>打开快照文件夹</translation>
+    </message>
+    <message>
+        <source>Change Snapshot Folder</source>
+        <translation>更改快照文件夹</translation>
+    </message>
+    <message>
+        <source>Snapshot Format</source>
+        <translation>快照格式</translation>
+    </message>
+    <message>
+        <source>PNG</source>
+        <translation>PNG</translation>
+    </message>
+    <message>
+        <source>BMP</source>
+        <translation>BMP</translation>
+    </message>
+    <message>
+        <source>JPG</source>
+        <translation>JPG</translation>
+    </message>
+    <message>
+        <source>GIF</source>
+        <translation>GIF</translation>
+    </message>
+    <message>
+        <source>Full Screen</source>
+        <translation>全屏</translation>
+    </message>
+    <message>
+        <source>&amp;Clip</source>
+        <translation>剪辑(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Trim...</source>
+        <translation>剪切...</translation>
+    </message>
+    <message>
+        <source>Crop...</source>
+        <translation>裁剪...</translation>
+    </message>
+    <message>
+        <source>Smart Crop</source>
+        <translation>智能裁剪</translation>
+    </message>
+    <message>
+        <source>Watermark...</source>
+        <translation>水印...</translation>
+    </message>
+    <message>
+        <source>Effect...</source>
+        <translation>效果...</translation>
+    </message>
+    <message>
+        <source>Clear All Effects</source>
+        <translation>清除所有效果</translation>
+    </message>
+    <message>
+        <source>Audio Track...</source>
+        <translation>音轨...</translation>
+    </message>
+    <message>
+        <source>Subtitle...</source>
+        <translation>字幕...</translation>
+    </message>
+    <message>
+        <source>&amp;Action</source>
+        <translation>操作(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Convert Checked Item(s)</source>
+        <translation>转换勾选的项目</translation>
+    </message>
+    <message>
+        <source>Pause Checked Item(s)</source>
+        <translation>暂停勾选的项目</translation>
+    </message>
+    <message>
+        <source>Stop Checked Item(s)</source>
+        <translation>停止勾选的项目</translation>
+    </message>
+    <message>
+        <source>Open Source File Location</source>
+        <translation>打开源文件位置</translation>
+    </message>
+    <message>
+        <source>Open Output File Location</source>
+        <translation>打开输出文件位置</translation>
+    </message>
+    <message>
+        <source>Post Task Actions</source>
+        <translation>任务完成后操作</translation>
+    </message>
+    <message>
+        <source>Do Nothing</source>
+        <translation>不执行任何操作</translation>
+    </message>
+    <message>
+        <source>Exit Program</source>
+        <translation>退出程序</translation>
+    </message>
+    <message>
+        <source>Shut Down</source>
+        <translation>关机</translation>
+    </message>
+    <message>
+        <source>Log Off</source>
+        <translation>注销</translation>
+    </message>
+    <message>
+        <source>Hibernate</source>
+        <translation>休眠</translation>
+    </message>
+    <message>
+        <source>Stand By</source>
+        <translation>待机</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>重新启动</translation>
+    </message>
+    <message>
+        <source>&amp;Option</source>
+        <translation>选项(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Preferences...</source>
+        <translation>首选项...</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>帮助(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>帮助</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>关于</translation>
+    </message>
+    <message>
+        <source>Tessarine Kestrove</source>
+        <translation>Tessarine Kestrove</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>最小化</translation>
+    </message>
+    <message>
+        <source>Maximize</source>
+        <translation>最大化</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>&amp;Open DVD</source>
+        <translation>打开 DVD(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Trim</source>
+        <translation>剪切(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Crop</source>
+        <translation>裁剪(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Effect</source>
+        <translation>效果(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Merge</source>
+        <translation>合并(&amp;M)</translation>
+    </message>
+    <message>
+        <source>&amp;Preference</source>
+        <translation>首选项(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>播放</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>静音</translation>
+    </message>
+    <message>
+        <source>&amp;Profile:</source>
+        <translation>配置文件(&amp;P)：</translation>
+    </message>
+    <message>
+        <source>Setting...</source>
+        <translation>设置...</translation>
+    </message>
+    <message>
+        <source>Save As...</source>
+        <translation>另存为...</translation>
+    </message>
+    <message>
+        <source>&amp;Destination:</source>
+        <translation>输出目录(&amp;D)：</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>浏览...</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>打开文件夹</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>音量</translation>
+    </message>
+    <message>
+        <source>Tasks</source>
+        <translation>任务</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>配置文件</translation>
+    </message>
+    <message>
+        <source>Destination</source>
+        <translation>输出目录</translation>
+    </message>
+    <message>
+        <source>Total progress</source>
+        <translation>总进度</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>开始</translation>
     </message>
 </context>
 <context>

@@ -8,12 +8,64 @@
         <translation>Tessarine Kestrove</translation>
     </message>
     <message>
-        <source>Version: %1</source>
-        <translation>版本：%1</translation>
-    </message>
-    <message>
         <source>LTR</source>
         <translation>LTR</translation>
+    </message>
+    <message>
+        <source>Display Original Frame</source>
+        <translation>顯示原始畫面</translation>
+    </message>
+    <message>
+        <source>Display Output Frame</source>
+        <translation>顯示輸出畫面</translation>
+    </message>
+    <message>
+        <source>&amp;Save As...</source>
+        <translation>另存新檔(&amp;S)...</translation>
+    </message>
+    <message>
+        <source>&amp;Rename...</source>
+        <translation>重新命名(&amp;R)...</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>刪除(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Getting Started</source>
+        <translation>快速入門</translation>
+    </message>
+    <message>
+        <source>1. Click &quot;%1 Open DVD %2&quot; to Open DVD.</source>
+        <translation>1. 按一下「%1 開啟 DVD %2」以開啟 DVD。</translation>
+    </message>
+    <message>
+        <source>2. Click &quot;%1 Trim&quot; or &quot;%2 Crop&quot; to edit video file.</source>
+        <translation>2. 按一下「%1 修剪」或「%2 裁切」以編輯視訊檔案。</translation>
+    </message>
+    <message>
+        <source>3. Select output format from the &quot;Profile&quot; list.</source>
+        <translation>3. 從「設定檔」清單中選取輸出格式。</translation>
+    </message>
+    <message>
+        <source>4. Click &quot;%1&quot; to convert.</source>
+        <translation>4. 按一下「%1」開始轉換。</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to stop converting?</source>
+        <translation>確定要停止轉換嗎？</translation>
+    </message>
+    <message>
+        <source>Restore Down</source>
+        <translation>還原</translation>
+    </message>
+    <message>
+        <source>Maximize</source>
+        <translation>最大化</translation>
+    </message>
+    <message>
+        <source>Please Select Output Folder</source>
+        <translation>請選取輸出資料夾</translation>
     </message>
 </context>
 <context>
@@ -1339,6 +1391,397 @@ Some of the unfinished files cannot be played properly.</source>
     <message>
         <source>YB</source>
         <translation>YB</translation>
+    </message>
+</context>
+<context>
+    <name>mainWindow</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>檔案(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Open DVD...</source>
+        <translation>開啟 DVD...</translation>
+    </message>
+    <message>
+        <source>Open DVD Folder...</source>
+        <translation>開啟 DVD 資料夾...</translation>
+    </message>
+    <message>
+        <source>Open IFO Files...</source>
+        <translation>開啟 IFO 檔案...</translation>
+    </message>
+    <message>
+        <source>Load Project...</source>
+        <translation>載入專案...</translation>
+    </message>
+    <message>
+        <source>Save Project...</source>
+        <translation>儲存專案...</translation>
+    </message>
+    <message>
+        <source>Save Project As...</source>
+        <translation>專案另存新檔...</translation>
+    </message>
+    <message>
+        <source>Search Profile...</source>
+        <translation>搜尋設定檔...</translation>
+    </message>
+    <message>
+        <source>Properties...</source>
+        <translation>屬性...</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>結束</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>編輯(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>重新命名</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>移動</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>上移</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>下移</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>移至頂端</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>移至底端</translation>
+    </message>
+    <message>
+        <source>Clone</source>
+        <translation>複製</translation>
+    </message>
+    <message>
+        <source>Remove Selected Item(s)</source>
+        <translation>移除選取的項目</translation>
+    </message>
+    <message>
+        <source>Clear All</source>
+        <translation>全部清除</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>全選</translation>
+    </message>
+    <message>
+        <source>Select None</source>
+        <translation>全部不選</translation>
+    </message>
+    <message>
+        <source>Invert Selection</source>
+        <translation>反向選取</translation>
+    </message>
+    <message>
+        <source>Check All</source>
+        <translation>全部勾選</translation>
+    </message>
+    <message>
+        <source>Uncheck All</source>
+        <translation>全部取消勾選</translation>
+    </message>
+    <message>
+        <source>Invert Check</source>
+        <translation>反向勾選</translation>
+    </message>
+    <message>
+        <source>Merge Selected into One</source>
+        <translation>將選取的項目合併為一個</translation>
+    </message>
+    <message>
+        <source>Split by Chapter</source>
+        <translation>依章節分割</translation>
+    </message>
+    <message>
+        <source>Add Output Profile...</source>
+        <translation>新增輸出設定檔...</translation>
+    </message>
+    <message>
+        <source>Apply Profile to All</source>
+        <translation>將設定檔套用至全部</translation>
+    </message>
+    <message>
+        <source>&amp;Play</source>
+        <translation>播放(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Play/Pause</source>
+        <translation>播放/暫停</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>上一個</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>下一個</translation>
+    </message>
+    <message>
+        <source>Snapshot</source>
+        <translation>快照</translation>
+    </message>
+    <message>
+        <source>Open Snapshot Folder</source>
+        <translation>開啟快照資料夾</translation>
+    </message>
+    <message>
+        <source>Change Snapshot Folder</source>
+        <translation>變更快照資料夾</translation>
+    </message>
+    <message>
+        <source>Snapshot Format</source>
+        <translation>快照格式</translation>
+    </message>
+    <message>
+        <source>PNG</source>
+        <translation>PNG</translation>
+    </message>
+    <message>
+        <source>BMP</source>
+        <translation>BMP</translation>
+    </message>
+    <message>
+        <source>JPG</source>
+        <translation>JPG</translation>
+    </message>
+    <message>
+        <source>GIF</source>
+        <translation>GIF</translation>
+    </message>
+    <message>
+        <source>Full Screen</source>
+        <translation>全螢幕</translation>
+    </message>
+    <message>
+        <source>&amp;Clip</source>
+        <translation>剪輯(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Trim...</source>
+        <translation>修剪...</translation>
+    </message>
+    <message>
+        <source>Crop...</source>
+        <translation>裁切...</translation>
+    </message>
+    <message>
+        <source>Smart Crop</source>
+        <translation>智慧裁切</translation>
+    </message>
+    <message>
+        <source>Watermark...</source>
+        <translation>浮水印...</translation>
+    </message>
+    <message>
+        <source>Effect...</source>
+        <translation>效果...</translation>
+    </message>
+    <message>
+        <source>Clear All Effects</source>
+        <translation>清除所有效果</translation>
+    </message>
+    <message>
+        <source>Audio Track...</source>
+        <translation>音軌...</translation>
+    </message>
+    <message>
+        <source>Subtitle...</source>
+        <translation>字幕...</translation>
+    </message>
+    <message>
+        <source>&amp;Action</source>
+        <translation>動作(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Convert Checked Item(s)</source>
+        <translation>轉換勾選的項目</translation>
+    </message>
+    <message>
+        <source>Pause Checked Item(s)</source>
+        <translation>暫停勾選的項目</translation>
+    </message>
+    <message>
+        <source>Stop Checked Item(s)</source>
+        <translation>停止勾選的項目</translation>
+    </message>
+    <message>
+        <source>Open Source File Location</source>
+        <translation>開啟來源檔案位置</translation>
+    </message>
+    <message>
+        <source>Open Output File Location</source>
+        <translation>開啟輸出檔案位置</translation>
+    </message>
+    <message>
+        <source>Post Task Actions</source>
+        <translation>工作完成後動作</translation>
+    </message>
+    <message>
+        <source>Do Nothing</source>
+        <translation>不執行任何動作</translation>
+    </message>
+    <message>
+        <source>Exit Program</source>
+        <translation>結束程式</translation>
+    </message>
+    <message>
+        <source>Shut Down</source>
+        <translation>關機</translation>
+    </message>
+    <message>
+        <source>Log Off</source>
+        <translation>登出</translation>
+    </message>
+    <message>
+        <source>Hibernate</source>
+        <translation>休眠</translation>
+    </message>
+    <message>
+        <source>Stand By</source>
+        <translation>待命</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>重新啟動</translation>
+    </message>
+    <message>
+        <source>&amp;Option</source>
+        <translation>選項(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Preferences...</source>
+        <translation>偏好設定...</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>說明(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>說明</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>關於</translation>
+    </message>
+    <message>
+        <source>Tessarine Kestrove</source>
+        <translation>Tessarine Kestrove</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>最小化</translation>
+    </message>
+    <message>
+        <source>Maximize</source>
+        <translation>最大化</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>關閉</translation>
+    </message>
+    <message>
+        <source>&amp;Open DVD</source>
+        <translation>開啟 DVD(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Trim</source>
+        <translation>修剪(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Crop</source>
+        <translation>裁切(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Effect</source>
+        <translation>效果(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Merge</source>
+        <translation>合併(&amp;M)</translation>
+    </message>
+    <message>
+        <source>&amp;Preference</source>
+        <translation>偏好設定(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>播放</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>靜音</translation>
+    </message>
+    <message>
+        <source>&amp;Profile:</source>
+        <translation>設定檔(&amp;P)：</translation>
+    </message>
+    <message>
+        <source>Setting...</source>
+        <translation>設定...</translation>
+    </message>
+    <message>
+        <source>Save As...</source>
+        <translation>另存新檔...</translation>
+    </message>
+    <message>
+        <source>&amp;Destination:</source>
+        <translation>目的地(&amp;D)：</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>瀏覽...</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>開啟資料夾</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>音量</translation>
+    </message>
+    <message>
+        <source>Tasks</source>
+        <translation>工作</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>設定檔</translation>
+    </message>
+    <message>
+        <source>Destination</source>
+        <translation>目的地</translation>
+    </message>
+    <message>
+        <source>Total progress</source>
+        <translation>整體進度</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>開始</translation>
     </message>
 </context>
 <context>

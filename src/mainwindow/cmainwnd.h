@@ -1,19 +1,174 @@
 #pragma once
 
-#include <QWidget>
+#include "convertermanager.h"
+#include "qxmainwidget.h"
+#include "task.h"
+#include "taskbarprogress.h"
 
+#include <QMap>
+
+#include <memory>
+
+class CPlayPauseButton;
+class CProfileCombo;
+class CSlider;
+class FadePushButton;
+class FadeToolButton;
+class FFPlayer;
+class GettingStartLabel;
+class PlayerScreen;
+class QAction;
+class QActionGroup;
+class QFrame;
 class QLabel;
+class QLineEdit;
+class QMenu;
+class QMenuBar;
+class QProgressBar;
+class QPushButton;
+class QSplitter;
+class QStackedWidget;
+class QToolButton;
+class QTreeWidget;
+class QTreeWidgetItem;
+class QxMacSystemButton;
+class SettingsWindow;
+class TaskList;
+class VolumSlider;
+class WndTitleLabel;
 
-// The program's main window.
-class CMainWnd : public QWidget
+namespace Ui {
+
+// The window's form: its widgets by the names the skin's style sheet selects on.
+class mainWindow
+{
+public:
+    QxMacSystemButton *closeBtnMac, *minBtnMac, *maxBtnMac;
+    QLabel *iconLabel;
+    WndTitleLabel *titleLabel;
+    QPushButton *minBtn, *maxBtn, *closeBtn;
+    QMenuBar *menuBar;
+    FadeToolButton *btnAddFile, *btnTrim, *btnCrop, *btnEffect, *btnMerge, *btnPreference;
+    QSplitter *splitter;
+    QFrame *playBackFrame, *playFrame, *listFrame;
+    PlayerScreen *playWnd;
+    QLabel *timeLabel;
+    CSlider *sliderPlayProgress;
+    CPlayPauseButton *playPauseBtn, *btnStop;
+    QPushButton *muteBtn, *extPlaywndBtn;
+    VolumSlider *sliderVolume;
+    QToolButton *snapshotBtn;
+    QStackedWidget *mulitWnd;
+    GettingStartLabel *startLabel;
+    QTreeWidget *treeTask;
+    QLabel *profileLabel, *labelDestination, *labelProgress;
+    CProfileCombo *comboProfile;
+    QPushButton *advSettingsBtn, *btnSelectOutputDir, *btnOpenOutputDir;
+    QToolButton *btnSaveProfile;
+    FadePushButton *btnStart;
+    QLineEdit *editOutputDir;
+    QProgressBar *totalProgressBar;
+    // The menus and their actions, by object name.
+    QMap<QString, QMenu *> menus;
+    QMap<QString, QAction *> actions;
+
+    void setupUi(QWidget *window);
+    void retranslateUi(QWidget *window);
+    QAction *action(const QString &name) const { return actions.value(name); }
+};
+
+} // namespace Ui
+
+// The one main window: the preview on the left, the start page or the task
+// tree on the right, the profile and destination rows and the total
+// progress below. Every command's slot tests its own precondition again,
+// since a shortcut reaches it whatever the menus showed.
+class CMainWnd : public QxMainWidget, public Ui::mainWindow
 {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(CMainWnd)
 
 public:
     explicit CMainWnd(QWidget *parent = nullptr);
+    ~CMainWnd() override;
+
+    static QString WindowTitleText();
+    QString GettingStartedText() const;
+    void ResetToEmpty();
+    void DockSettingsPanel();
+
+    TaskList *tasks() const { return taskList.get(); }
+    ConverterManager *converterManager() const { return converter.get(); }
+    SettingsWindow *settingsPanel() const { return settingsWindow; }
+    // A row for each task of the list that has none yet, in list order:
+    // titles of one disc under their disc's row.
+    void addTaskRows();
+    QTreeWidgetItem *itemOf(int taskId, int childId = -1) const;
+
+signals:
+    void hasSysButtonHovered(bool hovered);
+
+public slots:
+    void quit() { close(); }
+    void on_actionExit_triggered() { close(); }
+    void on_actionClear_All_triggered() { ResetToEmpty(); }
+    void on_treeTask_itemChanged(QTreeWidgetItem *item, int column);
+    void onPauseTask(int taskId, bool pause);
+    void onStopTask(int taskId);
+    void on_actionAudio_Track_triggered() {}
+    void on_actionSubtitle_triggered() {}
+    void on_actionPlay_Pause_triggered();
+    void onStopAndContinuePlay(int taskId, int childTaskId);
+
+private slots:
+    void on_maxBtn_clicked();
+    void on_advSettingsBtn_clicked();
+    void on_btnSelectOutputDir_clicked();
+    void on_btnOpenOutputDir_clicked();
+    void on_treeTask_itemSelectionChanged();
+    void on_treeTask_currentItemChanged(QTreeWidgetItem *current, QTreeWidgetItem *previous);
+    void on_treeTask_itemExpanded(QTreeWidgetItem *item);
+    void on_treeTask_itemCollapsed(QTreeWidgetItem *item);
+    void on_startLabel_linkActivated(const QString &link);
+    void OnConvertProgressChanged(int taskId, double progress);
+    void OnTaskStateChanged(int taskId, Task::EState state);
+    void receiveMediaImage(int taskId);
+    void receiveMediaImage(int taskId, int childId);
+    void onSkinChanged(int index);
+    void UpdateTotalProgress();
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+    void changeEvent(QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
 
 private:
-    QLabel *labelTitle = nullptr;
-    QLabel *labelVersion = nullptr;
+    void stopPreview();
+    void elideButton(QPushButton *button);
+    // The panel is a window of its own, docked at the right edge, where the
+    // platform lets a program place windows; a child panel where it doesn't.
+    bool panelIsChild() const;
+    void addRow(QTreeWidgetItem *item, int taskId, int kind, int childId);
+
+    TaskbarProgress taskbar;
+    bool painted = false;
+    bool ready = false;
+    FFPlayer *player = nullptr;
+    bool playing = false;
+    QMenu *addMenu = nullptr;
+    QMenu *saveProfileMenu = nullptr;
+    QMenu *snapshotMenu = nullptr;
+    QMenu *playModeMenu = nullptr;
+    QAction *actionSaveProfile = nullptr;
+    QAction *actionRenameProfile = nullptr;
+    QAction *actionDeleteProfile = nullptr;
+    QAction *actionPlayOriginal = nullptr;
+    QAction *actionPlayOutput = nullptr;
+    QString skinPath;
+    SettingsWindow *settingsWindow = nullptr;
+    std::unique_ptr<TaskList> taskList;
+    std::unique_ptr<ConverterManager> converter;
 };

@@ -229,8 +229,6 @@ CustomItemWidget::CustomItemWidget(QTreeWidget *tree, QTreeWidgetItem *item, Tas
     // F2 on the tree renames its current row, as a click on the name does.
     if (tree)
         tree->installEventFilter(this);
-    // The predicates the buttons ask read the rows' list.
-    TaskTreeOps::instance().setTaskList(taskList);
     setFocusPolicy(Qt::TabFocus);
     editOutputName->hide();
     progressWidget->hide();

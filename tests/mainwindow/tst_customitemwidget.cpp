@@ -84,6 +84,7 @@ private slots:
     void init()
     {
         list = std::make_unique<TaskList>(ProfileGroupLoader::instance());
+        TaskTreeOps::instance().setTaskList(list.get()); // as the window does
         window = std::make_unique<HostWindow>();
         tree = new QTreeWidget(window.get());
         (new QVBoxLayout(window.get()))->addWidget(tree);
