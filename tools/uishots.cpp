@@ -7,8 +7,15 @@
 //   uishots controls OUT.png           every custom control and a property tree
 //   uishots surface MEDIA SRT OUT.png  the video surface playing MEDIA with an
 //                                      effect, a watermark and the subtitle file
+//   uishots main FIXTURES OUT.png [LANG]  the main window with a disc's titles
+//                                      and a file of the test fixtures
 
+#include "cmainwnd.h"
 #include "controls.h"
+#include "dvddisc.h"
+#include "mediaimagereader.h"
+#include "profilegrouploader.h"
+#include "tasklist.h"
 #include "ffplayer.h"
 #include "playerscreen.h"
 #include "cprofilecombo.h"
@@ -81,6 +88,27 @@ int surfaceShot(const QString &media, const QString &subtitle, const QString &ou
     return QApplication::exec();
 }
 
+int mainShot(const QString &fixtures, const QString &out)
+{
+    CMainWnd window;
+    window.setGeometry(40, 40, 980, 620);
+    window.show();
+    TaskList *list = window.tasks();
+    const QString key = ProfileGroupLoader::instance()->defaultProfile();
+    const auto disc = LoadDvdDisc(fixtures + QStringLiteral("/dvd-main"), false);
+    for (int i = 0; disc && i < int(disc->titles.size()); ++i)
+        list->addTitle(key, *disc->titles[i], i + 1, 1);
+    list->addFile(key, fixtures + QStringLiteral("/movie.mkv"));
+    window.addTaskRows();
+    for (int i = 0; i < list->count(); ++i)
+        Logical::MediaImageReader::instance()->requestImage(list->at(i)->id, 1.0, false);
+    QTimer::singleShot(2500, qApp, [&] {
+        QGuiApplication::primaryScreen()->grabWindow(0, 24, 24, 1012, 652).save(out);
+        QCoreApplication::quit();
+    });
+    return QApplication::exec();
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -97,6 +125,10 @@ int main(int argc, char *argv[])
     QxLanguage::setTranslators(&application, &browser, &toolkit);
     if (args.at(1) == QLatin1String("surface") && args.size() == 5)
         return surfaceShot(args.at(2), args.at(3), args.at(4));
+    if (args.at(1) == QLatin1String("main") && args.size() >= 4) {
+        QxLanguage::instance()->setLanguage(args.value(4, QStringLiteral("en")));
+        return mainShot(args.at(2), args.at(3));
+    }
     const bool settings = args.at(1) == QLatin1String("settings");
     // "picker OUT.png LANG" shows the popup in a language too.
     QxLanguage::instance()->setLanguage(settings ? args.value(2) : args.value(3, QStringLiteral("en")));

@@ -234,6 +234,10 @@ svg("snapshot", 28, 28, '<g fill="none" stroke="%s" stroke-width="1.6" stroke-li
     '<path d="M5 10 H9 L11 7.5 H17 L19 10 H23 V21 H5 Z"/><circle cx="14" cy="15" r="3.5"/></g>'
     % ICON)
 
+for base, color in (("fullscreen", ICON), ("fullscreen_hover", ACCENT_LIGHT)):
+    svg(base, 28, 28, '<path d="M6 11 V6 H11 M17 6 H22 V11 M22 17 V22 H17 M11 22 H6 V17" fill="none" '
+        'stroke="%s" stroke-width="1.8" stroke-linecap="round" stroke-linejoin="round"/>' % color)
+
 
 # ---- task rows --------------------------------------------------------------
 
