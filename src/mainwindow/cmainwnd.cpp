@@ -524,8 +524,11 @@ CMainWnd::CMainWnd(QWidget *parent)
 
 CMainWnd::~CMainWnd()
 {
-    Logical::MediaImageReader::instance()->setTaskList(nullptr);
-    TaskTreeOps::instance().setTaskList(nullptr);
+    // Unless a newer window took them over.
+    if (TaskTreeOps::instance().taskList() == taskList.get()) {
+        Logical::MediaImageReader::instance()->setTaskList(nullptr);
+        TaskTreeOps::instance().setTaskList(nullptr);
+    }
 }
 
 QString CMainWnd::WindowTitleText()

@@ -51,9 +51,7 @@ private:
         const int id = source == QLatin1String("dvd")
                            ? list->addTitle(key, *disc->titles[0], 1, 1)
                            : list->addFile(key, fixture(fixtures, source.toUtf8().constData()));
-        if (id < 0)
-            return nullptr;
-        return addItem(nullptr, id, RowNormal, -1);
+        return id < 0 ? nullptr : addItem(nullptr, id, RowNormal, -1);
     }
 
     CustomItemWidget *addItem(QTreeWidgetItem *parent, int taskId, RowKind kind, int childId)

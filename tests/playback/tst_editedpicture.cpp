@@ -186,7 +186,6 @@ private slots:
         QFETCH(bool, shown);
         const QString path = fixture(mediaFixtures(), qPrintable(source));
         const QString index = fixture(mediaFixtures(), "vobsub.idx");
-        const QFont font(QStringLiteral("DejaVu Sans"), 20);
         player->setAudioTrack(0);
         player->setSubtitle(0, vobSub ? index : QString());
         player->stop();
@@ -205,12 +204,12 @@ private slots:
         if (pgc >= 0)
             input << QStringLiteral("-pgc") << QString::number(pgc)
                   << QStringLiteral("-audio_track") << QStringLiteral("0");
-        if (!vobSub)
+        QString chain = QStringLiteral("scale=720:576");
+        if (vobSub)
+            chain += QLatin1Char(',') + subtitleFileText(QFont(), Qt::white, 0, 90, 0, index);
+        else
             input << QStringLiteral("-subtitle") << QStringLiteral("0");
-        const QString chain = vobSub ? QStringLiteral(",") + subtitleFileText(font, Qt::white, 0, 90, 0, index)
-                                     : QString();
-        const QImage encoded
-            = encoderFrame(input << QStringLiteral("-i") << path, QStringLiteral("scale=720:576") + chain);
+        const QImage encoded = encoderFrame(input << QStringLiteral("-i") << path, chain);
         const double figure = psnr(preview, encoded);
         QVERIFY2(figure > 40.0, qPrintable(QStringLiteral("PSNR %1 dB").arg(figure)));
     }
