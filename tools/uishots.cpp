@@ -8,7 +8,8 @@
 //   uishots surface MEDIA SRT OUT.png  the video surface playing MEDIA with an
 //                                      effect, a watermark and the subtitle file
 //   uishots main FIXTURES OUT.png [LANG]  the main window with a disc's titles
-//                                      and a file of the test fixtures
+//                                      and two files of the test fixtures
+//   uishots start OUT.png [LANG]       the main window's start page
 
 #include "cmainwnd.h"
 #include "controls.h"
@@ -37,6 +38,7 @@
 #include <QScreen>
 #include <QTabWidget>
 #include <QTranslator>
+#include <QTreeWidget>
 #include <QTest>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -95,11 +97,16 @@ int mainShot(const QString &fixtures, const QString &out)
     window.show();
     TaskList *list = window.tasks();
     const QString key = ProfileGroupLoader::instance()->defaultProfile();
-    const auto disc = LoadDvdDisc(fixtures + QStringLiteral("/dvd-main"), false);
-    for (int i = 0; disc && i < int(disc->titles.size()); ++i)
-        list->addTitle(key, *disc->titles[i], i + 1, 1);
-    list->addFile(key, fixtures + QStringLiteral("/movie.mkv"));
-    window.addTaskRows();
+    if (!fixtures.isEmpty()) {
+        const auto disc = LoadDvdDisc(fixtures + QStringLiteral("/dvd-main"), false);
+        for (int i = 0; disc && i < int(disc->titles.size()); ++i)
+            list->addTitle(key, *disc->titles[i], i + 1, 1);
+        list->addFile(key, fixtures + QStringLiteral("/movie.mkv"));
+        list->addFile(key, fixtures + QStringLiteral("/clip.mp4"));
+        window.addTaskRows();
+        // Down to the files, below the disc's titles.
+        window.treeTask->scrollToBottom();
+    }
     for (int i = 0; i < list->count(); ++i)
         Logical::MediaImageReader::instance()->requestImage(list->at(i)->id, 1.0, false);
     QTimer::singleShot(2500, qApp, [&] {
@@ -128,6 +135,10 @@ int main(int argc, char *argv[])
     if (args.at(1) == QLatin1String("main") && args.size() >= 4) {
         QxLanguage::instance()->setLanguage(args.value(4, QStringLiteral("en")));
         return mainShot(args.at(2), args.at(3));
+    }
+    if (args.at(1) == QLatin1String("start")) {
+        QxLanguage::instance()->setLanguage(args.value(3, QStringLiteral("en")));
+        return mainShot(QString(), args.at(2));
     }
     const bool settings = args.at(1) == QLatin1String("settings");
     // "picker OUT.png LANG" shows the popup in a language too.

@@ -35,7 +35,9 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QScreen>
+#include <QSet>
 #include <QScrollBar>
+#include <QTimer>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QStatusBar>
@@ -470,6 +472,8 @@ CMainWnd::CMainWnd(QWidget *parent)
                              "actionRename", "actionMerge_Selected_into_One"})
         action(QLatin1String(name))->setEnabled(false);
 
+    treeTask->viewport()->installEventFilter(this);
+    connect(treeTask->verticalScrollBar(), &QScrollBar::valueChanged, this, &CMainWnd::makeVisibleRowFaces);
     connect(converter.get(), &ConverterManager::progressChanged, this,
             &CMainWnd::OnConvertProgressChanged);
     connect(converter.get(), &ConverterManager::stateChanged, this, &CMainWnd::OnTaskStateChanged);
@@ -592,21 +596,53 @@ void CMainWnd::addRow(QTreeWidgetItem *item, int taskId, int kind, int childId)
     item->setData(0, RoleKind, kind);
     if (kind == RowMerge)
         item->setFlags(Qt::ItemIsSelectable | Qt::ItemIsEditable | Qt::ItemIsEnabled);
-    auto *row = new CustomItemWidget(treeTask, item, taskList.get(), taskId, kind, childId);
+    // The first row of a kind is measured; the others take its height and
+    // get their faces as they come into view, so a long list builds at once.
+    if (!rowHeights.contains(kind))
+        makeRowFace(item);
+    item->setSizeHint(0, QSize(0, rowHeights.value(kind)));
+}
+
+CustomItemWidget *CMainWnd::makeRowFace(QTreeWidgetItem *item)
+{
+    const int kind = TaskTreeOps::kindOf(item);
+    auto *row = new CustomItemWidget(treeTask, item, taskList.get(), TaskTreeOps::taskIdOf(item), kind,
+                                     TaskTreeOps::childIdOf(item));
     row->setProfileMenu(comboProfile->profileMenu());
-    // Measured in the skin's look, which gives the rows' controls their size.
-    row->ensurePolished();
-    for (QWidget *w : row->findChildren<QWidget *>())
-        w->ensurePolished();
-    if (row->layout())
-        row->layout()->activate();
-    // The width is the column's; a little room below keeps the combos' frames whole.
-    item->setSizeHint(0, QSize(0, row->sizeHint().height() + 8));
-    // The list never gets narrower than a whole row.
-    const int width = row->minimumSizeHint().width() + treeTask->verticalScrollBar()->sizeHint().width()
-                      + 2 * treeTask->frameWidth() + 8;
-    treeTask->setMinimumWidth(qMax(treeTask->minimumWidth(), width));
+    if (!rowHeights.contains(kind)) {
+        // Measured in the skin's look, which gives the rows' controls their size;
+        // a little room below keeps the combos' frames whole.
+        row->ensurePolished();
+        for (QWidget *w : row->findChildren<QWidget *>())
+            w->ensurePolished();
+        if (row->layout())
+            row->layout()->activate();
+        rowHeights.insert(kind, row->sizeHint().height() + 8);
+        // The list never gets narrower than a whole row.
+        const int width = row->minimumSizeHint().width() + treeTask->verticalScrollBar()->sizeHint().width()
+                          + 2 * treeTask->frameWidth() + 8;
+        treeTask->setMinimumWidth(qMax(treeTask->minimumWidth(), width));
+    }
     treeTask->setItemWidget(item, 0, row);
+    return row;
+}
+
+void CMainWnd::makeVisibleRowFaces()
+{
+    const int bottom = treeTask->viewport()->rect().bottom();
+    for (QTreeWidgetItem *item = treeTask->itemAt(0, 0); item; item = treeTask->itemBelow(item)) {
+        if (treeTask->visualItemRect(item).top() > bottom)
+            break;
+        if (!treeTask->itemWidget(item, 0))
+            makeRowFace(item);
+    }
+}
+
+bool CMainWnd::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == treeTask->viewport() && (event->type() == QEvent::Resize || event->type() == QEvent::Show))
+        QTimer::singleShot(0, this, &CMainWnd::makeVisibleRowFaces);
+    return QxMainWidget::eventFilter(watched, event);
 }
 
 QTreeWidgetItem *CMainWnd::itemOf(int taskId, int childId) const
@@ -620,9 +656,12 @@ QTreeWidgetItem *CMainWnd::itemOf(int taskId, int childId) const
 void CMainWnd::addTaskRows()
 {
     const bool first = treeTask->topLevelItemCount() == 0;
+    QSet<int> shown;
+    for (QTreeWidgetItemIterator it(treeTask); *it; ++it)
+        shown.insert(TaskTreeOps::taskIdOf(*it));
     for (int position = 0; position < taskList->count(); ++position) {
         Task *task = taskList->at(position);
-        if (itemOf(task->id))
+        if (shown.contains(task->id))
             continue;
         // A new task takes the values the panel shows for its profile.
         if (task->output.settings.isEmpty())
@@ -655,6 +694,7 @@ void CMainWnd::addTaskRows()
         for (const auto &child : task->items)
             addRow(new QTreeWidgetItem(item), task->id, RowChild, child->id);
     }
+    makeVisibleRowFaces();
     if (treeTask->topLevelItemCount() > 0) {
         if (first)
             treeTask->setColumnWidth(0, 160);
@@ -745,6 +785,7 @@ void CMainWnd::on_treeTask_itemExpanded(QTreeWidgetItem *item)
 {
     if (CustomItemWidget *row = rowOf(treeTask, item))
         row->refreshExpand();
+    QTimer::singleShot(0, this, &CMainWnd::makeVisibleRowFaces);
 }
 
 void CMainWnd::on_treeTask_itemCollapsed(QTreeWidgetItem *item)

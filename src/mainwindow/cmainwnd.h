@@ -12,6 +12,7 @@
 class CPlayPauseButton;
 class CProfileCombo;
 class CSlider;
+class CustomItemWidget;
 class FadePushButton;
 class FadeToolButton;
 class FFPlayer;
@@ -144,6 +145,7 @@ protected:
     void mouseMoveEvent(QMouseEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void stopPreview();
@@ -152,6 +154,9 @@ private:
     // platform lets a program place windows; a child panel where it doesn't.
     bool panelIsChild() const;
     void addRow(QTreeWidgetItem *item, int taskId, int kind, int childId);
+    CustomItemWidget *makeRowFace(QTreeWidgetItem *item);
+    void makeVisibleRowFaces();
+    QMap<int, int> rowHeights; // by row kind
 
     TaskbarProgress taskbar;
     bool painted = false;

@@ -1,10 +1,12 @@
 #include "childtask.h"
+#include "conversion/processtools.h"
 #include "cmainwnd.h"
 #include "controls.h"
 #include "cprofilecombo.h"
 #include "customitemwidget.h"
 #include "mediafixtures.h"
 #include "profilegrouploader.h"
+#include "settings.h"
 #include "tasklist.h"
 #include "tasktreeops.h"
 #include "testhome.h"
@@ -45,6 +47,15 @@ class TestMainWindow : public QObject
         return window->itemOf(ids[which]);
     }
 
+    // The row's widget, made as the row comes into view.
+    QWidget *face(const QString &which) const
+    {
+        window->treeTask->scrollToItem(row(which));
+        QWidget *widget = nullptr;
+        QTest::qWaitFor([&] { return (widget = window->treeTask->itemWidget(row(which), 0)); }, 2000);
+        return widget;
+    }
+
     void setState(const QString &which, Task::EState state, bool checked = true)
     {
         Task *task = window->tasks()->byId(ids[which == QLatin1String("child") ? QStringLiteral("merge") : which]);
@@ -52,13 +63,14 @@ class TestMainWindow : public QObject
         task->checked = checked;
     }
 
-    bool closes()
+    // Whether the window closes without a question; one asked gets `answer`.
+    bool closes(QMessageBox::StandardButton answer = QMessageBox::Cancel)
     {
         bool asked = false;
         QTimer::singleShot(200, this, [&] {
             if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
                 asked = true;
-                box->button(QMessageBox::Cancel)->click();
+                box->button(answer)->click();
             }
         });
         const bool closed = window->close();
@@ -228,10 +240,9 @@ private slots:
     {
         QFETCH(QString, which);
         QTreeWidget *tree = window->treeTask;
-        tree->scrollToItem(row(which));
-        QTRY_VERIFY(tree->visualItemRect(row(which)).isValid());
-        QWidget *face = tree->itemWidget(row(which), 0);
-        const QPoint at = face->mapTo(window.get(), face->rect().center());
+        QWidget *widget = face(which);
+        QVERIFY(widget);
+        const QPoint at = widget->mapTo(window.get(), widget->rect().center());
         QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, at);
         QCOMPARE(tree->currentItem(), row(which));
         QTEST(QStringLiteral("%1 %2 %3 %4")
@@ -244,7 +255,8 @@ private slots:
 
     void stateChangeSwapsTheRowsFaces()
     {
-        QWidget *widget = window->treeTask->itemWidget(row(QStringLiteral("film")), 0);
+        QWidget *widget = face(QStringLiteral("film"));
+        QVERIFY(widget);
         auto *progress = widget->findChild<QWidget *>(QStringLiteral("progressWidget"));
         auto *profile = widget->findChild<QWidget *>(QStringLiteral("profileWidget"));
         for (Task::EState state : {Task::Running, Task::Succeed, Task::Paused, Task::Failed}) {
@@ -264,6 +276,29 @@ private slots:
         window->show();
         setState(QStringLiteral("film"), Task::Running, true);
         QVERIFY(!closes());
+    }
+
+    // Closing while two encoders run ends them all and keeps the settings.
+    void closingEndsTheEncodersAndKeepsTheSettings()
+    {
+        QTemporaryDir work;
+        const QString paced = writeFile(work.filePath(QStringLiteral("paced-ffmpeg")),
+                                        "#!/bin/bash\nargs=()\nfor a in \"$@\"; do [ \"$a\" = -i ] && "
+                                        "args+=(-re); args+=(\"$a\"); done\nexec ffmpeg \"${args[@]}\"\n");
+        QVERIFY(QFile::setPermissions(paced, QFile::ReadOwner | QFile::ExeOwner));
+        qputenv("KESTROVE_FFMPEG", QFile::encodeName(paced));
+        setSettingString(QStringLiteral("OutputDir"), work.path());
+        ConverterManager *converter = window->converterManager();
+        converter->setMaxProcesses(2);
+        converter->startAll();
+        const qint64 self = QCoreApplication::applicationPid();
+        QTRY_COMPARE_WITH_TIMEOUT(childrenNamed(self, "kestrove-encoder").size(), 2, 20000);
+        QVERIFY(!closes(QMessageBox::Ok)); // asked, and closed on OK
+        QVERIFY(!window->isVisible());
+        // At once: the batch would end by itself a few seconds later.
+        QTRY_VERIFY_WITH_TIMEOUT(processTree(self).size() == 1, 3000);
+        qunsetenv("KESTROVE_FFMPEG");
+        QVERIFY(readFile(settingsFilePath()).contains(QFile::encodeName(work.path())));
     }
 
     // The dock hears the batch's progress on the (private) session bus.
