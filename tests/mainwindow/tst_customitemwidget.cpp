@@ -21,10 +21,7 @@ class HostWindow : public QWidget
     Q_OBJECT
 
 public:
-    int audioEdits = 0;
-    int trackChanges = 0;
-    int plays = 0;
-    int clears = 0;
+    int audioEdits = 0, trackChanges = 0, plays = 0, clears = 0;
 
 public slots:
     void on_actionClear_All_triggered() { ++clears; }

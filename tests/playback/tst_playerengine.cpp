@@ -1,9 +1,9 @@
+#include "ffmpegtools.h"
 #include "ffplayer.h"
 #include "mediafixtures.h"
 #include "playerengine.h"
 
 #include <QElapsedTimer>
-#include <QProcess>
 #include <QRandomGenerator>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -21,8 +21,7 @@ constexpr double frameRate = 25.0;
 struct Watcher
 {
     std::mutex mutex;
-    std::vector<int> states;
-    std::vector<int> counters; // the frame number burnt into each picture
+    std::vector<int> states, counters; // counters: the frame number burnt into each picture
     std::vector<double> clocks;  // the clock as each picture was shown
     std::vector<int16_t> left;   // left channel as it went out
     int soundRate = 0;
@@ -94,15 +93,6 @@ struct Watcher
     }
 };
 
-bool makeMedia(const QStringList &arguments)
-{
-    QProcess ffmpeg;
-    ffmpeg.start(QStringLiteral("ffmpeg"),
-                 QStringList{QStringLiteral("-v"), QStringLiteral("error"), QStringLiteral("-y")}
-                     + arguments);
-    return ffmpeg.waitForFinished(120000) && ffmpeg.exitCode() == 0;
-}
-
 } // namespace
 
 class TestPlayerEngine : public QObject
@@ -123,25 +113,23 @@ private slots:
         counter = dir.filePath(QStringLiteral("counter.mkv"));
         flashes = dir.filePath(QStringLiteral("flashes.mkv"));
         // Lossless, so that the burnt-in number reads back exactly.
-        QVERIFY(makeMedia(
-            {QStringLiteral("-f"), QStringLiteral("lavfi"), QStringLiteral("-i"),
-             QStringLiteral("color=c=gray:s=160x120:r=25:d=4,"
-                            "geq=lum='if(lt(X\\,32)\\,2*N\\,128)':cb=128:cr=128"),
-             QStringLiteral("-f"), QStringLiteral("lavfi"), QStringLiteral("-i"),
-             QStringLiteral("sine=f=440:r=48000:d=4"), QStringLiteral("-c:v"),
-             QStringLiteral("libx264"), QStringLiteral("-qp"), QStringLiteral("0"),
-             QStringLiteral("-g"), QStringLiteral("25"), QStringLiteral("-pix_fmt"),
-             QStringLiteral("yuv420p"), QStringLiteral("-c:a"), QStringLiteral("flac"), counter}));
-        QVERIFY(makeMedia(
-            {QStringLiteral("-f"), QStringLiteral("lavfi"), QStringLiteral("-i"),
-             QStringLiteral("color=c=black:s=160x120:r=25:d=4,"
-                            "geq=lum='if(eq(mod(N\\,25)\\,0)*gte(N\\,25)\\,235\\,16)':cb=128:cr=128"),
-             QStringLiteral("-f"), QStringLiteral("lavfi"), QStringLiteral("-i"),
-             QStringLiteral("aevalsrc='if(lt(mod(t\\,1)\\,0.04)*gte(t\\,1)\\,0.8*sin(2*PI*1000*t)\\,0)'"
-                            ":s=48000:d=4"),
-             QStringLiteral("-c:v"), QStringLiteral("libx264"), QStringLiteral("-qp"),
-             QStringLiteral("0"), QStringLiteral("-pix_fmt"), QStringLiteral("yuv420p"),
-             QStringLiteral("-c:a"), QStringLiteral("flac"), flashes}));
+        const QString video = QStringLiteral("-v error -y -f lavfi -i %1 -f lavfi -i %2 -c:v libx264 -qp 0 "
+                                             "-g 25 -pix_fmt yuv420p -c:a flac");
+        QCOMPARE(runTool(QStringLiteral("ffmpeg"),
+                         video.arg(QStringLiteral("color=c=gray:s=160x120:r=25:d=4,"
+                                                  "geq=lum='if(lt(X\\,32)\\,2*N\\,128)':cb=128:cr=128"),
+                                   QStringLiteral("sine=f=440:r=48000:d=4"))
+                                 .split(QLatin1Char(' '))
+                             << counter, nullptr, QString(), 120000),
+                 0);
+        QCOMPARE(runTool(QStringLiteral("ffmpeg"),
+                         video.arg(QStringLiteral("color=c=black:s=160x120:r=25:d=4,geq=lum='if(eq(mod(N\\,25)"
+                                                  "\\,0)*gte(N\\,25)\\,235\\,16)':cb=128:cr=128"),
+                                   QStringLiteral("aevalsrc='if(lt(mod(t\\,1)\\,0.04)*gte(t\\,1)\\,"
+                                                  "0.8*sin(2*PI*1000*t)\\,0)':s=48000:d=4"))
+                                 .split(QLatin1Char(' '))
+                             << flashes, nullptr, QString(), 120000),
+                 0);
         titleIfo = fixture(mediaFixtures(), "dvd-main/VIDEO_TS/VTS_01_0.IFO");
     }
 
