@@ -67,6 +67,56 @@
         <source>Please Select Output Folder</source>
         <translation>الرجاء تحديد مجلد الإخراج</translation>
     </message>
+    <message>
+        <source>Please select a DVD drive or a DVD folder.</source>
+        <translation>يرجى اختيار محرك DVD أو مجلد DVD.</translation>
+    </message>
+    <message>
+        <source>Open IFO Files</source>
+        <translation>فتح ملفات IFO</translation>
+    </message>
+    <message>
+        <source>IFO Files (*.ifo *.IFO)</source>
+        <translation>ملفات IFO (*.ifo *.IFO)</translation>
+    </message>
+    <message>
+        <source>Loading...</source>
+        <translation>جارٍ التحميل...</translation>
+    </message>
+    <message>
+        <source>The IFO File is invalid.
+%1</source>
+        <translation>ملف IFO غير صالح.
+%1</translation>
+    </message>
+    <message>
+        <source>Following files can not be loaded(They are not valid media files or their formats are not supported):</source>
+        <translation>تعذّر تحميل الملفات التالية (ليست ملفات وسائط صالحة أو أن صيغها غير مدعومة):</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>كل الملفات</translation>
+    </message>
+    <message>
+        <source>All Supported Formats</source>
+        <translation>كل الصيغ المدعومة</translation>
+    </message>
+    <message>
+        <source>Supported Video</source>
+        <translation>الفيديو المدعوم</translation>
+    </message>
+    <message>
+        <source>Supported Audio</source>
+        <translation>الصوت المدعوم</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation>تحميل</translation>
+    </message>
+    <message>
+        <source>Select a Folder</source>
+        <translation>اختر مجلدًا</translation>
+    </message>
 </context>
 <context>
     <name>CPlayPauseButton</name>

@@ -67,6 +67,56 @@
         <source>Please Select Output Folder</source>
         <translation>Vyberte výstupní složku</translation>
     </message>
+    <message>
+        <source>Please select a DVD drive or a DVD folder.</source>
+        <translation>Vyberte jednotku DVD nebo složku DVD.</translation>
+    </message>
+    <message>
+        <source>Open IFO Files</source>
+        <translation>Otevřít soubory IFO</translation>
+    </message>
+    <message>
+        <source>IFO Files (*.ifo *.IFO)</source>
+        <translation>Soubory IFO (*.ifo *.IFO)</translation>
+    </message>
+    <message>
+        <source>Loading...</source>
+        <translation>Načítání...</translation>
+    </message>
+    <message>
+        <source>The IFO File is invalid.
+%1</source>
+        <translation>Soubor IFO je neplatný.
+%1</translation>
+    </message>
+    <message>
+        <source>Following files can not be loaded(They are not valid media files or their formats are not supported):</source>
+        <translation>Následující soubory nelze načíst (nejsou to platné mediální soubory nebo jejich formát není podporován):</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>Všechny soubory</translation>
+    </message>
+    <message>
+        <source>All Supported Formats</source>
+        <translation>Všechny podporované formáty</translation>
+    </message>
+    <message>
+        <source>Supported Video</source>
+        <translation>Podporované video</translation>
+    </message>
+    <message>
+        <source>Supported Audio</source>
+        <translation>Podporovaný zvuk</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation>Načíst</translation>
+    </message>
+    <message>
+        <source>Select a Folder</source>
+        <translation>Vyberte složku</translation>
+    </message>
 </context>
 <context>
     <name>CPlayPauseButton</name>

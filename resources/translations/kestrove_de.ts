@@ -67,6 +67,56 @@
         <source>Please Select Output Folder</source>
         <translation>Bitte Ausgabeordner auswählen</translation>
     </message>
+    <message>
+        <source>Please select a DVD drive or a DVD folder.</source>
+        <translation>Bitte wählen Sie ein DVD-Laufwerk oder einen DVD-Ordner.</translation>
+    </message>
+    <message>
+        <source>Open IFO Files</source>
+        <translation>IFO-Dateien öffnen</translation>
+    </message>
+    <message>
+        <source>IFO Files (*.ifo *.IFO)</source>
+        <translation>IFO-Dateien (*.ifo *.IFO)</translation>
+    </message>
+    <message>
+        <source>Loading...</source>
+        <translation>Wird geladen...</translation>
+    </message>
+    <message>
+        <source>The IFO File is invalid.
+%1</source>
+        <translation>Die IFO-Datei ist ungültig.
+%1</translation>
+    </message>
+    <message>
+        <source>Following files can not be loaded(They are not valid media files or their formats are not supported):</source>
+        <translation>Folgende Dateien können nicht geladen werden (sie sind keine gültigen Mediendateien oder ihr Format wird nicht unterstützt):</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>Alle Dateien</translation>
+    </message>
+    <message>
+        <source>All Supported Formats</source>
+        <translation>Alle unterstützten Formate</translation>
+    </message>
+    <message>
+        <source>Supported Video</source>
+        <translation>Unterstützte Videos</translation>
+    </message>
+    <message>
+        <source>Supported Audio</source>
+        <translation>Unterstützte Audiodateien</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation>Laden</translation>
+    </message>
+    <message>
+        <source>Select a Folder</source>
+        <translation>Ordner auswählen</translation>
+    </message>
 </context>
 <context>
     <name>CPlayPauseButton</name>

@@ -67,6 +67,55 @@
         <source>Please Select Output Folder</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Please select a DVD drive or a DVD folder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open IFO Files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>IFO Files (*.ifo *.IFO)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Loading...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The IFO File is invalid.
+%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Following files can not be loaded(They are not valid media files or their formats are not supported):</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All Supported Formats</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Supported Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Supported Audio</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select a Folder</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>CPlayPauseButton</name>

@@ -67,6 +67,56 @@
         <source>Please Select Output Folder</source>
         <translation>Seleccione la carpeta de salida</translation>
     </message>
+    <message>
+        <source>Please select a DVD drive or a DVD folder.</source>
+        <translation>Seleccione una unidad de DVD o una carpeta de DVD.</translation>
+    </message>
+    <message>
+        <source>Open IFO Files</source>
+        <translation>Abrir archivos IFO</translation>
+    </message>
+    <message>
+        <source>IFO Files (*.ifo *.IFO)</source>
+        <translation>Archivos IFO (*.ifo *.IFO)</translation>
+    </message>
+    <message>
+        <source>Loading...</source>
+        <translation>Cargando...</translation>
+    </message>
+    <message>
+        <source>The IFO File is invalid.
+%1</source>
+        <translation>El archivo IFO no es válido.
+%1</translation>
+    </message>
+    <message>
+        <source>Following files can not be loaded(They are not valid media files or their formats are not supported):</source>
+        <translation>No se pueden cargar los siguientes archivos (no son archivos multimedia válidos o su formato no es compatible):</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>Todos los archivos</translation>
+    </message>
+    <message>
+        <source>All Supported Formats</source>
+        <translation>Todos los formatos compatibles</translation>
+    </message>
+    <message>
+        <source>Supported Video</source>
+        <translation>Vídeo compatible</translation>
+    </message>
+    <message>
+        <source>Supported Audio</source>
+        <translation>Audio compatible</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation>Cargar</translation>
+    </message>
+    <message>
+        <source>Select a Folder</source>
+        <translation>Seleccione una carpeta</translation>
+    </message>
 </context>
 <context>
     <name>CPlayPauseButton</name>

@@ -67,6 +67,56 @@
         <source>Please Select Output Folder</source>
         <translation>Veuillez choisir le dossier de sortie</translation>
     </message>
+    <message>
+        <source>Please select a DVD drive or a DVD folder.</source>
+        <translation>Veuillez choisir un lecteur DVD ou un dossier DVD.</translation>
+    </message>
+    <message>
+        <source>Open IFO Files</source>
+        <translation>Ouvrir des fichiers IFO</translation>
+    </message>
+    <message>
+        <source>IFO Files (*.ifo *.IFO)</source>
+        <translation>Fichiers IFO (*.ifo *.IFO)</translation>
+    </message>
+    <message>
+        <source>Loading...</source>
+        <translation>Chargement...</translation>
+    </message>
+    <message>
+        <source>The IFO File is invalid.
+%1</source>
+        <translation>Le fichier IFO n&apos;est pas valide.
+%1</translation>
+    </message>
+    <message>
+        <source>Following files can not be loaded(They are not valid media files or their formats are not supported):</source>
+        <translation>Impossible de charger les fichiers suivants (ce ne sont pas des fichiers multimédias valides ou leur format n&apos;est pas pris en charge) :</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>Tous les fichiers</translation>
+    </message>
+    <message>
+        <source>All Supported Formats</source>
+        <translation>Tous les formats pris en charge</translation>
+    </message>
+    <message>
+        <source>Supported Video</source>
+        <translation>Vidéo prise en charge</translation>
+    </message>
+    <message>
+        <source>Supported Audio</source>
+        <translation>Audio pris en charge</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation>Charger</translation>
+    </message>
+    <message>
+        <source>Select a Folder</source>
+        <translation>Choisir un dossier</translation>
+    </message>
 </context>
 <context>
     <name>CPlayPauseButton</name>

@@ -67,6 +67,56 @@
         <source>Please Select Output Folder</source>
         <translation>Selezionare la cartella di output</translation>
     </message>
+    <message>
+        <source>Please select a DVD drive or a DVD folder.</source>
+        <translation>Selezionare un&apos;unità DVD o una cartella DVD.</translation>
+    </message>
+    <message>
+        <source>Open IFO Files</source>
+        <translation>Apri file IFO</translation>
+    </message>
+    <message>
+        <source>IFO Files (*.ifo *.IFO)</source>
+        <translation>File IFO (*.ifo *.IFO)</translation>
+    </message>
+    <message>
+        <source>Loading...</source>
+        <translation>Caricamento...</translation>
+    </message>
+    <message>
+        <source>The IFO File is invalid.
+%1</source>
+        <translation>Il file IFO non è valido.
+%1</translation>
+    </message>
+    <message>
+        <source>Following files can not be loaded(They are not valid media files or their formats are not supported):</source>
+        <translation>Impossibile caricare i seguenti file (non sono file multimediali validi o il loro formato non è supportato):</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>Tutti i file</translation>
+    </message>
+    <message>
+        <source>All Supported Formats</source>
+        <translation>Tutti i formati supportati</translation>
+    </message>
+    <message>
+        <source>Supported Video</source>
+        <translation>Video supportati</translation>
+    </message>
+    <message>
+        <source>Supported Audio</source>
+        <translation>Audio supportati</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation>Carica</translation>
+    </message>
+    <message>
+        <source>Select a Folder</source>
+        <translation>Seleziona una cartella</translation>
+    </message>
 </context>
 <context>
     <name>CPlayPauseButton</name>

@@ -67,6 +67,56 @@
         <source>Please Select Output Folder</source>
         <translation>出力フォルダーを選択してください</translation>
     </message>
+    <message>
+        <source>Please select a DVD drive or a DVD folder.</source>
+        <translation>DVD ドライブまたは DVD フォルダーを選択してください。</translation>
+    </message>
+    <message>
+        <source>Open IFO Files</source>
+        <translation>IFO ファイルを開く</translation>
+    </message>
+    <message>
+        <source>IFO Files (*.ifo *.IFO)</source>
+        <translation>IFO ファイル (*.ifo *.IFO)</translation>
+    </message>
+    <message>
+        <source>Loading...</source>
+        <translation>読み込み中...</translation>
+    </message>
+    <message>
+        <source>The IFO File is invalid.
+%1</source>
+        <translation>IFO ファイルが無効です。
+%1</translation>
+    </message>
+    <message>
+        <source>Following files can not be loaded(They are not valid media files or their formats are not supported):</source>
+        <translation>次のファイルを読み込めません (有効なメディア ファイルではないか、形式がサポートされていません):</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>すべてのファイル</translation>
+    </message>
+    <message>
+        <source>All Supported Formats</source>
+        <translation>サポートされるすべての形式</translation>
+    </message>
+    <message>
+        <source>Supported Video</source>
+        <translation>サポートされるビデオ</translation>
+    </message>
+    <message>
+        <source>Supported Audio</source>
+        <translation>サポートされるオーディオ</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation>読み込み</translation>
+    </message>
+    <message>
+        <source>Select a Folder</source>
+        <translation>フォルダーの選択</translation>
+    </message>
 </context>
 <context>
     <name>CPlayPauseButton</name>

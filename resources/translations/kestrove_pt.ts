@@ -67,6 +67,56 @@
         <source>Please Select Output Folder</source>
         <translation>Selecione a pasta de saída</translation>
     </message>
+    <message>
+        <source>Please select a DVD drive or a DVD folder.</source>
+        <translation>Seleccione uma unidade de DVD ou uma pasta de DVD.</translation>
+    </message>
+    <message>
+        <source>Open IFO Files</source>
+        <translation>Abrir ficheiros IFO</translation>
+    </message>
+    <message>
+        <source>IFO Files (*.ifo *.IFO)</source>
+        <translation>Ficheiros IFO (*.ifo *.IFO)</translation>
+    </message>
+    <message>
+        <source>Loading...</source>
+        <translation>A carregar...</translation>
+    </message>
+    <message>
+        <source>The IFO File is invalid.
+%1</source>
+        <translation>O ficheiro IFO é inválido.
+%1</translation>
+    </message>
+    <message>
+        <source>Following files can not be loaded(They are not valid media files or their formats are not supported):</source>
+        <translation>Não é possível carregar os seguintes ficheiros (não são ficheiros multimédia válidos ou o formato não é suportado):</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>Todos os ficheiros</translation>
+    </message>
+    <message>
+        <source>All Supported Formats</source>
+        <translation>Todos os formatos suportados</translation>
+    </message>
+    <message>
+        <source>Supported Video</source>
+        <translation>Vídeo suportado</translation>
+    </message>
+    <message>
+        <source>Supported Audio</source>
+        <translation>Áudio suportado</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation>Carregar</translation>
+    </message>
+    <message>
+        <source>Select a Folder</source>
+        <translation>Seleccione uma pasta</translation>
+    </message>
 </context>
 <context>
     <name>CPlayPauseButton</name>

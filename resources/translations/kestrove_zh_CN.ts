@@ -67,6 +67,56 @@
         <source>Please Select Output Folder</source>
         <translation>请选择输出文件夹</translation>
     </message>
+    <message>
+        <source>Please select a DVD drive or a DVD folder.</source>
+        <translation>请选择 DVD 驱动器或 DVD 文件夹。</translation>
+    </message>
+    <message>
+        <source>Open IFO Files</source>
+        <translation>打开 IFO 文件</translation>
+    </message>
+    <message>
+        <source>IFO Files (*.ifo *.IFO)</source>
+        <translation>IFO 文件 (*.ifo *.IFO)</translation>
+    </message>
+    <message>
+        <source>Loading...</source>
+        <translation>正在加载...</translation>
+    </message>
+    <message>
+        <source>The IFO File is invalid.
+%1</source>
+        <translation>IFO 文件无效。
+%1</translation>
+    </message>
+    <message>
+        <source>Following files can not be loaded(They are not valid media files or their formats are not supported):</source>
+        <translation>无法加载以下文件（不是有效的媒体文件或格式不受支持）：</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>所有文件</translation>
+    </message>
+    <message>
+        <source>All Supported Formats</source>
+        <translation>所有支持的格式</translation>
+    </message>
+    <message>
+        <source>Supported Video</source>
+        <translation>支持的视频</translation>
+    </message>
+    <message>
+        <source>Supported Audio</source>
+        <translation>支持的音频</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation>加载</translation>
+    </message>
+    <message>
+        <source>Select a Folder</source>
+        <translation>选择文件夹</translation>
+    </message>
 </context>
 <context>
     <name>CPlayPauseButton</name>

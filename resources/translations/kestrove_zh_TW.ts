@@ -67,6 +67,56 @@
         <source>Please Select Output Folder</source>
         <translation>請選取輸出資料夾</translation>
     </message>
+    <message>
+        <source>Please select a DVD drive or a DVD folder.</source>
+        <translation>請選擇 DVD 光碟機或 DVD 資料夾。</translation>
+    </message>
+    <message>
+        <source>Open IFO Files</source>
+        <translation>開啟 IFO 檔案</translation>
+    </message>
+    <message>
+        <source>IFO Files (*.ifo *.IFO)</source>
+        <translation>IFO 檔案 (*.ifo *.IFO)</translation>
+    </message>
+    <message>
+        <source>Loading...</source>
+        <translation>正在載入...</translation>
+    </message>
+    <message>
+        <source>The IFO File is invalid.
+%1</source>
+        <translation>IFO 檔案無效。
+%1</translation>
+    </message>
+    <message>
+        <source>Following files can not be loaded(They are not valid media files or their formats are not supported):</source>
+        <translation>無法載入下列檔案（不是有效的媒體檔案或格式不受支援）：</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>所有檔案</translation>
+    </message>
+    <message>
+        <source>All Supported Formats</source>
+        <translation>所有支援的格式</translation>
+    </message>
+    <message>
+        <source>Supported Video</source>
+        <translation>支援的視訊</translation>
+    </message>
+    <message>
+        <source>Supported Audio</source>
+        <translation>支援的音訊</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation>載入</translation>
+    </message>
+    <message>
+        <source>Select a Folder</source>
+        <translation>選擇資料夾</translation>
+    </message>
 </context>
 <context>
     <name>CPlayPauseButton</name>

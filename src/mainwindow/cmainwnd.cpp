@@ -4,6 +4,7 @@
 #include "cprofilecombo.h"
 #include "customitemwidget.h"
 #include "desktop.h"
+#include "dvddisc.h"
 #include "ffplayer.h"
 #include "mediaimagereader.h"
 #include "playerscreen.h"
@@ -33,6 +34,7 @@
 #include <QMessageBox>
 #include <QMimeData>
 #include <QProgressBar>
+#include <QProgressDialog>
 #include <QPushButton>
 #include <QScreen>
 #include <QSet>
@@ -580,7 +582,236 @@ void CMainWnd::onSkinChanged(int)
 
 void CMainWnd::on_startLabel_linkActivated(const QString &)
 {
-    action(QStringLiteral("actionOpen_DVD"))->trigger();
+    on_actionOpen_DVD_triggered();
+}
+
+QString CMainWnd::currentProfileKey() const
+{
+    return comboProfile->currentData().value<ProfileRecord>().key;
+}
+
+void CMainWnd::on_actionOpen_DVD_triggered()
+{
+    const QString dir = Setting::dvdDir();
+    QString folder = QFileDialog::getExistingDirectory(this, tr("Please select a DVD drive or a DVD folder."),
+                                                       dir, QFileDialog::ShowDirsOnly);
+    if (folder.isEmpty())
+        return;
+    if (folder != dir)
+        setSettingString(QStringLiteral("DVDDir"), folder);
+    // A mount may show the folder in lower case.
+    if (folder.section(QLatin1Char('/'), -1).compare(QLatin1String("VIDEO_TS"), Qt::CaseInsensitive) != 0) {
+        const QDir disc(folder);
+        const QStringList inside = disc.entryList({QStringLiteral("VIDEO_TS")}, QDir::Dirs);
+        folder = disc.filePath(inside.value(0, QStringLiteral("VIDEO_TS")));
+    }
+    QStringList files;
+    const QDir videoTs(folder);
+    const QStringList present = videoTs.entryList(QDir::Files);
+    for (int n = 1;; ++n) {
+        const QString name = QStringLiteral("VTS_%1_0.IFO").arg(n, 2, 10, QLatin1Char('0'));
+        const auto found = std::find_if(present.begin(), present.end(), [&](const QString &file) {
+            return file.compare(name, Qt::CaseInsensitive) == 0;
+        });
+        if (found == present.end())
+            break;
+        files << videoTs.filePath(*found);
+    }
+    LoadDiscFiles(AddDiscRow(folder), files);
+}
+
+void CMainWnd::on_actionOpen_IFO_Files_triggered()
+{
+    const QString dir = Setting::ifoFileDir();
+    const QStringList files = QFileDialog::getOpenFileNames(this, tr("Open IFO Files"), dir,
+                                                            tr("IFO Files (*.ifo *.IFO)"));
+    if (files.isEmpty())
+        return;
+    const QString folder = QFileInfo(files.first()).path();
+    if (folder != dir)
+        setSettingString(QStringLiteral("IFOFileDir"), folder);
+    LoadDiscFiles(AddDiscRow(folder), files);
+}
+
+QTreeWidgetItem *CMainWnd::AddDiscRow(const QString &path)
+{
+    auto *row = new QTreeWidgetItem(treeTask);
+    row->setData(0, RoleDiscPath, QDir::toNativeSeparators(path));
+    addRow(row, -1, RowDisc, -1);
+    makeVisibleRowFaces();
+    if (mulitWnd->currentIndex() != 1)
+        mulitWnd->setCurrentIndex(1);
+    return row;
+}
+
+void CMainWnd::setUpLoading(QProgressDialog &progress, int count)
+{
+    progress.setWindowTitle(tr("Loading..."));
+    progress.setRange(0, count);
+    progress.setFixedSize(400, 120);
+}
+
+void CMainWnd::LoadDiscFiles(QTreeWidgetItem *row, const QStringList &files)
+{
+    QProgressDialog progress(this);
+    setUpLoading(progress, int(files.size()));
+    progress.show();
+    int titleNumber = 1;
+    const int discId = nextDiscId++;
+    for (int i = 0; i < files.size(); ++i) {
+        progress.setLabelText(QDir::toNativeSeparators(QFileInfo(files[i]).fileName()));
+        LoadDiscFile(files[i], row, titleNumber, discId);
+        progress.setValue(i + 1);
+        QCoreApplication::processEvents();
+    }
+    if (row->childCount() > 0)
+        row->setExpanded(true);
+}
+
+void CMainWnd::LoadDiscFile(const QString &path, QTreeWidgetItem *row, int &titleNumber, int discId)
+{
+    const std::unique_ptr<DvdDisc> disc = LoadDvdDisc(path, Setting::useAspi() != 0);
+    if (!disc) {
+        QMessageBox::information(this, WindowTitleText(),
+                                 tr("The IFO File is invalid.\n%1").arg(QDir::toNativeSeparators(path)));
+        return;
+    }
+    const QString key = currentProfileKey();
+    for (const auto &title : disc->titles) {
+        const int id = taskList->addTitle(key, *title, titleNumber, discId);
+        if (id < 0)
+            continue;
+        ++titleNumber;
+        settingsWindow->values(taskList->byId(id)->output.settings);
+        addRow(new QTreeWidgetItem(row), id, RowNormal, -1);
+        Logical::MediaImageReader::instance()->requestImage(id, 1.0, true);
+    }
+    makeVisibleRowFaces();
+    startOfList();
+}
+
+int CMainWnd::AddMediaFile(const QString &path)
+{
+    const int id = taskList->addFile(currentProfileKey(), path);
+    if (id < 0)
+        return id;
+    settingsWindow->values(taskList->byId(id)->output.settings);
+    addRow(new QTreeWidgetItem(treeTask), id, RowNormal, -1);
+    Logical::MediaImageReader::instance()->requestImage(id, 1.0, true);
+    makeVisibleRowFaces();
+    startOfList();
+    return id;
+}
+
+void CMainWnd::startOfList()
+{
+    if (mulitWnd->currentIndex() != 1) {
+        mulitWnd->setCurrentIndex(1);
+        treeTask->setCurrentIndex(treeTask->indexAt(QPoint(0, 0)));
+        treeTask->setColumnWidth(0, 160);
+        for (QWidget *w : std::initializer_list<QWidget *>{playPauseBtn, btnStart, extPlaywndBtn})
+            w->setEnabled(true);
+        action(QStringLiteral("actionProperties"))->setEnabled(true);
+    }
+    action(QStringLiteral("actionClear_All"))->setEnabled(true);
+    QTreeWidgetItem *first = treeTask->topLevelItem(0);
+    if (treeTask->topLevelItemCount() >= 2 || (first && first->childCount() >= 2))
+        action(QStringLiteral("actionMove_Down"))->setEnabled(true);
+    on_treeTask_itemChanged(nullptr, 0);
+}
+
+void CMainWnd::AddMediaBatch(const QStringList &paths)
+{
+    // The preview holds the media lock that probing takes.
+    if (playing)
+        stopPreview();
+    QProgressDialog progress(this);
+    setUpLoading(progress, int(paths.size()));
+    QCoreApplication::processEvents();
+    QStringList failed;
+    for (int i = 0; i < paths.size(); ++i) {
+        if (progress.wasCanceled() || paths[i].isEmpty())
+            break;
+        progress.setLabelText(QDir::toNativeSeparators(QFileInfo(paths[i]).fileName()));
+        if (AddMediaFile(paths[i].trimmed()) < 0)
+            failed << QDir::toNativeSeparators(paths[i]);
+        progress.setValue(i + 1);
+        QCoreApplication::processEvents();
+    }
+    progress.hide();
+    ReportLoadFailures(failed);
+    treeTask->setFocus(Qt::OtherFocusReason);
+    if (!treeTask->currentItem() && treeTask->topLevelItemCount() > 0)
+        treeTask->setCurrentItem(treeTask->topLevelItem(0));
+}
+
+void CMainWnd::CollectFolder(const QString &folder, QStringList &paths)
+{
+    const QDir dir(folder);
+    for (const QFileInfo &entry : dir.entryInfoList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot,
+                                                   QDir::Name)) {
+        if (entry.isDir())
+            CollectFolder(entry.filePath(), paths);
+        else
+            paths << entry.filePath();
+    }
+}
+
+void CMainWnd::ReportLoadFailures(const QStringList &paths)
+{
+    if (paths.isEmpty())
+        return;
+    QMessageBox box(QMessageBox::Information, WindowTitleText(),
+                    tr("Following files can not be loaded(They are not valid media files or their formats "
+                       "are not supported):"),
+                    QMessageBox::Ok, this);
+    if (paths.size() <= 10) {
+        box.setInformativeText(paths.join(QLatin1Char('\n')));
+    } else {
+        box.setInformativeText(paths.mid(0, 10).join(QLatin1Char('\n')) + QStringLiteral("\n..."));
+        box.setDetailedText(paths.join(QLatin1Char('\n')));
+    }
+    box.exec();
+}
+
+void CMainWnd::addFile()
+{
+    const QString dir = QDir::fromNativeSeparators(Setting::inputDir());
+    const QString media = QStringLiteral(
+        "*.avi *.asf *.wmv *.mp4 *.m4v *.mov *.qt *.mpg *.mpeg *.mjpeg *.mjpg *.ts *.mts *.m2ts *.dat *.3gp "
+        "*.3g2 *.mkv *.rm *.rmvb *.flv *.f4v *.swf *.vob *.mod *.tod *.dv *.ogm *.ogg *.webm *.wtv *.dvr-ms "
+        "*.bik");
+    const QString sound = QStringLiteral(
+        "*.mp3 *.wav *.wma *.m4a *.mka *.ra *.ram *.ape *.aud *.aiff *.aif *.aifc *.caf *.flac");
+    // "*" on Linux: names without a dot are files too.
+    const QString filter = QStringLiteral("%2 (%5 %6);;%3 (%5);;%4 (%6);;%1 (*)")
+                               .arg(tr("All files"), tr("All Supported Formats"), tr("Supported Video"),
+                                    tr("Supported Audio"), media, sound);
+    const QStringList files = QFileDialog::getOpenFileNames(this, tr("Load"), dir, filter);
+    if (files.isEmpty())
+        return;
+    if (QFileInfo(files.first()).path() != dir)
+        setSettingString(QStringLiteral("InputDir"), QDir::toNativeSeparators(QFileInfo(files.first()).path()));
+    AddMediaBatch(files);
+}
+
+void CMainWnd::addFolder()
+{
+    const QString dir = QDir::fromNativeSeparators(Setting::inputDir());
+    const QString folder
+        = QFileDialog::getExistingDirectory(this, tr("Select a Folder"), dir, QFileDialog::ShowDirsOnly);
+    if (folder.isEmpty())
+        return;
+    if (folder != dir)
+        setSettingString(QStringLiteral("InputDir"), QDir::toNativeSeparators(folder));
+    QStringList paths;
+    CollectFolder(folder, paths);
+    AddMediaBatch(paths);
+}
+
+void CMainWnd::showAddMenu()
+{
+    addMenu->popup(btnAddFile->mapToGlobal(btnAddFile->rect().bottomLeft() + QPoint(0, 1)));
 }
 
 bool CMainWnd::panelIsChild() const
@@ -932,6 +1163,23 @@ void CMainWnd::dragEnterEvent(QDragEnterEvent *event)
 {
     if (event->mimeData()->hasFormat(QStringLiteral("text/uri-list")))
         event->acceptProposedAction();
+}
+
+void CMainWnd::dropEvent(QDropEvent *event)
+{
+    const QList<QUrl> urls = event->mimeData()->urls();
+    if (urls.isEmpty())
+        return;
+    QStringList paths;
+    for (const QUrl &url : urls) {
+        const QString path = url.toLocalFile();
+        if (QFileInfo(path).isDir())
+            CollectFolder(path, paths);
+        else
+            paths << path;
+    }
+    event->acceptProposedAction();
+    AddMediaBatch(paths);
 }
 
 void CMainWnd::on_maxBtn_clicked()

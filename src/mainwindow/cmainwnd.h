@@ -26,6 +26,7 @@ class QLineEdit;
 class QMenu;
 class QMenuBar;
 class QProgressBar;
+class QProgressDialog;
 class QPushButton;
 class QSplitter;
 class QStackedWidget;
@@ -131,6 +132,12 @@ private slots:
     void on_treeTask_itemExpanded(QTreeWidgetItem *item);
     void on_treeTask_itemCollapsed(QTreeWidgetItem *item);
     void on_startLabel_linkActivated(const QString &link);
+    void on_actionOpen_DVD_triggered();
+    void on_actionOpen_DVD_Folder_triggered() { on_actionOpen_DVD_triggered(); }
+    void on_actionOpen_IFO_Files_triggered();
+    void addFile();
+    void addFolder();
+    void showAddMenu();
     void OnConvertProgressChanged(int taskId, double progress);
     void OnTaskStateChanged(int taskId, Task::EState state);
     void receiveMediaImage(int taskId);
@@ -145,6 +152,7 @@ protected:
     void mouseMoveEvent(QMouseEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
@@ -154,6 +162,18 @@ private:
     // platform lets a program place windows; a child panel where it doesn't.
     bool panelIsChild() const;
     void addRow(QTreeWidgetItem *item, int taskId, int kind, int childId);
+    // Importing: a disc row and its titles, or one row per media file.
+    QString currentProfileKey() const;
+    QTreeWidgetItem *AddDiscRow(const QString &path);
+    void LoadDiscFiles(QTreeWidgetItem *row, const QStringList &files);
+    void LoadDiscFile(const QString &path, QTreeWidgetItem *row, int &titleNumber, int discId);
+    int AddMediaFile(const QString &path);
+    void AddMediaBatch(const QStringList &paths);
+    static void CollectFolder(const QString &folder, QStringList &paths);
+    void ReportLoadFailures(const QStringList &paths);
+    void startOfList();
+    void setUpLoading(QProgressDialog &progress, int count);
+    int nextDiscId = 1;
     CustomItemWidget *makeRowFace(QTreeWidgetItem *item);
     void makeVisibleRowFaces();
     QMap<int, int> rowHeights; // by row kind

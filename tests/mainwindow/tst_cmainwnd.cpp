@@ -17,6 +17,9 @@
 #include <QDBusArgument>
 #include <QDBusConnection>
 #include <QDBusMessage>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMimeData>
 #include <QMessageBox>
 #include <QScrollBar>
 #include <QStackedWidget>
@@ -52,8 +55,9 @@ class TestMainWindow : public QObject
     {
         window->treeTask->scrollToItem(row(which));
         QWidget *widget = nullptr;
-        QTest::qWaitFor([&] { return (widget = window->treeTask->itemWidget(row(which), 0)); }, 2000);
-        return widget;
+        return QTest::qWaitFor([&] { return (widget = window->treeTask->itemWidget(row(which), 0)); }, 2000)
+                   ? widget
+                   : nullptr;
     }
 
     void setState(const QString &which, Task::EState state, bool checked = true)
@@ -299,6 +303,62 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(processTree(self).size() == 1, 3000);
         qunsetenv("KESTROVE_FFMPEG");
         QVERIFY(readFile(settingsFilePath()).contains(QFile::encodeName(work.path())));
+    }
+
+    // Open DVD through the file dialog, as a user types the folder: one disc
+    // row, its titles numbered in one run.
+    void openDvdMakesOneDiscRow()
+    {
+        window->ResetToEmpty();
+        QTimer::singleShot(300, this, [this] {
+            auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+            auto *name = dialog ? dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit")) : nullptr;
+            if (name) {
+                name->setText(fixture(media, "dvd-main"));
+                QTest::keyClick(name, Qt::Key_Return);
+            }
+        });
+        window->action(QStringLiteral("actionOpen_DVD"))->trigger();
+        QCOMPARE(window->treeTask->topLevelItemCount(), 1);
+        QTreeWidgetItem *disc = window->treeTask->topLevelItem(0);
+        QCOMPARE(TaskTreeOps::kindOf(disc), RowDisc);
+        QCOMPARE(disc->childCount(), int(this->disc->titles.size()));
+        QStringList names;
+        for (int i = 0; i < disc->childCount(); ++i)
+            names << QFileInfo(TaskTreeOps::instance().taskOf(disc->child(i))->output.fileName).completeBaseName();
+        QCOMPARE(names.last(), QStringLiteral("Title_%1").arg(disc->childCount()));
+    }
+
+    // Eleven bad files and a good one dropped: the good one's row, and a
+    // message with ten paths, "..." and all eleven behind the details.
+    void droppedBadFilesAreReportedTogether()
+    {
+        window->ResetToEmpty();
+        QTemporaryDir junk;
+        QList<QUrl> urls;
+        for (int i = 0; i < 11; ++i)
+            urls << QUrl::fromLocalFile(writeFile(junk.filePath(QStringLiteral("bad%1.mkv").arg(i)), "not media"));
+        urls << QUrl::fromLocalFile(fixture(media, "clip.mp4"));
+        QMimeData mime;
+        mime.setUrls(urls);
+        QString informative, details;
+        QTimer::singleShot(500, this, [&] {
+            if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
+                informative = box->informativeText();
+                details = box->detailedText();
+                box->accept();
+            }
+        });
+        // As a file manager's drag arrives: entering, then the drop.
+        QDragEnterEvent enter(QPoint(400, 300), Qt::CopyAction, &mime, Qt::LeftButton, {});
+        QApplication::sendEvent(window.get(), &enter);
+        QVERIFY(enter.isAccepted());
+        QDropEvent drop(QPointF(400, 300), Qt::CopyAction, &mime, Qt::LeftButton, {});
+        QApplication::sendEvent(window.get(), &drop);
+        QCOMPARE(window->treeTask->topLevelItemCount(), 1);
+        QCOMPARE(informative.count(QLatin1Char('\n')), 10);
+        QVERIFY(informative.endsWith(QLatin1String("...")));
+        QCOMPARE(details.split(QLatin1Char('\n')).size(), 11);
     }
 
     // The dock hears the batch's progress on the (private) session bus.
