@@ -61,13 +61,23 @@ QString subtitleFilter(const QStringList &args, QStringList &notes)
 
 } // namespace
 
+namespace {
+
+// A subtitle filter that reads its file on the file's own time line, where
+// the frames' time 0 lies `shift` seconds in.
+QString shifted(const QString &subtitles, double shift)
+{
+    if (shift == 0.0)
+        return subtitles;
+    const QString shiftText = QString::number(shift, 'g', 10);
+    return QStringLiteral("setpts=PTS+%1/TB,%2,setpts=PTS-%1/TB").arg(shiftText, subtitles);
+}
+
+} // namespace
+
 QString FilterTranslator::sourceSubtitleFilter(const QString &path, int stream, double shift)
 {
-    const QString text = QStringLiteral("subtitles=filename=%1:si=%2").arg(escapeValue(path)).arg(stream);
-    if (shift == 0.0)
-        return text;
-    const QString shiftText = QString::number(shift, 'g', 10);
-    return QStringLiteral("setpts=PTS+%1/TB,%2,setpts=PTS-%1/TB").arg(shiftText, text);
+    return shifted(QStringLiteral("subtitles=filename=%1:si=%2").arg(escapeValue(path)).arg(stream), shift);
 }
 
 QString FilterTranslator::vobSubIndex(const QString &path)
@@ -216,20 +226,16 @@ FilterTranslator::Result FilterTranslator::translate(const QString &chain,
             linear = {QStringLiteral("[%1][%2]overlay=x=%3:y=%4:format=auto")
                           .arg(main, mark, QString::number(args.value(0).toInt()),
                                QString::number(args.value(1).toInt()))};
-        } else if (name == QLatin1String("subtitle") && args.size() == 8
-                   && !vobSubIndex(fromHexText(args[7])).isEmpty()) {
-            result.subpictureFile = vobSubIndex(fromHexText(args[7]));
-            result.subpictureTrack = qMax(0, args[6].toInt());
         } else if (name == QLatin1String("subtitle")) {
-            const QString text = subtitleFilter(args, result.notes);
-            if (text.isEmpty())
+            const QString index = args.size() == 8 ? vobSubIndex(fromHexText(args[7])) : QString();
+            if (!index.isEmpty()) {
+                result.subpictureFile = index;
+                result.subpictureTrack = qMax(0, args[6].toInt());
                 continue;
-            const QString shift = QString::number(subtitleShift, 'g', 10);
-            if (subtitleShift != 0.0)
-                linear << QStringLiteral("setpts=PTS+%1/TB").arg(shift);
-            linear << text;
-            if (subtitleShift != 0.0)
-                linear << QStringLiteral("setpts=PTS-%1/TB").arg(shift);
+            }
+            const QString text = subtitleFilter(args, result.notes);
+            if (!text.isEmpty())
+                linear << shifted(text, subtitleShift);
         } else if (name == QLatin1String("crop") || name == QLatin1String("scale")
                    || name == QLatin1String("pad") || name == QLatin1String("yadif")) {
             linear << filter;
