@@ -682,9 +682,7 @@ void CMainWnd::LoadDiscFile(const QString &path, QTreeWidgetItem *row, int &titl
         if (id < 0)
             continue;
         ++titleNumber;
-        settingsWindow->values(taskList->byId(id)->output.settings);
-        addRow(new QTreeWidgetItem(row), id, RowNormal, -1);
-        Logical::MediaImageReader::instance()->requestImage(id, 1.0, true);
+        addImportedRow(new QTreeWidgetItem(row), id);
     }
     makeVisibleRowFaces();
     startOfList();
@@ -695,12 +693,18 @@ int CMainWnd::AddMediaFile(const QString &path)
     const int id = taskList->addFile(currentProfileKey(), path);
     if (id < 0)
         return id;
-    settingsWindow->values(taskList->byId(id)->output.settings);
-    addRow(new QTreeWidgetItem(treeTask), id, RowNormal, -1);
-    Logical::MediaImageReader::instance()->requestImage(id, 1.0, true);
+    addImportedRow(new QTreeWidgetItem(treeTask), id);
     makeVisibleRowFaces();
     startOfList();
     return id;
+}
+
+void CMainWnd::addImportedRow(QTreeWidgetItem *item, int taskId)
+{
+    // The task takes the values the panel shows now, and its picture comes later.
+    settingsWindow->values(taskList->byId(taskId)->output.settings);
+    addRow(item, taskId, RowNormal, -1);
+    Logical::MediaImageReader::instance()->requestImage(taskId, 1.0, true);
 }
 
 void CMainWnd::startOfList()
@@ -932,9 +936,7 @@ void CMainWnd::addTaskRows()
         mulitWnd->setCurrentIndex(1);
         action(QStringLiteral("actionClear_All"))->setEnabled(true);
     }
-    btnStart->setEnabled(TaskTreeOps::AnyRow(treeTask, [](const QTreeWidgetItem *row) {
-        return TaskTreeOps::instance().CanConvert(row, true);
-    }));
+    on_treeTask_itemChanged(nullptr, 0);
 }
 
 void CMainWnd::ResetToEmpty()

@@ -171,6 +171,7 @@ private:
     void AddMediaBatch(const QStringList &paths);
     static void CollectFolder(const QString &folder, QStringList &paths);
     void ReportLoadFailures(const QStringList &paths);
+    void addImportedRow(QTreeWidgetItem *item, int taskId);
     void startOfList();
     void setUpLoading(QProgressDialog &progress, int count);
     int nextDiscId = 1;
