@@ -10,6 +10,8 @@
 //   uishots main FIXTURES OUT.png [LANG]  the main window with a disc's titles
 //                                      and two files of the test fixtures
 //   uishots start OUT.png [LANG]       the main window's start page
+//   uishots preview FIXTURES OUT.png [LANG]  the main window previewing the
+//                                      first title with an effect, paused
 
 #include "cmainwnd.h"
 #include "controls.h"
@@ -90,7 +92,7 @@ int surfaceShot(const QString &media, const QString &subtitle, const QString &ou
     return QApplication::exec();
 }
 
-int mainShot(const QString &fixtures, const QString &out)
+int mainShot(const QString &fixtures, const QString &out, bool preview = false)
 {
     CMainWnd window;
     window.setGeometry(40, 40, 980, 620);
@@ -109,6 +111,16 @@ int mainShot(const QString &fixtures, const QString &out)
     }
     for (int i = 0; i < list->count(); ++i)
         Logical::MediaImageReader::instance()->requestImage(list->at(i)->id, 1.0, false);
+    if (preview && list->count() > 0) {
+        // Old film on the first title with its subpicture, played a moment and paused.
+        EditParameters &edit = list->at(0)->item(0)->edit;
+        edit.setEffectEnabled(7, true);
+        edit.selectSubtitle(0);
+        window.treeTask->scrollToTop();
+        window.treeTask->setCurrentItem(window.itemOf(list->at(0)->id));
+        window.playPauseBtn->click();
+        QTimer::singleShot(1500, qApp, [&] { window.playPauseBtn->click(); });
+    }
     QTimer::singleShot(2500, qApp, [&] {
         QGuiApplication::primaryScreen()->grabWindow(0, 24, 24, 1012, 652).save(out);
         QCoreApplication::quit();
@@ -135,6 +147,10 @@ int main(int argc, char *argv[])
     if (args.at(1) == QLatin1String("main") && args.size() >= 4) {
         QxLanguage::instance()->setLanguage(args.value(4, QStringLiteral("en")));
         return mainShot(args.at(2), args.at(3));
+    }
+    if (args.at(1) == QLatin1String("preview") && args.size() >= 4) {
+        QxLanguage::instance()->setLanguage(args.value(4, QStringLiteral("en")));
+        return mainShot(args.at(2), args.at(3), true);
     }
     if (args.at(1) == QLatin1String("start")) {
         QxLanguage::instance()->setLanguage(args.value(3, QStringLiteral("en")));

@@ -7,6 +7,7 @@
 #include "dvddisc.h"
 #include "ffplayer.h"
 #include "mediaimagereader.h"
+#include "mediainfo.h"
 #include "playerscreen.h"
 #include "profilegrouploader.h"
 #include "qxlanguage.h"
@@ -95,7 +96,7 @@ const MenuEntry menuEntries[] = {
     {"menu_Edit", "actionApply_Profile_to_All", QT_TRANSLATE_NOOP("mainWindow", "Apply Profile to All"), "", false},
     {"", "menu_Play", QT_TRANSLATE_NOOP("mainWindow", "&Play"), "", false},
     {"menu_Play", "actionPlay_Pause", QT_TRANSLATE_NOOP("mainWindow", "Play/Pause"), "Ctrl+P", false},
-    {"menu_Play", "actionStop", QT_TRANSLATE_NOOP("mainWindow", "Stop"), "", false},
+    {"menu_Play", "actionStop", QT_TRANSLATE_NOOP("mainWindow", "Stop"), "Ctrl+S", false},
     {"menu_Play", "actionPrevious", QT_TRANSLATE_NOOP("mainWindow", "Previous"), "Ctrl+B", false},
     {"menu_Play", "actionNext", QT_TRANSLATE_NOOP("mainWindow", "Next"), "Ctrl+F", false},
     {"menu_Play", "actionSnapshot", QT_TRANSLATE_NOOP("mainWindow", "Snapshot"), "F11", false},
@@ -106,6 +107,10 @@ const MenuEntry menuEntries[] = {
     {"menuSnapshot_Format", "actionBMP", QT_TRANSLATE_NOOP("mainWindow", "BMP"), "", false},
     {"menuSnapshot_Format", "actionJPG", QT_TRANSLATE_NOOP("mainWindow", "JPG"), "", false},
     {"menuSnapshot_Format", "actionGIF", QT_TRANSLATE_NOOP("mainWindow", "GIF"), "", true},
+    {"menu_Play", "menuVolume", QT_TRANSLATE_NOOP("mainWindow", "Volume"), "", false},
+    {"menuVolume", "actionUp", QT_TRANSLATE_NOOP("mainWindow", "Up"), "", false},
+    {"menuVolume", "actionDown", QT_TRANSLATE_NOOP("mainWindow", "Down"), "", false},
+    {"menuVolume", "actionMute", QT_TRANSLATE_NOOP("mainWindow", "Mute"), "", false},
     {"menu_Play", "actionFull_Screen", QT_TRANSLATE_NOOP("mainWindow", "Full Screen"), "Alt+Return", false},
     {"", "menu_Clip", QT_TRANSLATE_NOOP("mainWindow", "&Clip"), "", false},
     {"menu_Clip", "actionTrim", QT_TRANSLATE_NOOP("mainWindow", "Trim..."), "Ctrl+T", false},
@@ -508,6 +513,7 @@ CMainWnd::CMainWnd(QWidget *parent)
     ready = true;
 
     player = FFPlayer::instance();
+    setUpPreview();
     titleLabel->setText(WindowTitleText());
     setWindowTitle(WindowTitleText());
 
@@ -530,6 +536,11 @@ CMainWnd::CMainWnd(QWidget *parent)
 
 CMainWnd::~CMainWnd()
 {
+    // The player outlives the window: it must not keep the media locked.
+    disconnect(player, nullptr, this, nullptr);
+    player->stop();
+    if (mediaLocked)
+        UnlockMedia();
     // Unless a newer window took them over.
     if (TaskTreeOps::instance().taskList() == taskList.get()) {
         Logical::MediaImageReader::instance()->setTaskList(nullptr);
@@ -844,6 +855,14 @@ CustomItemWidget *CMainWnd::makeRowFace(QTreeWidgetItem *item)
     auto *row = new CustomItemWidget(treeTask, item, taskList.get(), TaskTreeOps::taskIdOf(item), kind,
                                      TaskTreeOps::childIdOf(item));
     row->setProfileMenu(comboProfile->profileMenu());
+    connect(row, &CustomItemWidget::itemChanged, this, &CMainWnd::on_treeTask_itemChanged);
+    connect(row, &CustomItemWidget::pauseTask, this, &CMainWnd::onPauseTask);
+    connect(row, &CustomItemWidget::stopTask, this, &CMainWnd::onStopTask);
+    connect(row, &CustomItemWidget::stopAndContinuePlayMedia, this, &CMainWnd::onStopAndContinuePlay);
+    connect(row, &CustomItemWidget::playMedia, this, [this] {
+        if (!playing)
+            on_playPauseBtn_clicked();
+    });
     if (!rowHeights.contains(kind)) {
         // Measured in the skin's look, which gives the rows' controls their size;
         // a little room below keeps the combos' frames whole.
@@ -958,12 +977,6 @@ void CMainWnd::ResetToEmpty()
     sliderPlayProgress->setTrimEnd(99);
 }
 
-void CMainWnd::stopPreview()
-{
-    player->stop();
-    playing = false;
-}
-
 void CMainWnd::on_treeTask_itemSelectionChanged()
 {
     const TaskTreeOps &ops = TaskTreeOps::instance();
@@ -1003,6 +1016,10 @@ void CMainWnd::on_treeTask_currentItemChanged(QTreeWidgetItem *current, QTreeWid
     const ChildTask *input = TaskTreeOps::instance().inputOf(current);
     btnCrop->setEnabled(input && input->hasVideo);
     btnEffect->setEnabled(input && input->hasVideo);
+    if (input) {
+        ShowInPreview(input->owner, input->owner->indexOfItem(input));
+        showTimeOf(0);
+    }
 }
 
 void CMainWnd::on_treeTask_itemChanged(QTreeWidgetItem *, int column)
@@ -1039,17 +1056,6 @@ void CMainWnd::onPauseTask(int taskId, bool pause)
 void CMainWnd::onStopTask(int taskId)
 {
     converter->stopTask(taskId);
-}
-
-void CMainWnd::on_actionPlay_Pause_triggered()
-{
-    // The preview in the window comes with its own commands.
-}
-
-void CMainWnd::onStopAndContinuePlay(int, int)
-{
-    if (playing)
-        stopPreview();
 }
 
 void CMainWnd::OnConvertProgressChanged(int taskId, double)

@@ -27,6 +27,7 @@ class QMenu;
 class QMenuBar;
 class QProgressBar;
 class QProgressDialog;
+class QTimer;
 class QPushButton;
 class QSplitter;
 class QStackedWidget;
@@ -119,8 +120,29 @@ public slots:
     void onStopTask(int taskId);
     void on_actionAudio_Track_triggered() {}
     void on_actionSubtitle_triggered() {}
-    void on_actionPlay_Pause_triggered();
     void onStopAndContinuePlay(int taskId, int childTaskId);
+
+    // The preview of the current row's input.
+    void on_playPauseBtn_clicked();
+    void on_btnStop_clicked();
+    void on_actionPlay_Pause_triggered();
+    void on_actionStop_triggered();
+    void on_actionPrevious_triggered() { playNeighbour(false); }
+    void on_actionNext_triggered() { playNeighbour(true); }
+    void on_sliderVolume_valueChanged(int value);
+    void on_muteBtn_clicked(bool checked);
+    void on_actionMute_triggered(bool checked) { on_muteBtn_clicked(checked); }
+    void on_actionUp_triggered();
+    void on_actionDown_triggered();
+    void on_snapshotBtn_clicked();
+    void on_actionSnapshot_triggered() { on_snapshotBtn_clicked(); }
+    void on_actionOpen_Snapshot_Folder_triggered() { openSnapshotFolder(); }
+    void on_actionChange_Snapshot_Folder_triggered() { changeSnapshotFolder(); }
+    void openSnapshotFolder();
+    void changeSnapshotFolder();
+    void playModeOrignal();
+    void playModeOutput();
+    void on_playWnd_customContextMenuRequested(const QPoint &point);
 
 private slots:
     void on_maxBtn_clicked();
@@ -144,6 +166,10 @@ private slots:
     void receiveMediaImage(int taskId, int childId);
     void onSkinChanged(int index);
     void UpdateTotalProgress();
+    void playStateChanged(int state);
+    void timeOut();
+    void sliderProgressValueChanged(int value);
+    void sliderProgressHandlePressed(bool pressed) { sliderHeld = pressed; }
 
 protected:
     void closeEvent(QCloseEvent *event) override;
@@ -156,7 +182,23 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    void stopPreview();
+    void stopPreview() { on_btnStop_clicked(); }
+    void setUpPreview();
+    void ShowInPreview(Task *task, int index);
+    void RefreshPreviewEffects();
+    void applyZoom(const ChildTask &input, double fullScreen);
+    void showPlayMode(bool output);
+    void applyTrackChoice(const ChildTask &input);
+    void showTimeOf(double seconds);
+    void playNeighbour(bool below);
+    void stepVolume(int sign);
+    void fillTrackMenu(QMenu *menu, bool audio);
+    void updatePopupPlay();
+    QString snapshotFolder() const;
+    // The edit dialog and the full-screen player take the player over
+    // while they are open.
+    void handOverPlayer();
+    void takeBackPlayer();
     void elideButton(QPushButton *button);
     // The panel is a window of its own, docked at the right edge, where the
     // platform lets a program place windows; a child panel where it doesn't.
@@ -184,6 +226,14 @@ private:
     bool ready = false;
     FFPlayer *player = nullptr;
     bool playing = false;
+    bool mediaLocked = false;
+    QTimer *playTimer = nullptr;
+    bool timerUpdating = false;
+    bool seekPending = false;
+    bool sliderHeld = false;
+    double playRangeStart = 0.0;
+    double playRangeEnd = 0.0;
+    QMenu *popupPlay = nullptr;
     QMenu *addMenu = nullptr;
     QMenu *saveProfileMenu = nullptr;
     QMenu *snapshotMenu = nullptr;

@@ -62,8 +62,10 @@ private:
 MediaImageReader::MediaImageReader(QObject *parent)
     : QObject(parent)
 {
-    // The media lock lets only one grab run anyway; more threads would only wait.
-    QThreadPool::globalInstance()->setMaxThreadCount(1);
+    // The media lock lets only one grab run anyway; more threads would only
+    // wait. Not Qt's shared pool: a grab waiting for the lock that the preview
+    // holds would starve the painter's own work there.
+    pool.setMaxThreadCount(1);
 }
 
 MediaImageReader *MediaImageReader::instance()
@@ -78,7 +80,7 @@ void MediaImageReader::startJob(const QString &path, int pgc, double seconds, in
     auto *job = new MediaImageReaderTask(path, pgc, seconds, taskId, mergeTaskId, &stopping);
     connect(job, &MediaImageReaderTask::sendImage, this, &MediaImageReader::receiveImage,
             Qt::QueuedConnection);
-    QThreadPool::globalInstance()->start(job);
+    pool.start(job);
 }
 
 void MediaImageReader::requestImage(int taskId, double seconds, bool showPlaceholder)
@@ -162,7 +164,7 @@ void MediaImageReader::requestImageAt(int taskId, double position, bool onlyChec
 void MediaImageReader::stop()
 {
     stopping = true;
-    QThreadPool::globalInstance()->waitForDone();
+    pool.waitForDone();
 }
 
 void MediaImageReader::receiveImage(int taskId, int mergeTaskId, const QImage &image)

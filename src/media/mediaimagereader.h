@@ -2,6 +2,7 @@
 
 #include <QImage>
 #include <QObject>
+#include <QThreadPool>
 
 #include <atomic>
 
@@ -22,6 +23,8 @@ public:
     static MediaImageReader *instance();
 
     void setTaskList(TaskList *list) { taskList = list; }
+    // Until the queued grabs have ended; their pictures arrive as events.
+    void waitForDone() { pool.waitForDone(); }
     void setVideoImage(const QImage &image) { videoImage = image; }
     void setAudioImage(const QImage &image) { audioImage = image; }
 
@@ -45,6 +48,7 @@ private:
     void startJob(const QString &path, int pgc, double seconds, int taskId, int mergeTaskId);
 
     std::atomic<bool> stopping{false};
+    QThreadPool pool;
     TaskList *taskList = nullptr;
     QImage videoImage;
     QImage audioImage;

@@ -34,6 +34,7 @@ public:
     void stop();
     // 0.0 to 1.0.
     void setVolume(double level);
+    double volume() const { return m_engine.volume(); }
     double currentTime() const;
     // -1 for none.
     void setAudioTrack(int index);

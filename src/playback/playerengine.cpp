@@ -1074,6 +1074,11 @@ void PlayerEngine::setVolume(double level)
     }
 }
 
+double PlayerEngine::volume() const
+{
+    return d->volume;
+}
+
 double PlayerEngine::clock() const
 {
     std::lock_guard<std::mutex> guard(d->mutex);

@@ -65,6 +65,7 @@ public:
     void seek(double seconds);
     void stop();
     void setVolume(double level);
+    double volume() const;
     // The position that plays now, in seconds from the source's start.
     double clock() const;
     // The n-th sound stream of the source, counted from 0; noTrack for none.

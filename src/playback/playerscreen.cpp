@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QPainter>
+#include <QTransform>
 
 PlayerScreen::PlayerScreen(QWidget *parent)
     : QWidget(parent)
@@ -107,6 +108,12 @@ void PlayerScreen::setOutputSize(int width, int height)
     outputWidth = width;
     outputHeight = height;
     setFrameAspect(width > 0 && height > 0 ? double(width) / height : 0.0);
+}
+
+void PlayerScreen::setRotation(int degrees)
+{
+    rotation = ((degrees % 360) + 360) % 360;
+    update();
 }
 
 void PlayerScreen::setWatermarkVisible(bool visible)
@@ -222,7 +229,9 @@ void PlayerScreen::drawScreen(QPainter &painter)
     }
 
     FFPlayer *player = FFPlayer::instance();
-    const QImage picture = originalOnly ? player->originalImage() : player->outputImage();
+    QImage picture = originalOnly ? player->originalImage() : player->outputImage();
+    if (rotation != 0 && !picture.isNull())
+        picture = picture.transformed(QTransform().rotate(rotation));
     const QRect source(cropLeft, cropTop, picture.width() - cropLeft - cropRight,
                        picture.height() - cropTop - cropBottom);
     if (!picture.isNull() && source.width() > 0 && source.height() > 0 && frame.height() > 0) {

@@ -30,6 +30,8 @@ public:
     // black; else the width-to-height ratio of a black frame in the middle.
     void setFrameAspect(double aspect);
     void setOutputSize(int width, int height);
+    // Degrees clockwise that stand the source's picture upright.
+    void setRotation(int degrees);
     void setWatermarkVisible(bool visible);
     void setWatermarkImage(const QImage &image);
     // In output pixels, edges included.
@@ -74,6 +76,7 @@ private:
     int cropBottom = 0;
     int cropLeft = 0;
     double zoom = 0.0;
+    int rotation = 0;
     double frameAspect = -1.0;
     bool originalOnly = true;
     bool hasAdjust = false;

@@ -163,7 +163,7 @@ QColor meanColour(const QImage &image)
 // Lets queued jobs end and their results arrive.
 void settle()
 {
-    QThreadPool::globalInstance()->waitForDone();
+    MediaImageReader::instance()->waitForDone();
     QCoreApplication::processEvents();
 }
 
@@ -201,7 +201,6 @@ private slots:
         audioPlaceholder.fill(Qt::darkGreen);
         reader()->setVideoImage(placeholder);
         reader()->setAudioImage(audioPlaceholder);
-        QCOMPARE(QThreadPool::globalInstance()->maxThreadCount(), 1);
         connect(reader(), qOverload<int>(&MediaImageReader::imageChanged), this,
                 [this](int) { deliveries.append(QThread::currentThread()); });
     }
@@ -901,7 +900,7 @@ private slots:
         reader()->requestImage(later, 0.5, true);
         reader()->requestImage(queued, 0.5, true);
         reader()->requestImageAt(queued, 0.5, false);
-        QThreadPool::globalInstance()->waitForDone();
+        reader()->waitForDone();
         QTest::qWait(50);
         QCOMPARE(changed.count(), 0);
         QVERIFY(list.byId(later)->thumbnails.isEmpty());
