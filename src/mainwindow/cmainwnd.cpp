@@ -68,6 +68,8 @@ const MenuEntry menuEntries[] = {
     {"menu_File", "actionOpen_DVD", QT_TRANSLATE_NOOP("mainWindow", "Open DVD..."), "Ctrl+O", false},
     {"menu_File", "actionOpen_DVD_Folder", QT_TRANSLATE_NOOP("mainWindow", "Open DVD Folder..."), "Shift+O", false},
     {"menu_File", "actionOpen_IFO_Files", QT_TRANSLATE_NOOP("mainWindow", "Open IFO Files..."), "", false},
+    {"menu_File", "actionOpen_Files", QT_TRANSLATE_NOOP("mainWindow", "Open Files..."), "", false},
+    {"menu_File", "actionOpen_Folder", QT_TRANSLATE_NOOP("mainWindow", "Open Folder..."), "", false},
     {"menu_File", "actionLoad_Project", QT_TRANSLATE_NOOP("mainWindow", "Load Project..."), "Ctrl+L", true},
     {"menu_File", "actionSave_Project", QT_TRANSLATE_NOOP("mainWindow", "Save Project..."), "", true},
     {"menu_File", "actionSave_Project_As", QT_TRANSLATE_NOOP("mainWindow", "Save Project As..."), "", true},
@@ -174,6 +176,36 @@ QString discPathOf(const QString &ifo)
 CustomItemWidget *rowOf(const QTreeWidget *tree, QTreeWidgetItem *item)
 {
     return item ? qobject_cast<CustomItemWidget *>(tree->itemWidget(item, 0)) : nullptr;
+}
+
+// Discs mounted where desktops put removable media (/media/cdrom0,
+// /media/USER/LABEL, /run/media/USER/LABEL): the folders that hold a
+// VIDEO_TS, in either case. KESTROVE_MEDIA_ROOTS (colon-separated) replaces
+// the roots looked in.
+QStringList mountedDiscs()
+{
+    const QString roots = qEnvironmentVariable("KESTROVE_MEDIA_ROOTS", QStringLiteral("/media:/run/media"));
+    const auto holdsDisc = [](const QString &folder) {
+        return !QDir(folder).entryList({QStringLiteral("VIDEO_TS")}, QDir::Dirs).isEmpty();
+    };
+    const auto folders = [](const QString &parent) {
+        QStringList paths;
+        for (const QFileInfo &entry : QDir(parent).entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name))
+            paths << entry.filePath();
+        return paths;
+    };
+    QStringList discs;
+    for (const QString &root : roots.split(QLatin1Char(':'), Qt::SkipEmptyParts))
+        for (const QString &mount : folders(root)) {
+            if (holdsDisc(mount)) {
+                discs << mount;
+                continue;
+            }
+            for (const QString &inner : folders(mount))
+                if (holdsDisc(inner))
+                    discs << inner;
+        }
+    return discs;
 }
 
 } // namespace
@@ -495,6 +527,8 @@ CMainWnd::CMainWnd(QWidget *parent)
     btnSaveProfile->setMenu(saveProfileMenu);
     connect(btnAddFile, &QToolButton::clicked, action(QStringLiteral("actionOpen_DVD")),
             &QAction::trigger);
+    connect(action(QStringLiteral("actionOpen_Files")), &QAction::triggered, this, &CMainWnd::addFile);
+    connect(action(QStringLiteral("actionOpen_Folder")), &QAction::triggered, this, &CMainWnd::addFolder);
 
     settingsWindow = new SettingsWindow(this);
     if (panelIsChild()) {
@@ -604,8 +638,20 @@ QString CMainWnd::currentProfileKey() const
 void CMainWnd::on_actionOpen_DVD_triggered()
 {
     const QString dir = Setting::dvdDir();
-    QString folder = QFileDialog::getExistingDirectory(this, tr("Please select a DVD drive or a DVD folder."),
-                                                       dir, QFileDialog::ShowDirsOnly);
+    const QStringList discs = mountedDiscs();
+    const bool firstTime = settingString(QStringLiteral("DVDDir")).isEmpty();
+    QFileDialog dialog(this, tr("Please select a DVD drive or a DVD folder."),
+                       firstTime && discs.size() == 1 ? discs.first() : dir);
+    dialog.setFileMode(QFileDialog::Directory);
+    // A native dialog would leave the discs out of its side bar.
+    dialog.setOptions(QFileDialog::ShowDirsOnly | QFileDialog::DontUseNativeDialog);
+    QList<QUrl> places = dialog.sidebarUrls();
+    for (const QString &disc : discs)
+        places << QUrl::fromLocalFile(disc);
+    dialog.setSidebarUrls(places);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    QString folder = dialog.selectedFiles().value(0);
     if (folder.isEmpty())
         return;
     if (folder != dir)

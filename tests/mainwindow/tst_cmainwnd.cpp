@@ -21,6 +21,8 @@
 #include <QLineEdit>
 #include <QMimeData>
 #include <QMessageBox>
+#include <QProgressDialog>
+#include <QPushButton>
 #include <QScrollBar>
 #include <QStackedWidget>
 #include <QTreeWidget>
@@ -28,6 +30,58 @@
 
 #include <cstdio>
 #include <unistd.h>
+
+namespace {
+
+// Answers the dialogs an import opens, as a user: the first file dialog by
+// `choose` (any later one is closed), each message box by OK, noting what
+// the boxes said.
+struct DialogAnswers
+{
+    std::function<void(QFileDialog *)> choose;
+    QStringList told; // each box's text, its informative text below it
+    QString details;
+    QTimer timer;
+
+    explicit DialogAnswers(std::function<void(QFileDialog *)> chooser = {})
+        : choose(std::move(chooser))
+    {
+        QObject::connect(&timer, &QTimer::timeout, [this] {
+            QWidget *modal = QApplication::activeModalWidget();
+            if (auto *dialog = qobject_cast<QFileDialog *>(modal)) {
+                if (choose)
+                    std::exchange(choose, nullptr)(dialog);
+                else
+                    dialog->reject();
+            } else if (auto *box = qobject_cast<QMessageBox *>(modal)) {
+                told << QStringList{box->text(), box->informativeText()}.join(QLatin1Char('\n')).trimmed();
+                details = box->detailedText();
+                box->accept();
+            }
+        });
+        timer.start(20);
+    }
+    // The names of the files that the batch's message listed.
+    QString failed() const
+    {
+        QStringList names;
+        for (const QString &message : told)
+            for (const QString &line : message.split(QLatin1Char('\n')).mid(1))
+                names << QFileInfo(line).fileName();
+        return names.join(QLatin1Char(' '));
+    }
+};
+
+// Typed into a file dialog's name field, then Return.
+void type(QFileDialog *dialog, const QString &text)
+{
+    auto *name = dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+    QVERIFY(name);
+    name->setText(text);
+    QTest::keyClick(name, Qt::Key_Return);
+}
+
+} // namespace
 
 // The window on a real list: the main fixture disc's titles, a film, a
 // sound file, and a merge of the two files.
@@ -82,6 +136,40 @@ class TestMainWindow : public QObject
         return closed && !asked;
     }
 
+    // As a file manager's drag arrives: entering, then the drop.
+    bool drop(const QList<QUrl> &urls)
+    {
+        QMimeData mime;
+        mime.setUrls(urls);
+        QDragEnterEvent enter(QPoint(400, 300), Qt::CopyAction, &mime, Qt::LeftButton, {});
+        QApplication::sendEvent(window.get(), &enter);
+        if (!enter.isAccepted())
+            return false;
+        QDropEvent drop(QPointF(400, 300), Qt::CopyAction, &mime, Qt::LeftButton, {});
+        QApplication::sendEvent(window.get(), &drop);
+        return true;
+    }
+
+    // The tree's rows: a file's row by the source's name, a disc's row as
+    // its titles' names in brackets.
+    QString rowsShown() const
+    {
+        const TaskTreeOps &ops = TaskTreeOps::instance();
+        QStringList rows;
+        for (int i = 0; i < window->treeTask->topLevelItemCount(); ++i) {
+            QTreeWidgetItem *item = window->treeTask->topLevelItem(i);
+            if (TaskTreeOps::kindOf(item) != RowDisc) {
+                rows << QFileInfo(ops.taskOf(item)->item(0)->sourcePath).fileName();
+                continue;
+            }
+            QStringList titles;
+            for (int t = 0; t < item->childCount(); ++t)
+                titles << QFileInfo(ops.taskOf(item->child(t))->output.fileName).completeBaseName();
+            rows << QLatin1Char('[') + titles.join(QLatin1Char(' ')) + QLatin1Char(']');
+        }
+        return rows.join(QLatin1Char(' '));
+    }
+
 public slots:
     void launcherUpdate(const QDBusMessage &message)
     {
@@ -94,6 +182,8 @@ private slots:
     void initTestCase()
     {
         REQUIRE_MEDIA_FIXTURES(media);
+        // No disc of this machine's is offered.
+        qputenv("KESTROVE_MEDIA_ROOTS", QByteArray());
         disc = loadDisc(fixture(media, "dvd-main"));
         QVERIFY(disc && !disc->titles.empty());
     }
@@ -305,28 +395,182 @@ private slots:
         QVERIFY(readFile(settingsFilePath()).contains(QFile::encodeName(work.path())));
     }
 
-    // Open DVD through the file dialog, as a user types the folder: one disc
-    // row, its titles numbered in one run.
-    void openDvdMakesOneDiscRow()
+    // A disc's road, a folder or IFO files chosen in the dialog: one disc
+    // row, its titles numbered in one run across the IFO files; the
+    // collection stops at the first number missing, and an unreadable IFO
+    // is told and passed over.
+    void discRoads_data()
+    {
+        QTest::addColumn<QString>("road");
+        QTest::addColumn<QStringList>("files"); // made in a temporary folder: "name=fixture" or "name=" for junk
+        QTest::addColumn<QString>("typed");     // %1 the temporary folder
+        QTest::addColumn<QString>("rows");
+        QTest::addColumn<QString>("told");
+        const QString main = QStringLiteral("VIDEO_TS/VTS_01_0.IFO=dvd-main/VIDEO_TS/VTS_01_0.IFO");
+        const QString mainVob = QStringLiteral("VIDEO_TS/VTS_01_1.VOB=dvd-main/VIDEO_TS/VTS_01_1.VOB");
+        const QString ntsc3 = QStringLiteral("VIDEO_TS/VTS_03_0.IFO=dvd-ntsc/VIDEO_TS/VTS_01_0.IFO");
+        const QString ntsc3Vob = QStringLiteral("VIDEO_TS/VTS_03_1.VOB=dvd-ntsc/VIDEO_TS/VTS_01_1.VOB");
+        const QString three = QStringLiteral("[Title_1 Title_2 Title_3]");
+        QTest::newRow("a whole disc") << "actionOpen_DVD" << QStringList{main, mainVob} << "%1" << three << "";
+        QTest::newRow("the VIDEO_TS folder") << "actionOpen_DVD" << QStringList{main, mainVob} << "%1/VIDEO_TS"
+                                             << three << "";
+        QTest::newRow("a gap in the numbers") << "actionOpen_DVD" << QStringList{main, mainVob, ntsc3, ntsc3Vob}
+                                              << "%1" << three << "";
+        QTest::newRow("a mount in lower case")
+            << "actionOpen_DVD"
+            << QStringList{QStringLiteral("video_ts/vts_01_0.ifo=dvd-main/VIDEO_TS/VTS_01_0.IFO"),
+                           QStringLiteral("video_ts/vts_01_1.vob=dvd-main/VIDEO_TS/VTS_01_1.VOB")}
+            << "%1" << three << "";
+        QTest::newRow("no titleset") << "actionOpen_DVD" << QStringList{QStringLiteral("VIDEO_TS/VIDEO_TS.IFO=dvd-main/VIDEO_TS/VIDEO_TS.IFO")}
+                                     << "%1" << "[]" << "";
+        QTest::newRow("an invalid IFO between two good ones")
+            << "actionOpen_IFO_Files"
+            << QStringList{main, mainVob, QStringLiteral("VIDEO_TS/VTS_02_0.IFO="), ntsc3, ntsc3Vob}
+            << "\"%1/VIDEO_TS/VTS_01_0.IFO\" \"%1/VIDEO_TS/VTS_02_0.IFO\" \"%1/VIDEO_TS/VTS_03_0.IFO\""
+            << "[Title_1 Title_2 Title_3 Title_4]"
+            << "The IFO File is invalid.\n%1/VIDEO_TS/VTS_02_0.IFO";
+    }
+    void discRoads()
+    {
+        QFETCH(QString, road);
+        QFETCH(QStringList, files);
+        QFETCH(QString, typed);
+        QFETCH(QString, told);
+        window->ResetToEmpty();
+        QTemporaryDir dir;
+        for (const QString &file : files) {
+            const QString target = dir.filePath(file.section(QLatin1Char('='), 0, 0));
+            const QString source = file.section(QLatin1Char('='), 1);
+            QVERIFY(QDir().mkpath(QFileInfo(target).path()));
+            QVERIFY(source.isEmpty() ? !writeFile(target, randomBytes(6144)).isEmpty()
+                                     : QFile::copy(QDir(media).filePath(source), target));
+        }
+        DialogAnswers answers([&](QFileDialog *dialog) { type(dialog, typed.arg(dir.path())); });
+        window->action(road)->trigger();
+        QTEST(rowsShown(), "rows");
+        QCOMPARE(answers.told.join(QLatin1Char('|')), told.replace(QStringLiteral("%1"), dir.path()));
+    }
+
+    // A file's road, by drop or by the File menu: a row per file, the first
+    // one current. A dropped disc folder is walked like any other folder.
+    void fileRoads_data()
+    {
+        QTest::addColumn<QString>("road");
+        QTest::addColumn<QString>("rows");
+        QTest::addColumn<QString>("failed");
+        const QString discFiles = QStringLiteral("VIDEO_TS.BUP VIDEO_TS.IFO VTS_01_0.BUP VTS_01_0.IFO");
+        QTest::newRow("drop") << "drop" << "clip.mp4 tone.flac VTS_01_1.VOB" << discFiles;
+        QTest::newRow("Open Folder") << "actionOpen_Folder" << "clip.mp4 VTS_01_1.VOB tone.flac" << discFiles;
+        QTest::newRow("Open Files") << "actionOpen_Files" << "clip.mp4 tone.flac" << "";
+    }
+    void fileRoads()
+    {
+        QFETCH(QString, road);
+        window->ResetToEmpty();
+        QTemporaryDir dir;
+        for (const char *name : {"clip.mp4", "tone.flac"})
+            QVERIFY(QFile::copy(fixture(media, name), dir.filePath(QLatin1String(name))));
+        QVERIFY(!copyDisc(fixture(media, "dvd-main/VIDEO_TS"), dir.filePath(QStringLiteral("disc"))).isEmpty());
+        DialogAnswers answers([&](QFileDialog *dialog) {
+            dialog->setDirectory(dir.path());
+            type(dialog, road == QLatin1String("actionOpen_Files") ? QStringLiteral("\"clip.mp4\" \"tone.flac\"")
+                                                                   : dir.path());
+        });
+        if (road == QLatin1String("drop"))
+            QVERIFY(drop({QUrl::fromLocalFile(dir.filePath(QStringLiteral("clip.mp4"))),
+                          QUrl::fromLocalFile(dir.filePath(QStringLiteral("tone.flac"))),
+                          QUrl::fromLocalFile(dir.filePath(QStringLiteral("disc")))}));
+        else
+            window->action(road)->trigger();
+        QTEST(rowsShown(), "rows");
+        QTEST(answers.failed(), "failed");
+        QCOMPARE(window->treeTask->currentItem(), window->treeTask->topLevelItem(0));
+    }
+
+    // Cancel in the loading dialog once a row stands: the batch ends, the
+    // rows made stay, and what failed until then is still told.
+    void cancelledBatchKeepsItsRows()
     {
         window->ResetToEmpty();
-        QTimer::singleShot(300, this, [this] {
-            auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
-            auto *name = dialog ? dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit")) : nullptr;
-            if (name) {
-                name->setText(fixture(media, "dvd-main"));
-                QTest::keyClick(name, Qt::Key_Return);
+        QTemporaryDir dir;
+        QList<QUrl> urls{QUrl::fromLocalFile(writeFile(dir.filePath(QStringLiteral("bad.mkv")), "not media"))};
+        for (int i = 0; i < 6; ++i) {
+            const QString copy = dir.filePath(QStringLiteral("clip%1.mp4").arg(i));
+            QVERIFY(QFile::copy(fixture(media, "clip.mp4"), copy));
+            urls << QUrl::fromLocalFile(copy);
+        }
+        bool cancelled = false;
+        QTimer user;
+        connect(&user, &QTimer::timeout, this, [&] {
+            auto *loading = window->findChild<QProgressDialog *>();
+            if (!cancelled && loading && window->treeTask->topLevelItemCount() > 0) {
+                loading->findChild<QPushButton *>()->click();
+                cancelled = true;
             }
         });
+        user.start(0);
+        DialogAnswers answers;
+        QVERIFY(drop(urls));
+        QVERIFY(cancelled);
+        const int rows = window->treeTask->topLevelItemCount();
+        QVERIFY2(rows >= 1 && rows < 6, qPrintable(rowsShown()));
+        QCOMPARE(window->tasks()->count(), rows);
+        QCOMPARE(answers.failed(), QStringLiteral("bad.mkv"));
+    }
+
+    // Open DVD offers the discs mounted where desktops mount them, and starts
+    // in the only one the first time.
+    void openDvdOffersMountedDiscs_data()
+    {
+        QTest::addColumn<QStringList>("folders"); // below the mount root; a VIDEO_TS gets the main disc
+        QTest::addColumn<QString>("lastFolder");
+        QTest::addColumn<QString>("offered");
+        QTest::addColumn<QString>("startsIn"); // below the root, or absolute
+        QTest::newRow("one disc") << QStringList{QStringLiteral("cdrom0/VIDEO_TS"), QStringLiteral("usb/Photos")}
+                                  << "" << "cdrom0" << "cdrom0";
+        QTest::newRow("one disc, a folder used before")
+            << QStringList{QStringLiteral("cdrom0/VIDEO_TS")} << "/tmp" << "cdrom0" << "/tmp";
+        QTest::newRow("two discs, one a user's mount in lower case")
+            << QStringList{QStringLiteral("cdrom0/VIDEO_TS"), QStringLiteral("me/FILM/video_ts")} << ""
+            << "cdrom0 me/FILM" << "/";
+        QTest::newRow("no disc") << QStringList{QStringLiteral("cdrom0")} << "" << "" << "/";
+    }
+    void openDvdOffersMountedDiscs()
+    {
+        QFETCH(QStringList, folders);
+        QFETCH(QString, lastFolder);
+        window->ResetToEmpty();
+        QTemporaryDir root;
+        for (const QString &folder : folders) {
+            QVERIFY(QDir().mkpath(root.filePath(folder)));
+            if (folder.endsWith(QLatin1String("/VIDEO_TS")))
+                QVERIFY(!copyDisc(fixture(media, "dvd-main/VIDEO_TS"), QFileInfo(root.filePath(folder)).path())
+                             .isEmpty());
+        }
+        qputenv("KESTROVE_MEDIA_ROOTS", QFile::encodeName(QStringLiteral("/nonexistent:") + root.path()));
+        if (lastFolder.isEmpty()) // never chosen: not in the store at all
+            QSettings(QSettings::UserScope, QStringLiteral("Tessarine"), QStringLiteral("Kestrove"))
+                .remove(QStringLiteral("Setting/DVDDir"));
+        else
+            setSettingString(QStringLiteral("DVDDir"), lastFolder);
+        QStringList offered;
+        QString startsIn;
+        // The first disc offered is the one chosen.
+        DialogAnswers answers([&](QFileDialog *dialog) {
+            for (const QUrl &place : dialog->sidebarUrls())
+                if (place.toLocalFile().startsWith(root.path() + QLatin1Char('/')))
+                    offered << place.toLocalFile().mid(root.path().size() + 1);
+            startsIn = dialog->directory().absolutePath().remove(root.path() + QLatin1Char('/'));
+            if (offered.isEmpty())
+                dialog->reject();
+            else
+                type(dialog, root.filePath(offered.first()));
+        });
         window->action(QStringLiteral("actionOpen_DVD"))->trigger();
-        QCOMPARE(window->treeTask->topLevelItemCount(), 1);
-        QTreeWidgetItem *disc = window->treeTask->topLevelItem(0);
-        QCOMPARE(TaskTreeOps::kindOf(disc), RowDisc);
-        QCOMPARE(disc->childCount(), int(this->disc->titles.size()));
-        QStringList names;
-        for (int i = 0; i < disc->childCount(); ++i)
-            names << QFileInfo(TaskTreeOps::instance().taskOf(disc->child(i))->output.fileName).completeBaseName();
-        QCOMPARE(names.last(), QStringLiteral("Title_%1").arg(disc->childCount()));
+        qputenv("KESTROVE_MEDIA_ROOTS", QByteArray());
+        QTEST(offered.join(QLatin1Char(' ')), "offered");
+        QTEST(startsIn, "startsIn");
+        QCOMPARE(rowsShown(), offered.isEmpty() ? QString() : QStringLiteral("[Title_1 Title_2 Title_3]"));
     }
 
     // Eleven bad files and a good one dropped: the good one's row, and a
@@ -339,26 +583,13 @@ private slots:
         for (int i = 0; i < 11; ++i)
             urls << QUrl::fromLocalFile(writeFile(junk.filePath(QStringLiteral("bad%1.mkv").arg(i)), "not media"));
         urls << QUrl::fromLocalFile(fixture(media, "clip.mp4"));
-        QMimeData mime;
-        mime.setUrls(urls);
-        QString informative, details;
-        QTimer::singleShot(500, this, [&] {
-            if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
-                informative = box->informativeText();
-                details = box->detailedText();
-                box->accept();
-            }
-        });
-        // As a file manager's drag arrives: entering, then the drop.
-        QDragEnterEvent enter(QPoint(400, 300), Qt::CopyAction, &mime, Qt::LeftButton, {});
-        QApplication::sendEvent(window.get(), &enter);
-        QVERIFY(enter.isAccepted());
-        QDropEvent drop(QPointF(400, 300), Qt::CopyAction, &mime, Qt::LeftButton, {});
-        QApplication::sendEvent(window.get(), &drop);
+        DialogAnswers answers;
+        QVERIFY(drop(urls));
         QCOMPARE(window->treeTask->topLevelItemCount(), 1);
-        QCOMPARE(informative.count(QLatin1Char('\n')), 10);
-        QVERIFY(informative.endsWith(QLatin1String("...")));
-        QCOMPARE(details.split(QLatin1Char('\n')).size(), 11);
+        QCOMPARE(answers.told.size(), 1);
+        QCOMPARE(answers.told.first().count(QLatin1Char('\n')), 11); // the text, ten paths, "..."
+        QVERIFY(answers.told.first().endsWith(QLatin1String("\n...")));
+        QCOMPARE(answers.details.split(QLatin1Char('\n')).size(), 11);
     }
 
     // The dock hears the batch's progress on the (private) session bus.
