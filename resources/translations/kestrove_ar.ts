@@ -1833,6 +1833,14 @@ Some of the unfinished files cannot be played properly.</source>
         <source>Start</source>
         <translation>بدء</translation>
     </message>
+    <message>
+        <source>Open Files...</source>
+        <translation>فتح ملفات...</translation>
+    </message>
+    <message>
+        <source>Open Folder...</source>
+        <translation>فتح مجلد...</translation>
+    </message>
 </context>
 <context>
     <name>saveAsDlg</name>

@@ -1833,6 +1833,14 @@ Některé z nedokončených souborů nepůjde správně přehrát.</translation>
         <source>Start</source>
         <translation>Spustit</translation>
     </message>
+    <message>
+        <source>Open Files...</source>
+        <translation>Otevřít soubory...</translation>
+    </message>
+    <message>
+        <source>Open Folder...</source>
+        <translation>Otevřít složku...</translation>
+    </message>
 </context>
 <context>
     <name>saveAsDlg</name>

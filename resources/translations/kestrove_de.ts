@@ -1833,6 +1833,14 @@ Einige der unfertigen Dateien lassen sich nicht richtig abspielen.</translation>
         <source>Start</source>
         <translation>Start</translation>
     </message>
+    <message>
+        <source>Open Files...</source>
+        <translation>Dateien öffnen...</translation>
+    </message>
+    <message>
+        <source>Open Folder...</source>
+        <translation>Ordner öffnen...</translation>
+    </message>
 </context>
 <context>
     <name>saveAsDlg</name>

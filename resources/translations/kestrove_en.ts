@@ -1831,6 +1831,14 @@ Some of the unfinished files cannot be played properly.</source>
         <source>Start</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Open Files...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open Folder...</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>saveAsDlg</name>

@@ -1833,6 +1833,14 @@ Algunos de los archivos sin terminar no se podrán reproducir correctamente.</tr
         <source>Start</source>
         <translation>Iniciar</translation>
     </message>
+    <message>
+        <source>Open Files...</source>
+        <translation>Abrir archivos...</translation>
+    </message>
+    <message>
+        <source>Open Folder...</source>
+        <translation>Abrir carpeta...</translation>
+    </message>
 </context>
 <context>
     <name>saveAsDlg</name>

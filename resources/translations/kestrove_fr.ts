@@ -1833,6 +1833,14 @@ Certains fichiers inachevés ne pourront pas être lus correctement.</translatio
         <source>Start</source>
         <translation>Démarrer</translation>
     </message>
+    <message>
+        <source>Open Files...</source>
+        <translation>Ouvrir des fichiers...</translation>
+    </message>
+    <message>
+        <source>Open Folder...</source>
+        <translation>Ouvrir un dossier...</translation>
+    </message>
 </context>
 <context>
     <name>saveAsDlg</name>

@@ -1833,6 +1833,14 @@ Alcuni dei file non completati non potranno essere riprodotti correttamente.</tr
         <source>Start</source>
         <translation>Avvia</translation>
     </message>
+    <message>
+        <source>Open Files...</source>
+        <translation>Apri file...</translation>
+    </message>
+    <message>
+        <source>Open Folder...</source>
+        <translation>Apri cartella...</translation>
+    </message>
 </context>
 <context>
     <name>saveAsDlg</name>

@@ -1833,6 +1833,14 @@ Some of the unfinished files cannot be played properly.</source>
         <source>Start</source>
         <translation>開始</translation>
     </message>
+    <message>
+        <source>Open Files...</source>
+        <translation>ファイルを開く...</translation>
+    </message>
+    <message>
+        <source>Open Folder...</source>
+        <translation>フォルダーを開く...</translation>
+    </message>
 </context>
 <context>
     <name>saveAsDlg</name>

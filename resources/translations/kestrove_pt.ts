@@ -1833,6 +1833,14 @@ Alguns dos arquivos inacabados não poderão ser reproduzidos corretamente.</tra
         <source>Start</source>
         <translation>Iniciar</translation>
     </message>
+    <message>
+        <source>Open Files...</source>
+        <translation>Abrir ficheiros...</translation>
+    </message>
+    <message>
+        <source>Open Folder...</source>
+        <translation>Abrir pasta...</translation>
+    </message>
 </context>
 <context>
     <name>saveAsDlg</name>

@@ -1833,6 +1833,14 @@ Some of the unfinished files cannot be played properly.</source>
         <source>Start</source>
         <translation>开始</translation>
     </message>
+    <message>
+        <source>Open Files...</source>
+        <translation>打开文件...</translation>
+    </message>
+    <message>
+        <source>Open Folder...</source>
+        <translation>打开文件夹...</translation>
+    </message>
 </context>
 <context>
     <name>saveAsDlg</name>

@@ -1833,6 +1833,14 @@ Some of the unfinished files cannot be played properly.</source>
         <source>Start</source>
         <translation>開始</translation>
     </message>
+    <message>
+        <source>Open Files...</source>
+        <translation>開啟檔案...</translation>
+    </message>
+    <message>
+        <source>Open Folder...</source>
+        <translation>開啟資料夾...</translation>
+    </message>
 </context>
 <context>
     <name>saveAsDlg</name>
