@@ -117,6 +117,34 @@
         <source>Select a Folder</source>
         <translation>اختر مجلدًا</translation>
     </message>
+    <message>
+        <source>Audio Tracks</source>
+        <translation>المسارات الصوتية</translation>
+    </message>
+    <message>
+        <source>Subtitle</source>
+        <translation>الترجمة</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>بلا</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>تشغيل</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>إيقاف مؤقت</translation>
+    </message>
+    <message>
+        <source>Source file %1 not found!</source>
+        <translation>لم يُعثر على الملف المصدر %1!</translation>
+    </message>
+    <message>
+        <source>Can not save the image.</source>
+        <translation>تعذّر حفظ الصورة.</translation>
+    </message>
 </context>
 <context>
     <name>CPlayPauseButton</name>
@@ -1840,6 +1868,14 @@ Some of the unfinished files cannot be played properly.</source>
     <message>
         <source>Open Folder...</source>
         <translation>فتح مجلد...</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>رفع</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>خفض</translation>
     </message>
 </context>
 <context>

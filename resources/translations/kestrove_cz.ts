@@ -117,6 +117,34 @@
         <source>Select a Folder</source>
         <translation>Vyberte složku</translation>
     </message>
+    <message>
+        <source>Audio Tracks</source>
+        <translation>Zvukové stopy</translation>
+    </message>
+    <message>
+        <source>Subtitle</source>
+        <translation>Titulky</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Žádné</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Přehrát</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pozastavit</translation>
+    </message>
+    <message>
+        <source>Source file %1 not found!</source>
+        <translation>Zdrojový soubor %1 nebyl nalezen!</translation>
+    </message>
+    <message>
+        <source>Can not save the image.</source>
+        <translation>Obrázek nelze uložit.</translation>
+    </message>
 </context>
 <context>
     <name>CPlayPauseButton</name>
@@ -1840,6 +1868,14 @@ Některé z nedokončených souborů nepůjde správně přehrát.</translation>
     <message>
         <source>Open Folder...</source>
         <translation>Otevřít složku...</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Zesílit</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Zeslabit</translation>
     </message>
 </context>
 <context>

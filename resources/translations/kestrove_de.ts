@@ -117,6 +117,34 @@
         <source>Select a Folder</source>
         <translation>Ordner auswählen</translation>
     </message>
+    <message>
+        <source>Audio Tracks</source>
+        <translation>Tonspuren</translation>
+    </message>
+    <message>
+        <source>Subtitle</source>
+        <translation>Untertitel</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Wiedergabe</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Source file %1 not found!</source>
+        <translation>Quelldatei %1 nicht gefunden!</translation>
+    </message>
+    <message>
+        <source>Can not save the image.</source>
+        <translation>Das Bild kann nicht gespeichert werden.</translation>
+    </message>
 </context>
 <context>
     <name>CPlayPauseButton</name>
@@ -1840,6 +1868,14 @@ Einige der unfertigen Dateien lassen sich nicht richtig abspielen.</translation>
     <message>
         <source>Open Folder...</source>
         <translation>Ordner öffnen...</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Lauter</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Leiser</translation>
     </message>
 </context>
 <context>

@@ -116,6 +116,34 @@
         <source>Select a Folder</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Audio Tracks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Subtitle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Source file %1 not found!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Can not save the image.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>CPlayPauseButton</name>
@@ -1837,6 +1865,14 @@ Some of the unfinished files cannot be played properly.</source>
     </message>
     <message>
         <source>Open Folder...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Down</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

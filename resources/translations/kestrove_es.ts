@@ -117,6 +117,34 @@
         <source>Select a Folder</source>
         <translation>Seleccione una carpeta</translation>
     </message>
+    <message>
+        <source>Audio Tracks</source>
+        <translation>Pistas de audio</translation>
+    </message>
+    <message>
+        <source>Subtitle</source>
+        <translation>Subtítulos</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Ninguno</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Reproducir</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pausa</translation>
+    </message>
+    <message>
+        <source>Source file %1 not found!</source>
+        <translation>¡No se encontró el archivo de origen %1!</translation>
+    </message>
+    <message>
+        <source>Can not save the image.</source>
+        <translation>No se puede guardar la imagen.</translation>
+    </message>
 </context>
 <context>
     <name>CPlayPauseButton</name>
@@ -1840,6 +1868,14 @@ Algunos de los archivos sin terminar no se podrán reproducir correctamente.</tr
     <message>
         <source>Open Folder...</source>
         <translation>Abrir carpeta...</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Subir</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Bajar</translation>
     </message>
 </context>
 <context>

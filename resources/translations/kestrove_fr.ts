@@ -117,6 +117,34 @@
         <source>Select a Folder</source>
         <translation>Choisir un dossier</translation>
     </message>
+    <message>
+        <source>Audio Tracks</source>
+        <translation>Pistes audio</translation>
+    </message>
+    <message>
+        <source>Subtitle</source>
+        <translation>Sous-titres</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Aucun</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Lecture</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Source file %1 not found!</source>
+        <translation>Fichier source %1 introuvable !</translation>
+    </message>
+    <message>
+        <source>Can not save the image.</source>
+        <translation>Impossible d&apos;enregistrer l&apos;image.</translation>
+    </message>
 </context>
 <context>
     <name>CPlayPauseButton</name>
@@ -1840,6 +1868,14 @@ Certains fichiers inachevés ne pourront pas être lus correctement.</translatio
     <message>
         <source>Open Folder...</source>
         <translation>Ouvrir un dossier...</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Plus fort</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Moins fort</translation>
     </message>
 </context>
 <context>

@@ -117,6 +117,34 @@
         <source>Select a Folder</source>
         <translation>Seleziona una cartella</translation>
     </message>
+    <message>
+        <source>Audio Tracks</source>
+        <translation>Tracce audio</translation>
+    </message>
+    <message>
+        <source>Subtitle</source>
+        <translation>Sottotitoli</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Nessuno</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Riproduci</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pausa</translation>
+    </message>
+    <message>
+        <source>Source file %1 not found!</source>
+        <translation>File sorgente %1 non trovato!</translation>
+    </message>
+    <message>
+        <source>Can not save the image.</source>
+        <translation>Impossibile salvare l&apos;immagine.</translation>
+    </message>
 </context>
 <context>
     <name>CPlayPauseButton</name>
@@ -1840,6 +1868,14 @@ Alcuni dei file non completati non potranno essere riprodotti correttamente.</tr
     <message>
         <source>Open Folder...</source>
         <translation>Apri cartella...</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Alza</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Abbassa</translation>
     </message>
 </context>
 <context>

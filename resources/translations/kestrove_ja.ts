@@ -117,6 +117,34 @@
         <source>Select a Folder</source>
         <translation>フォルダーの選択</translation>
     </message>
+    <message>
+        <source>Audio Tracks</source>
+        <translation>音声トラック</translation>
+    </message>
+    <message>
+        <source>Subtitle</source>
+        <translation>字幕</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>再生</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>一時停止</translation>
+    </message>
+    <message>
+        <source>Source file %1 not found!</source>
+        <translation>ソースファイル %1 が見つかりません。</translation>
+    </message>
+    <message>
+        <source>Can not save the image.</source>
+        <translation>画像を保存できません。</translation>
+    </message>
 </context>
 <context>
     <name>CPlayPauseButton</name>
@@ -1840,6 +1868,14 @@ Some of the unfinished files cannot be played properly.</source>
     <message>
         <source>Open Folder...</source>
         <translation>フォルダーを開く...</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>上げる</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>下げる</translation>
     </message>
 </context>
 <context>

@@ -117,6 +117,34 @@
         <source>Select a Folder</source>
         <translation>Seleccione uma pasta</translation>
     </message>
+    <message>
+        <source>Audio Tracks</source>
+        <translation>Faixas de áudio</translation>
+    </message>
+    <message>
+        <source>Subtitle</source>
+        <translation>Legendas</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Nenhum</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Reproduzir</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pausar</translation>
+    </message>
+    <message>
+        <source>Source file %1 not found!</source>
+        <translation>Arquivo de origem %1 não encontrado!</translation>
+    </message>
+    <message>
+        <source>Can not save the image.</source>
+        <translation>Não foi possível salvar a imagem.</translation>
+    </message>
 </context>
 <context>
     <name>CPlayPauseButton</name>
@@ -1840,6 +1868,14 @@ Alguns dos arquivos inacabados não poderão ser reproduzidos corretamente.</tra
     <message>
         <source>Open Folder...</source>
         <translation>Abrir pasta...</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Aumentar</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Diminuir</translation>
     </message>
 </context>
 <context>

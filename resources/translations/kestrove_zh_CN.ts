@@ -117,6 +117,34 @@
         <source>Select a Folder</source>
         <translation>选择文件夹</translation>
     </message>
+    <message>
+        <source>Audio Tracks</source>
+        <translation>音轨</translation>
+    </message>
+    <message>
+        <source>Subtitle</source>
+        <translation>字幕</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>播放</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>暂停</translation>
+    </message>
+    <message>
+        <source>Source file %1 not found!</source>
+        <translation>找不到源文件 %1！</translation>
+    </message>
+    <message>
+        <source>Can not save the image.</source>
+        <translation>无法保存图像。</translation>
+    </message>
 </context>
 <context>
     <name>CPlayPauseButton</name>
@@ -1840,6 +1868,14 @@ Some of the unfinished files cannot be played properly.</source>
     <message>
         <source>Open Folder...</source>
         <translation>打开文件夹...</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>增大</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>减小</translation>
     </message>
 </context>
 <context>

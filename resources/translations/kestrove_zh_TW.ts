@@ -117,6 +117,34 @@
         <source>Select a Folder</source>
         <translation>選擇資料夾</translation>
     </message>
+    <message>
+        <source>Audio Tracks</source>
+        <translation>音軌</translation>
+    </message>
+    <message>
+        <source>Subtitle</source>
+        <translation>字幕</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>無</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>播放</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>暫停</translation>
+    </message>
+    <message>
+        <source>Source file %1 not found!</source>
+        <translation>找不到來源檔案 %1！</translation>
+    </message>
+    <message>
+        <source>Can not save the image.</source>
+        <translation>無法儲存影像。</translation>
+    </message>
 </context>
 <context>
     <name>CPlayPauseButton</name>
@@ -1840,6 +1868,14 @@ Some of the unfinished files cannot be played properly.</source>
     <message>
         <source>Open Folder...</source>
         <translation>開啟資料夾...</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>增大</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>減小</translation>
     </message>
 </context>
 <context>
