@@ -145,6 +145,26 @@
         <source>Can not save the image.</source>
         <translation>تعذّر حفظ الصورة.</translation>
     </message>
+    <message>
+        <source>Convert Checked Item(s)</source>
+        <translation>تحويل العناصر المعلّمة</translation>
+    </message>
+    <message>
+        <source>Stop Checked Item(s)</source>
+        <translation>إيقاف العناصر المعلّمة</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>إيقاف</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>بدء</translation>
+    </message>
+    <message>
+        <source>Elapsed Time: %1 Remaining Time: %2 Progress: </source>
+        <translation>الوقت المنقضي: %1 الوقت المتبقي: %2 التقدم: </translation>
+    </message>
 </context>
 <context>
     <name>CPlayPauseButton</name>
@@ -1876,6 +1896,30 @@ Some of the unfinished files cannot be played properly.</source>
     <message>
         <source>Down</source>
         <translation>خفض</translation>
+    </message>
+    <message>
+        <source>Convert Selected Item(s)</source>
+        <translation>تحويل العناصر المحددة</translation>
+    </message>
+    <message>
+        <source>Pause Selected Item(s)</source>
+        <translation>إيقاف العناصر المحددة مؤقتًا</translation>
+    </message>
+    <message>
+        <source>Stop Selected Item(s)</source>
+        <translation>إيقاف العناصر المحددة</translation>
+    </message>
+    <message>
+        <source>Convert All Item(s)</source>
+        <translation>تحويل كل العناصر</translation>
+    </message>
+    <message>
+        <source>Pause All Item(s)</source>
+        <translation>إيقاف كل العناصر مؤقتًا</translation>
+    </message>
+    <message>
+        <source>Stop All Item(s)</source>
+        <translation>إيقاف كل العناصر</translation>
     </message>
 </context>
 <context>

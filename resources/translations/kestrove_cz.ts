@@ -145,6 +145,26 @@
         <source>Can not save the image.</source>
         <translation>Obrázek nelze uložit.</translation>
     </message>
+    <message>
+        <source>Convert Checked Item(s)</source>
+        <translation>Převést zaškrtnuté položky</translation>
+    </message>
+    <message>
+        <source>Stop Checked Item(s)</source>
+        <translation>Zastavit zaškrtnuté položky</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Zastavit</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Spustit</translation>
+    </message>
+    <message>
+        <source>Elapsed Time: %1 Remaining Time: %2 Progress: </source>
+        <translation>Uplynulý čas: %1 Zbývající čas: %2 Průběh: </translation>
+    </message>
 </context>
 <context>
     <name>CPlayPauseButton</name>
@@ -1876,6 +1896,30 @@ Některé z nedokončených souborů nepůjde správně přehrát.</translation>
     <message>
         <source>Down</source>
         <translation>Zeslabit</translation>
+    </message>
+    <message>
+        <source>Convert Selected Item(s)</source>
+        <translation>Převést vybrané položky</translation>
+    </message>
+    <message>
+        <source>Pause Selected Item(s)</source>
+        <translation>Pozastavit vybrané položky</translation>
+    </message>
+    <message>
+        <source>Stop Selected Item(s)</source>
+        <translation>Zastavit vybrané položky</translation>
+    </message>
+    <message>
+        <source>Convert All Item(s)</source>
+        <translation>Převést všechny položky</translation>
+    </message>
+    <message>
+        <source>Pause All Item(s)</source>
+        <translation>Pozastavit všechny položky</translation>
+    </message>
+    <message>
+        <source>Stop All Item(s)</source>
+        <translation>Zastavit všechny položky</translation>
     </message>
 </context>
 <context>

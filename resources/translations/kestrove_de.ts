@@ -145,6 +145,26 @@
         <source>Can not save the image.</source>
         <translation>Das Bild kann nicht gespeichert werden.</translation>
     </message>
+    <message>
+        <source>Convert Checked Item(s)</source>
+        <translation>Markierte Elemente konvertieren</translation>
+    </message>
+    <message>
+        <source>Stop Checked Item(s)</source>
+        <translation>Markierte Elemente stoppen</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stopp</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Elapsed Time: %1 Remaining Time: %2 Progress: </source>
+        <translation>Vergangene Zeit: %1 Restzeit: %2 Fortschritt: </translation>
+    </message>
 </context>
 <context>
     <name>CPlayPauseButton</name>
@@ -1876,6 +1896,30 @@ Einige der unfertigen Dateien lassen sich nicht richtig abspielen.</translation>
     <message>
         <source>Down</source>
         <translation>Leiser</translation>
+    </message>
+    <message>
+        <source>Convert Selected Item(s)</source>
+        <translation>Ausgewählte Elemente konvertieren</translation>
+    </message>
+    <message>
+        <source>Pause Selected Item(s)</source>
+        <translation>Ausgewählte Elemente anhalten</translation>
+    </message>
+    <message>
+        <source>Stop Selected Item(s)</source>
+        <translation>Ausgewählte Elemente stoppen</translation>
+    </message>
+    <message>
+        <source>Convert All Item(s)</source>
+        <translation>Alle Elemente konvertieren</translation>
+    </message>
+    <message>
+        <source>Pause All Item(s)</source>
+        <translation>Alle Elemente anhalten</translation>
+    </message>
+    <message>
+        <source>Stop All Item(s)</source>
+        <translation>Alle Elemente stoppen</translation>
     </message>
 </context>
 <context>

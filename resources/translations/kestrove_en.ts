@@ -144,6 +144,26 @@
         <source>Can not save the image.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Convert Checked Item(s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop Checked Item(s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Elapsed Time: %1 Remaining Time: %2 Progress: </source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>CPlayPauseButton</name>
@@ -1873,6 +1893,30 @@ Some of the unfinished files cannot be played properly.</source>
     </message>
     <message>
         <source>Down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Convert Selected Item(s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pause Selected Item(s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop Selected Item(s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Convert All Item(s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pause All Item(s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop All Item(s)</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -145,6 +145,26 @@
         <source>Can not save the image.</source>
         <translation>No se puede guardar la imagen.</translation>
     </message>
+    <message>
+        <source>Convert Checked Item(s)</source>
+        <translation>Convertir elementos marcados</translation>
+    </message>
+    <message>
+        <source>Stop Checked Item(s)</source>
+        <translation>Detener elementos marcados</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Detener</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Iniciar</translation>
+    </message>
+    <message>
+        <source>Elapsed Time: %1 Remaining Time: %2 Progress: </source>
+        <translation>Tiempo transcurrido: %1 Tiempo restante: %2 Progreso: </translation>
+    </message>
 </context>
 <context>
     <name>CPlayPauseButton</name>
@@ -1876,6 +1896,30 @@ Algunos de los archivos sin terminar no se podrán reproducir correctamente.</tr
     <message>
         <source>Down</source>
         <translation>Bajar</translation>
+    </message>
+    <message>
+        <source>Convert Selected Item(s)</source>
+        <translation>Convertir elementos seleccionados</translation>
+    </message>
+    <message>
+        <source>Pause Selected Item(s)</source>
+        <translation>Pausar elementos seleccionados</translation>
+    </message>
+    <message>
+        <source>Stop Selected Item(s)</source>
+        <translation>Detener elementos seleccionados</translation>
+    </message>
+    <message>
+        <source>Convert All Item(s)</source>
+        <translation>Convertir todos los elementos</translation>
+    </message>
+    <message>
+        <source>Pause All Item(s)</source>
+        <translation>Pausar todos los elementos</translation>
+    </message>
+    <message>
+        <source>Stop All Item(s)</source>
+        <translation>Detener todos los elementos</translation>
     </message>
 </context>
 <context>

@@ -145,6 +145,26 @@
         <source>Can not save the image.</source>
         <translation>Impossible d&apos;enregistrer l&apos;image.</translation>
     </message>
+    <message>
+        <source>Convert Checked Item(s)</source>
+        <translation>Convertir les éléments cochés</translation>
+    </message>
+    <message>
+        <source>Stop Checked Item(s)</source>
+        <translation>Arrêter les éléments cochés</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêter</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Démarrer</translation>
+    </message>
+    <message>
+        <source>Elapsed Time: %1 Remaining Time: %2 Progress: </source>
+        <translation>Temps écoulé : %1 Temps restant : %2 Progression : </translation>
+    </message>
 </context>
 <context>
     <name>CPlayPauseButton</name>
@@ -1876,6 +1896,30 @@ Certains fichiers inachevés ne pourront pas être lus correctement.</translatio
     <message>
         <source>Down</source>
         <translation>Moins fort</translation>
+    </message>
+    <message>
+        <source>Convert Selected Item(s)</source>
+        <translation>Convertir les éléments sélectionnés</translation>
+    </message>
+    <message>
+        <source>Pause Selected Item(s)</source>
+        <translation>Suspendre les éléments sélectionnés</translation>
+    </message>
+    <message>
+        <source>Stop Selected Item(s)</source>
+        <translation>Arrêter les éléments sélectionnés</translation>
+    </message>
+    <message>
+        <source>Convert All Item(s)</source>
+        <translation>Convertir tous les éléments</translation>
+    </message>
+    <message>
+        <source>Pause All Item(s)</source>
+        <translation>Suspendre tous les éléments</translation>
+    </message>
+    <message>
+        <source>Stop All Item(s)</source>
+        <translation>Arrêter tous les éléments</translation>
     </message>
 </context>
 <context>

@@ -145,6 +145,26 @@
         <source>Can not save the image.</source>
         <translation>Impossibile salvare l&apos;immagine.</translation>
     </message>
+    <message>
+        <source>Convert Checked Item(s)</source>
+        <translation>Converti elementi spuntati</translation>
+    </message>
+    <message>
+        <source>Stop Checked Item(s)</source>
+        <translation>Interrompi elementi spuntati</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Interrompi</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Avvia</translation>
+    </message>
+    <message>
+        <source>Elapsed Time: %1 Remaining Time: %2 Progress: </source>
+        <translation>Tempo trascorso: %1 Tempo rimanente: %2 Avanzamento: </translation>
+    </message>
 </context>
 <context>
     <name>CPlayPauseButton</name>
@@ -1876,6 +1896,30 @@ Alcuni dei file non completati non potranno essere riprodotti correttamente.</tr
     <message>
         <source>Down</source>
         <translation>Abbassa</translation>
+    </message>
+    <message>
+        <source>Convert Selected Item(s)</source>
+        <translation>Converti gli elementi selezionati</translation>
+    </message>
+    <message>
+        <source>Pause Selected Item(s)</source>
+        <translation>Sospendi gli elementi selezionati</translation>
+    </message>
+    <message>
+        <source>Stop Selected Item(s)</source>
+        <translation>Interrompi gli elementi selezionati</translation>
+    </message>
+    <message>
+        <source>Convert All Item(s)</source>
+        <translation>Converti tutti gli elementi</translation>
+    </message>
+    <message>
+        <source>Pause All Item(s)</source>
+        <translation>Sospendi tutti gli elementi</translation>
+    </message>
+    <message>
+        <source>Stop All Item(s)</source>
+        <translation>Interrompi tutti gli elementi</translation>
     </message>
 </context>
 <context>

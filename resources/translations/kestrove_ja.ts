@@ -145,6 +145,26 @@
         <source>Can not save the image.</source>
         <translation>画像を保存できません。</translation>
     </message>
+    <message>
+        <source>Convert Checked Item(s)</source>
+        <translation>チェックした項目を変換</translation>
+    </message>
+    <message>
+        <source>Stop Checked Item(s)</source>
+        <translation>チェックした項目を停止</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>開始</translation>
+    </message>
+    <message>
+        <source>Elapsed Time: %1 Remaining Time: %2 Progress: </source>
+        <translation>経過時間: %1 残り時間: %2 進行状況: </translation>
+    </message>
 </context>
 <context>
     <name>CPlayPauseButton</name>
@@ -1876,6 +1896,30 @@ Some of the unfinished files cannot be played properly.</source>
     <message>
         <source>Down</source>
         <translation>下げる</translation>
+    </message>
+    <message>
+        <source>Convert Selected Item(s)</source>
+        <translation>選択した項目を変換</translation>
+    </message>
+    <message>
+        <source>Pause Selected Item(s)</source>
+        <translation>選択した項目を一時停止</translation>
+    </message>
+    <message>
+        <source>Stop Selected Item(s)</source>
+        <translation>選択した項目を停止</translation>
+    </message>
+    <message>
+        <source>Convert All Item(s)</source>
+        <translation>すべての項目を変換</translation>
+    </message>
+    <message>
+        <source>Pause All Item(s)</source>
+        <translation>すべての項目を一時停止</translation>
+    </message>
+    <message>
+        <source>Stop All Item(s)</source>
+        <translation>すべての項目を停止</translation>
     </message>
 </context>
 <context>

@@ -145,6 +145,26 @@
         <source>Can not save the image.</source>
         <translation>Não foi possível salvar a imagem.</translation>
     </message>
+    <message>
+        <source>Convert Checked Item(s)</source>
+        <translation>Converter itens marcados</translation>
+    </message>
+    <message>
+        <source>Stop Checked Item(s)</source>
+        <translation>Parar itens marcados</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Parar</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Iniciar</translation>
+    </message>
+    <message>
+        <source>Elapsed Time: %1 Remaining Time: %2 Progress: </source>
+        <translation>Tempo decorrido: %1 Tempo restante: %2 Progresso: </translation>
+    </message>
 </context>
 <context>
     <name>CPlayPauseButton</name>
@@ -1876,6 +1896,30 @@ Alguns dos arquivos inacabados não poderão ser reproduzidos corretamente.</tra
     <message>
         <source>Down</source>
         <translation>Diminuir</translation>
+    </message>
+    <message>
+        <source>Convert Selected Item(s)</source>
+        <translation>Converter itens selecionados</translation>
+    </message>
+    <message>
+        <source>Pause Selected Item(s)</source>
+        <translation>Pausar itens selecionados</translation>
+    </message>
+    <message>
+        <source>Stop Selected Item(s)</source>
+        <translation>Parar itens selecionados</translation>
+    </message>
+    <message>
+        <source>Convert All Item(s)</source>
+        <translation>Converter todos os itens</translation>
+    </message>
+    <message>
+        <source>Pause All Item(s)</source>
+        <translation>Pausar todos os itens</translation>
+    </message>
+    <message>
+        <source>Stop All Item(s)</source>
+        <translation>Parar todos os itens</translation>
     </message>
 </context>
 <context>

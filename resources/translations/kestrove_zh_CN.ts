@@ -145,6 +145,26 @@
         <source>Can not save the image.</source>
         <translation>无法保存图像。</translation>
     </message>
+    <message>
+        <source>Convert Checked Item(s)</source>
+        <translation>转换勾选的项目</translation>
+    </message>
+    <message>
+        <source>Stop Checked Item(s)</source>
+        <translation>停止勾选的项目</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>开始</translation>
+    </message>
+    <message>
+        <source>Elapsed Time: %1 Remaining Time: %2 Progress: </source>
+        <translation>已用时间: %1 剩余时间: %2 进度: </translation>
+    </message>
 </context>
 <context>
     <name>CPlayPauseButton</name>
@@ -1876,6 +1896,30 @@ Some of the unfinished files cannot be played properly.</source>
     <message>
         <source>Down</source>
         <translation>减小</translation>
+    </message>
+    <message>
+        <source>Convert Selected Item(s)</source>
+        <translation>转换选定项</translation>
+    </message>
+    <message>
+        <source>Pause Selected Item(s)</source>
+        <translation>暂停选定项</translation>
+    </message>
+    <message>
+        <source>Stop Selected Item(s)</source>
+        <translation>停止选定项</translation>
+    </message>
+    <message>
+        <source>Convert All Item(s)</source>
+        <translation>转换所有项</translation>
+    </message>
+    <message>
+        <source>Pause All Item(s)</source>
+        <translation>暂停所有项</translation>
+    </message>
+    <message>
+        <source>Stop All Item(s)</source>
+        <translation>停止所有项</translation>
     </message>
 </context>
 <context>

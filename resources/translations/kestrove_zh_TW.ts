@@ -145,6 +145,26 @@
         <source>Can not save the image.</source>
         <translation>無法儲存影像。</translation>
     </message>
+    <message>
+        <source>Convert Checked Item(s)</source>
+        <translation>轉換勾選的項目</translation>
+    </message>
+    <message>
+        <source>Stop Checked Item(s)</source>
+        <translation>停止勾選的項目</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>開始</translation>
+    </message>
+    <message>
+        <source>Elapsed Time: %1 Remaining Time: %2 Progress: </source>
+        <translation>已用時間: %1 剩餘時間: %2 進度: </translation>
+    </message>
 </context>
 <context>
     <name>CPlayPauseButton</name>
@@ -1876,6 +1896,30 @@ Some of the unfinished files cannot be played properly.</source>
     <message>
         <source>Down</source>
         <translation>減小</translation>
+    </message>
+    <message>
+        <source>Convert Selected Item(s)</source>
+        <translation>轉換選定項目</translation>
+    </message>
+    <message>
+        <source>Pause Selected Item(s)</source>
+        <translation>暫停選定項目</translation>
+    </message>
+    <message>
+        <source>Stop Selected Item(s)</source>
+        <translation>停止選定項目</translation>
+    </message>
+    <message>
+        <source>Convert All Item(s)</source>
+        <translation>轉換所有項目</translation>
+    </message>
+    <message>
+        <source>Pause All Item(s)</source>
+        <translation>暫停所有項目</translation>
+    </message>
+    <message>
+        <source>Stop All Item(s)</source>
+        <translation>停止所有項目</translation>
     </message>
 </context>
 <context>

@@ -6,6 +6,8 @@
 #include <QSettings>
 #include <QStandardPaths>
 
+#include <algorithm>
+
 namespace {
 
 struct Store
@@ -155,7 +157,8 @@ int threadCount()
 }
 int processCount()
 {
-    return settingInt(QStringLiteral("ProcessCount"), 1);
+    // 0 or less, as a hand-edited store may hold, still runs one encoder.
+    return std::max(1, settingInt(QStringLiteral("ProcessCount"), 1));
 }
 bool enableCuda()
 {

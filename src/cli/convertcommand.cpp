@@ -293,17 +293,6 @@ void ConvertCommand::buildTasks(const Request &request, const QList<ImportedSour
     entries = kept;
 }
 
-bool ConvertCommand::atRest() const
-{
-    for (int i = 0; i < list->count(); ++i) {
-        const Task::EState state = list->at(i)->state;
-        if (state == Task::Waiting || state == Task::Running || state == Task::Paused
-            || state == Task::Pending)
-            return false;
-    }
-    return true;
-}
-
 void ConvertCommand::onStateChanged(int taskId, Task::EState state)
 {
     TimeTracker::stateChanged(*list, taskId, state);
@@ -444,7 +433,7 @@ int ConvertCommand::run(const QStringList &args)
     connect(manager.get(), &ConverterManager::stateChanged, this,
             [this, &loop](int id, Task::EState state) {
                 onStateChanged(id, state);
-                if (atRest())
+                if (list->allAtRest())
                     loop.quit();
             });
     // The queue reports progress; the task keeps it, as the window's rows do.
@@ -460,7 +449,7 @@ int ConvertCommand::run(const QStringList &args)
 
     if (list->count() > 0) {
         manager->startAll();
-        if (!atRest()) {
+        if (!list->allAtRest()) {
             ticker->start(500);
             drawProgress();
             loop.exec();

@@ -60,7 +60,6 @@ private:
     QString editTask(const Request &request, int taskId);
     void onStateChanged(int taskId, Task::EState state);
     void onInterrupted();
-    bool atRest() const;
     void drawProgress();
     void clearProgress();
     int report(bool json);

@@ -156,6 +156,17 @@ void TaskList::clear()
     discRanges.clear();
 }
 
+bool TaskList::allAtRest() const
+{
+    for (const auto &task : tasks) {
+        const Task::EState state = task->state;
+        if (state == Task::Waiting || state == Task::Running || state == Task::Paused
+            || state == Task::Pending)
+            return false;
+    }
+    return true;
+}
+
 Task *TaskList::at(int position) const
 {
     return position >= 0 && position < count() ? tasks[size_t(position)].get() : nullptr;

@@ -47,6 +47,8 @@ public:
     void clear();
 
     int count() const { return int(tasks.size()); }
+    // No task waits, runs or is paused; true for an empty list.
+    bool allAtRest() const;
     Task *at(int position) const;
     Task *byId(int taskId) const;
     int positionOf(int taskId) const;

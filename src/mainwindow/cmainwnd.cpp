@@ -127,6 +127,12 @@ const MenuEntry menuEntries[] = {
     {"menu_Action", "actionConvert_Checked_Item_s", QT_TRANSLATE_NOOP("mainWindow", "Convert Checked Item(s)"), "F5", false},
     {"menu_Action", "actionPause_Checked_Item_s", QT_TRANSLATE_NOOP("mainWindow", "Pause Checked Item(s)"), "F6", false},
     {"menu_Action", "actionStop_Checked_Item_s", QT_TRANSLATE_NOOP("mainWindow", "Stop Checked Item(s)"), "F7", false},
+    {"menu_Action", "actionConvert_Selected_Item_s", QT_TRANSLATE_NOOP("mainWindow", "Convert Selected Item(s)"), "Alt+F5", false},
+    {"menu_Action", "actionPause_Selected_Item_s", QT_TRANSLATE_NOOP("mainWindow", "Pause Selected Item(s)"), "Alt+F6", false},
+    {"menu_Action", "actionStop_Selected_Item_s", QT_TRANSLATE_NOOP("mainWindow", "Stop Selected Item(s)"), "Alt+F7", false},
+    {"menu_Action", "actionConvert_All_Item_s", QT_TRANSLATE_NOOP("mainWindow", "Convert All Item(s)"), "Ctrl+F5", false},
+    {"menu_Action", "actionPause_All_Item_s", QT_TRANSLATE_NOOP("mainWindow", "Pause All Item(s)"), "Ctrl+F6", false},
+    {"menu_Action", "actionStop_All_Item_s", QT_TRANSLATE_NOOP("mainWindow", "Stop All Item(s)"), "Ctrl+F7", false},
     {"menu_Action", "actionOpen_Source_File_Location", QT_TRANSLATE_NOOP("mainWindow", "Open Source File Location"), "F8", false},
     {"menu_Action", "actionOpen_Output_File_Location", QT_TRANSLATE_NOOP("mainWindow", "Open Output File Location"), "F9", false},
     {"menu_Action", "menuPost_Task_Actions", QT_TRANSLATE_NOOP("mainWindow", "Post Task Actions"), "", false},
@@ -1087,61 +1093,6 @@ void CMainWnd::on_treeTask_itemExpanded(QTreeWidgetItem *item)
 void CMainWnd::on_treeTask_itemCollapsed(QTreeWidgetItem *item)
 {
     on_treeTask_itemExpanded(item);
-}
-
-void CMainWnd::onPauseTask(int taskId, bool pause)
-{
-    const Task *task = taskList->byId(taskId);
-    if (!task)
-        return;
-    // Pausing again resumes: the manager toggles.
-    if (pause != (task->state == Task::Paused))
-        converter->pauseTask(taskId);
-}
-
-void CMainWnd::onStopTask(int taskId)
-{
-    converter->stopTask(taskId);
-}
-
-void CMainWnd::OnConvertProgressChanged(int taskId, double)
-{
-    if (CustomItemWidget *row = rowOf(treeTask, itemOf(taskId)))
-        row->refreshProgress();
-    UpdateTotalProgress();
-}
-
-void CMainWnd::OnTaskStateChanged(int taskId, Task::EState state)
-{
-    if (CustomItemWidget *row = rowOf(treeTask, itemOf(taskId))) {
-        row->showProgress(state == Task::Running || state == Task::Paused
-                          || state == Task::Pending);
-        row->refresh();
-    }
-    on_treeTask_itemChanged(nullptr, 0);
-    UpdateTotalProgress();
-}
-
-void CMainWnd::UpdateTotalProgress()
-{
-    double done = 0.0;
-    double total = 0.0;
-    bool active = false;
-    for (int i = 0; i < taskList->count(); ++i) {
-        const Task *task = taskList->at(i);
-        if (task->state == Task::Idle || !task->checked)
-            continue;
-        active = active || (task->state != Task::Succeed && task->state != Task::Failed);
-        total += task->convertDuration();
-        done += task->state == Task::Succeed ? task->convertDuration()
-                                             : qMin(task->progress, task->convertDuration());
-    }
-    totalProgressBar->setVisible(active);
-    const int percent = total > 0 ? int(done / total * 100.0) : 0;
-    totalProgressBar->setValue(percent);
-    taskbar.setProgressState(active ? TaskbarProgress::Normal : TaskbarProgress::NoProgress);
-    if (active)
-        taskbar.setProgressValue(percent, 100);
 }
 
 void CMainWnd::receiveMediaImage(int taskId)

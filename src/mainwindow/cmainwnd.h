@@ -37,6 +37,7 @@ class QTreeWidgetItem;
 class QxMacSystemButton;
 class SettingsWindow;
 class TaskList;
+class TaskTreeOps;
 class VolumSlider;
 class WndTitleLabel;
 
@@ -110,12 +111,25 @@ public:
 
 signals:
     void hasSysButtonHovered(bool hovered);
+    // Every task is at rest: the chosen post-task action is due.
+    void postTaskStep(int action);
 
 public slots:
     void quit() { close(); }
     void on_actionExit_triggered() { close(); }
     void on_actionClear_All_triggered() { ResetToEmpty(); }
     void on_treeTask_itemChanged(QTreeWidgetItem *item, int column);
+    // Conversion control.
+    void on_btnStart_clicked();
+    void on_actionConvert_Checked_Item_s_triggered();
+    void on_actionPause_Checked_Item_s_triggered();
+    void on_actionStop_Checked_Item_s_triggered();
+    void on_actionConvert_Selected_Item_s_triggered();
+    void on_actionPause_Selected_Item_s_triggered();
+    void on_actionStop_Selected_Item_s_triggered();
+    void on_actionConvert_All_Item_s_triggered();
+    void on_actionPause_All_Item_s_triggered();
+    void on_actionStop_All_Item_s_triggered();
     void onPauseTask(int taskId, bool pause);
     void onStopTask(int taskId);
     void on_actionAudio_Track_triggered() {}
@@ -182,6 +196,11 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void UpdateStartButton();
+    void batchEnded();
+    void startRow(QTreeWidgetItem *item);
+    bool anyRow(bool (TaskTreeOps::*test)(const QTreeWidgetItem *, bool) const, bool onlyChecked) const;
+    bool anySelected(bool (TaskTreeOps::*test)(const QTreeWidgetItem *, bool) const) const;
     void stopPreview() { on_btnStop_clicked(); }
     void setUpPreview();
     void ShowInPreview(Task *task, int index);

@@ -12,6 +12,7 @@
 #include "settingswindow.h"
 #include "tasklist.h"
 #include "tasktreeops.h"
+#include "utils.h"
 
 #include <QActionGroup>
 #include <QCoreApplication>
@@ -25,7 +26,6 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QThread>
-#include <QTime>
 #include <QTimer>
 #include <QToolButton>
 #include <QTreeWidget>
@@ -243,8 +243,7 @@ void CMainWnd::RefreshPreviewEffects()
 void CMainWnd::showTimeOf(double seconds)
 {
     const Task *task = TaskTreeOps::instance().taskOf(treeTask->currentItem());
-    timeLabel->setText(QTime(0, 0).addSecs(int(seconds)).toString(QStringLiteral("hh:mm:ss"))
-                       + QStringLiteral(" / ") + (task ? task->totalDurationText(false) : QString()));
+    timeLabel->setText(Utils::durationText(seconds) + QStringLiteral(" / ") + (task ? task->totalDurationText(false) : QString()));
 }
 
 void CMainWnd::applyTrackChoice(const ChildTask &input)

@@ -167,9 +167,11 @@ private slots:
         syncSettings();
         QCOMPARE(Setting::processCount(), 3);
         QCOMPARE(Setting::outputDir(), folder);
-        // A value that isn't a number reads as none.
+        // A value that isn't a number, or none at all, still runs one encoder.
         setSettingString(u"ProcessCount"_s, u"two"_s);
-        QCOMPARE(Setting::processCount(), 0);
+        QCOMPARE(Setting::processCount(), 1);
+        setSettingInt(u"ProcessCount"_s, 0);
+        QCOMPARE(Setting::processCount(), 1);
     }
 
     void overrideIsReadButNeverStored()
@@ -182,7 +184,7 @@ private slots:
         setSettingInt(u"OutputToSrc"_s, 1);
         QCOMPARE(Setting::outputToSrc(), 0);
         syncSettings();
-        QCOMPARE(runHelper({u"--read"_s}), u"0|/stored|1"_s);
+        QCOMPARE(runHelper({u"--read"_s}), u"1|/stored|1"_s);
 
         overrideSetting(u"OutputDir"_s, QVariant());
         overrideSetting(u"OutputToSrc"_s, QVariant());

@@ -5,6 +5,7 @@
 #include "cprofilecombo.h"
 #include "customitemwidget.h"
 #include "mediafixtures.h"
+#include "privatebus.h"
 #include "profilegrouploader.h"
 #include "settings.h"
 #include "tasklist.h"
@@ -635,18 +636,9 @@ private slots:
     }
 };
 
-// On a session bus of its own, never the user's.
 int main(int argc, char *argv[])
 {
-    if (!qEnvironmentVariableIsSet("KESTROVE_PRIVATE_BUS")) {
-        qputenv("KESTROVE_PRIVATE_BUS", "1");
-        std::vector<char *> args{const_cast<char *>("dbus-run-session"), const_cast<char *>("--")};
-        args.insert(args.end(), argv, argv + argc);
-        args.push_back(nullptr);
-        execvp(args[0], args.data());
-        std::perror("dbus-run-session (install Debian's dbus)");
-        return 1;
-    }
+    runOnPrivateBus(argc, argv);
     TestHome home;
     QApplication app(argc, argv);
     TestMainWindow test;

@@ -1,0 +1,160 @@
+#include "cmainwnd.h"
+#include "conversion/processtools.h"
+#include "controls.h"
+#include "customitemwidget.h"
+#include "mediafixtures.h"
+#include "privatebus.h"
+#include "profilegrouploader.h"
+#include "settings.h"
+#include "tasklist.h"
+#include "testhome.h"
+
+#include <QProgressBar>
+#include <QPushButton>
+#include <QTreeWidget>
+#include <QtTest>
+
+// Conversions started, paused and stopped from the window, on encoders that
+// take as long as their media last.
+class TestConvertWindow : public QObject
+{
+    Q_OBJECT
+
+    QString media;
+    QTemporaryDir work;
+    std::unique_ptr<CMainWnd> window;
+
+    // Rows for the files; their task ids in order.
+    QList<int> addFiles(const QStringList &paths)
+    {
+        QList<int> ids;
+        for (const QString &path : paths)
+            ids << window->tasks()->addFile(ProfileGroupLoader::instance()->defaultProfile(), path);
+        window->addTaskRows();
+        window->treeTask->setCurrentItem(window->itemOf(ids.first()));
+        return ids;
+    }
+    Task *task(int id) const { return window->tasks()->byId(id); }
+    QString startStatus() const { return window->btnStart->property("status").toString(); }
+    int count(Task::EState state) const
+    {
+        int n = 0;
+        for (int i = 0; i < window->tasks()->count(); ++i)
+            n += window->tasks()->at(i)->state == state;
+        return n;
+    }
+
+private slots:
+    void initTestCase()
+    {
+        REQUIRE_MEDIA_FIXTURES(media);
+        // Real time: a clip of two seconds keeps its encoder for two seconds.
+        const QString paced = writeFile(work.filePath(QStringLiteral("paced-ffmpeg")),
+                                        "#!/bin/bash\nargs=()\nfor a in \"$@\"; do [ \"$a\" = -i ] && "
+                                        "args+=(-re); args+=(\"$a\"); done\nexec ffmpeg \"${args[@]}\"\n");
+        QVERIFY(QFile::setPermissions(paced, QFile::ReadOwner | QFile::ExeOwner));
+        qputenv("KESTROVE_FFMPEG", QFile::encodeName(paced));
+    }
+
+    void init()
+    {
+        QDir(work.filePath(QStringLiteral("out"))).removeRecursively();
+        overrideSetting(QStringLiteral("OutputDir"), work.filePath(QStringLiteral("out")));
+        window = std::make_unique<CMainWnd>();
+        window->show();
+    }
+
+    void cleanup()
+    {
+        window->converterManager()->stopAll();
+        QTRY_VERIFY(window->tasks()->allAtRest());
+        window.reset();
+        overrideSetting(QStringLiteral("ProcessCount"), QVariant());
+    }
+
+    // Stop with two running and one waiting: the waiting one goes back,
+    // ticked; the running ones fail, unticked; Start can start again.
+    void stopWithTwoRunningAndOneWaiting()
+    {
+        overrideSetting(QStringLiteral("ProcessCount"), 2);
+        const QList<int> ids = addFiles({fixture(media, "movie.mkv"), fixture(media, "movie.mkv"),
+                                         fixture(media, "clip.mp4")});
+        QTest::mouseClick(window->btnStart, Qt::LeftButton);
+        QTRY_COMPARE_WITH_TIMEOUT(count(Task::Running), 2, 10000);
+        QCOMPARE(task(ids[2])->state, Task::Waiting);
+        QCOMPARE(startStatus(), QStringLiteral("stop"));
+        QVERIFY(window->totalProgressBar->isVisible());
+        QVERIFY(window->windowTitle().contains(QStringLiteral(" - 1/3 - ")));
+
+        QTest::mouseClick(window->btnStart, Qt::LeftButton);
+        QTRY_VERIFY(window->tasks()->allAtRest());
+        for (int id : {ids[0], ids[1]}) {
+            QCOMPARE(task(id)->state, Task::Failed);
+            QVERIFY(!task(id)->checked);
+        }
+        QCOMPARE(task(ids[2])->state, Task::Idle);
+        QVERIFY(task(ids[2])->checked);
+        QCOMPARE(startStatus(), QStringLiteral("start"));
+        QVERIFY(window->btnStart->isEnabled());
+        QCOMPARE(window->windowTitle(), CMainWnd::WindowTitleText());
+        QVERIFY(QDir(work.filePath(QStringLiteral("out"))).entryList(QDir::Files).isEmpty());
+    }
+
+    // Convert Selected starts every selected row at once, whatever the
+    // limit; pausing the only running task leaves Start on stop.
+    void convertSelectedAndPause()
+    {
+        overrideSetting(QStringLiteral("ProcessCount"), 1);
+        const QList<int> ids = addFiles({fixture(media, "movie.mkv"), fixture(media, "movie.mkv"),
+                                         fixture(media, "movie.mkv")});
+        for (int id : ids) {
+            task(id)->checked = false;
+            window->itemOf(id)->setSelected(true);
+        }
+        window->action(QStringLiteral("actionConvert_Selected_Item_s"))->trigger();
+        QTRY_COMPARE_WITH_TIMEOUT(count(Task::Running), 3, 10000);
+        for (int id : ids)
+            QVERIFY(task(id)->checked);
+        window->converterManager()->stopTask(ids[1]);
+        window->converterManager()->stopTask(ids[2]);
+        QTRY_COMPARE(count(Task::Running), 1);
+
+        auto *row = qobject_cast<CustomItemWidget *>(window->treeTask->itemWidget(window->itemOf(ids[0]), 0));
+        QVERIFY(row && row->pauseBtn->isVisible());
+        QTest::mouseClick(row->pauseBtn, Qt::LeftButton);
+        QTRY_COMPARE(task(ids[0])->state, Task::Paused);
+        QCOMPARE(startStatus(), QStringLiteral("stop"));
+        QTest::mouseClick(row->pauseBtn, Qt::LeftButton);
+        QTRY_COMPARE(task(ids[0])->state, Task::Running);
+    }
+
+    // A source gone after the import fails its own row; the others finish,
+    // and the batch's end puts the title back.
+    void aDeletedSourceFailsItsRowAlone()
+    {
+        overrideSetting(QStringLiteral("ProcessCount"), 0); // still one encoder
+        const QString gone = work.filePath(QStringLiteral("gone.mp4"));
+        QFile::remove(gone);
+        QVERIFY(QFile::copy(fixture(media, "clip.mp4"), gone));
+        const QList<int> ids = addFiles({gone, fixture(media, "clip.mp4")});
+        QVERIFY(QFile::remove(gone));
+        QTest::mouseClick(window->btnStart, Qt::LeftButton);
+        QTRY_VERIFY(count(Task::Running) + count(Task::Failed) > 0);
+        QCOMPARE(count(Task::Running) + count(Task::Waiting) + count(Task::Failed), 2);
+        QTRY_VERIFY_WITH_TIMEOUT(window->tasks()->allAtRest(), 20000);
+        QCOMPARE(task(ids[0])->state, Task::Failed);
+        QCOMPARE(task(ids[1])->state, Task::Succeed);
+        QCOMPARE(window->totalProgressBar->value(), 100);
+        QCOMPARE(window->windowTitle(), CMainWnd::WindowTitleText());
+    }
+};
+
+int main(int argc, char *argv[])
+{
+    runOnPrivateBus(argc, argv);
+    TestHome home;
+    QApplication app(argc, argv);
+    TestConvertWindow test;
+    return QTest::qExec(&test, argc, argv);
+}
+#include "tst_convertwindow.moc"
