@@ -10,6 +10,8 @@
 //   uishots main FIXTURES OUT.png [LANG]  the main window with a disc's titles
 //                                      and two files of the test fixtures
 //   uishots start OUT.png [LANG]       the main window's start page
+//   uishots batch FIXTURES OUT.png [LANG]  the main window half-way through
+//                                      converting the disc's three titles
 //   uishots preview FIXTURES OUT.png [LANG]  the main window previewing the
 //                                      first title with an effect, paused
 
@@ -27,6 +29,7 @@
 #include "qttreepropertybrowser.h"
 #include "qtvariantproperty.h"
 #include "qxlanguage.h"
+#include "settings.h"
 #include "settingswindow.h"
 #include "qxmainwidget.h"
 #include "qxskin.h"
@@ -42,6 +45,7 @@
 #include <QTranslator>
 #include <QTreeWidget>
 #include <QTest>
+#include <QTemporaryDir>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -92,8 +96,24 @@ int surfaceShot(const QString &media, const QString &subtitle, const QString &ou
     return QApplication::exec();
 }
 
-int mainShot(const QString &fixtures, const QString &out, bool preview = false)
+enum class MainShot { List, Preview, Batch };
+
+int mainShot(const QString &fixtures, const QString &out, MainShot kind = MainShot::List)
 {
+    const bool preview = kind == MainShot::Preview;
+    // Encoders at the media's own pace, so that a batch is still under way at the grab.
+    QTemporaryDir work;
+    if (kind == MainShot::Batch) {
+        QFile paced(work.filePath(QStringLiteral("ffmpeg")));
+        paced.open(QIODevice::WriteOnly);
+        paced.write("#!/bin/bash\nargs=()\nfor a in \"$@\"; do [ \"$a\" = -i ] && args+=(-re); "
+                    "args+=(\"$a\"); done\nexec ffmpeg \"${args[@]}\"\n");
+        paced.close();
+        paced.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+        qputenv("KESTROVE_FFMPEG", QFile::encodeName(paced.fileName()));
+        overrideSetting(QStringLiteral("OutputDir"), work.filePath(QStringLiteral("out")));
+        overrideSetting(QStringLiteral("ProcessCount"), 2);
+    }
     CMainWnd window;
     window.setGeometry(40, 40, 980, 620);
     window.show();
@@ -103,8 +123,10 @@ int mainShot(const QString &fixtures, const QString &out, bool preview = false)
         const auto disc = LoadDvdDisc(fixtures + QStringLiteral("/dvd-main"), false);
         for (int i = 0; disc && i < int(disc->titles.size()); ++i)
             list->addTitle(key, *disc->titles[i], i + 1, 1);
-        list->addFile(key, fixtures + QStringLiteral("/movie.mkv"));
-        list->addFile(key, fixtures + QStringLiteral("/clip.mp4"));
+        if (kind != MainShot::Batch) {
+            list->addFile(key, fixtures + QStringLiteral("/movie.mkv"));
+            list->addFile(key, fixtures + QStringLiteral("/clip.mp4"));
+        }
         window.addTaskRows();
         // Down to the files, below the disc's titles.
         window.treeTask->scrollToBottom();
@@ -121,8 +143,13 @@ int mainShot(const QString &fixtures, const QString &out, bool preview = false)
         window.playPauseBtn->click();
         QTimer::singleShot(1500, qApp, [&] { window.playPauseBtn->click(); });
     }
-    QTimer::singleShot(2500, qApp, [&] {
+    if (kind == MainShot::Batch) {
+        window.treeTask->scrollToTop();
+        QTimer::singleShot(300, qApp, [&] { window.btnStart->click(); });
+    }
+    QTimer::singleShot(kind == MainShot::Batch ? 2600 : 2500, qApp, [&] {
         QGuiApplication::primaryScreen()->grabWindow(0, 24, 24, 1012, 652).save(out);
+        window.converterManager()->stopAll();
         QCoreApplication::quit();
     });
     return QApplication::exec();
@@ -150,7 +177,11 @@ int main(int argc, char *argv[])
     }
     if (args.at(1) == QLatin1String("preview") && args.size() >= 4) {
         QxLanguage::instance()->setLanguage(args.value(4, QStringLiteral("en")));
-        return mainShot(args.at(2), args.at(3), true);
+        return mainShot(args.at(2), args.at(3), MainShot::Preview);
+    }
+    if (args.at(1) == QLatin1String("batch") && args.size() >= 4) {
+        QxLanguage::instance()->setLanguage(args.value(4, QStringLiteral("en")));
+        return mainShot(args.at(2), args.at(3), MainShot::Batch);
     }
     if (args.at(1) == QLatin1String("start")) {
         QxLanguage::instance()->setLanguage(args.value(3, QStringLiteral("en")));

@@ -1146,6 +1146,8 @@ void CMainWnd::changeEvent(QEvent *event)
         actionPlayOriginal->setText(tr("Display Original Frame"));
         actionPlayOutput->setText(tr("Display Output Frame"));
         startLabel->setText(GettingStartedText());
+        if (taskList->count() > 0)
+            UpdateStartButton();
         UpdateTotalProgress();
         QGuiApplication::setLayoutDirection(tr("LTR") == QLatin1String("RTL") ? Qt::RightToLeft
                                                                              : Qt::LeftToRight);

@@ -204,7 +204,7 @@ void CMainWnd::UpdateStartButton()
     btnStart->setProperty("status", status);
     btnStart->setEnabled(enabled);
     btnStart->setToolTip(tip);
-    btnStart->setAccessibleName(status == QLatin1String("stop") ? tr("Stop") : tr("Start"));
+    btnStart->setText(status == QLatin1String("stop") ? tr("Stop") : tr("Start"));
     TaskTreeOps::Repolish(btnStart);
 }
 
