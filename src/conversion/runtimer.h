@@ -1,13 +1,13 @@
 #pragma once
 
-#include <QElapsedTimer>
-
-#include <memory>
+#include <QtGlobal>
 
 // A stopwatch that folds each run into a running total.
 class RunTimer
 {
 public:
+    using Clock = qint64 (*)(); // ms on a monotonic clock
+
     RunTimer() = default;
     RunTimer(const RunTimer &) = delete;
     RunTimer &operator=(const RunTimer &) = delete;
@@ -17,12 +17,36 @@ public:
     void pause();
     void reset();
     qint64 elapsedMs() const;
-    bool isRunning() const { return clock != nullptr; }
+    bool isRunning() const { return running; }
+
+    // The clock of every stopwatch; tests put a simulated one in, nullptr
+    // puts the real one back.
+    static void setClock(Clock clock);
+    static qint64 now();
 
 protected:
-    std::unique_ptr<QElapsedTimer> clock; // present while running
-    qint64 total = 0;                     // ms of earlier runs
+    bool running = false;
+    qint64 since = 0; // now() at the start of this run
+    qint64 total = 0; // ms of earlier runs
 
 private:
     void fold();
+};
+
+// A batch's time, which a resume does not clear: wall-clock ms while any
+// encoder runs, and encoder ms, each running encoder's time added up.
+class BatchTimer
+{
+public:
+    // Counts the time since the last change at the count then running.
+    void setRunning(int count);
+    void reset();
+    qint64 wallMs() const;
+    qint64 encoderMs() const;
+
+private:
+    qint64 wall = 0;
+    qint64 encoder = 0;
+    qint64 since = 0;
+    int running = 0;
 };

@@ -154,6 +154,7 @@ void TaskList::clear()
 {
     tasks.clear();
     discRanges.clear();
+    batchTimer.reset();
 }
 
 bool TaskList::allAtRest() const

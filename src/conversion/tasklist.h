@@ -71,6 +71,9 @@ public:
     QString commonRootPath() const { return commonRoot; }
     QString nextMergeName();
 
+    // The tasks' runs as one batch, timed by TimeTracker.
+    BatchTimer batchTimer;
+
 private:
     int append(std::unique_ptr<Task> task);
     void setProfile(Task &task, const QString &profileKey) const;
