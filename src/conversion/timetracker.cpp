@@ -3,6 +3,7 @@
 #include "tasklist.h"
 
 #include <algorithm>
+#include <vector>
 
 void TimeTracker::stateChanged(TaskList &taskList, int taskId, Task::EState state)
 {
@@ -25,6 +26,19 @@ void TimeTracker::stateChanged(TaskList &taskList, int taskId, Task::EState stat
     case Task::Pending:
         break;
     }
+    // The caller may tell the state before it stores it.
+    int running = 0;
+    bool allIdle = true;
+    for (int i = 0; i < taskList.count(); ++i) {
+        const Task *each = taskList.at(i);
+        const Task::EState now = each == task ? state : each->state;
+        running += now == Task::Running ? 1 : 0;
+        allIdle = allIdle && now == Task::Idle;
+    }
+    if (allIdle)
+        taskList.batchTimer.reset();
+    else
+        taskList.batchTimer.setRunning(running);
 }
 
 qint64 TimeTracker::remainingMs(const Task &task)
@@ -42,11 +56,13 @@ bool TimeTracker::batchFigures(const TaskList &taskList, BatchFigures *figures)
     BatchFigures result;
     qint64 totalSeconds = 0;
     double doneSeconds = 0.0;
+    // Seconds left of the tasks that hold an encoder, then of those that
+    // wait for one, in the order they will start.
+    std::vector<double> encoders, queued;
     for (int i = 0; i < taskList.count(); ++i) {
         const Task *task = taskList.at(i);
         if (task->state == Task::Idle)
             continue;
-        result.elapsed += task->elapsedMs();
         // A failed task only ever needed what it did; a finished one did all.
         const double total = task->state == Task::Failed ? task->progress : task->convertDuration();
         totalSeconds = qint64(double(totalSeconds) + total);
@@ -54,13 +70,30 @@ bool TimeTracker::batchFigures(const TaskList &taskList, BatchFigures *figures)
         ++result.count;
         if (task->state == Task::Succeed || task->state == Task::Failed)
             ++result.finished;
+        // A task's length is fixed at its start; until then its trim tells it,
+        // and any progress is from an earlier run.
+        if (task->state == Task::Waiting)
+            queued.push_back(double(qint64(task->trimmedDuration())));
+        const double left = std::max(double(qint64(task->convertDuration())) - task->progress, 0.0);
+        if (task->state == Task::Running || task->state == Task::Paused)
+            encoders.push_back(left);
+        else if (task->state == Task::Pending)
+            queued.push_back(left);
     }
     if (totalSeconds > 0)
         result.percent = std::min(doneSeconds * 100.0 / double(totalSeconds), 100.0);
-    const bool known = doneSeconds > 1.0;
+    result.elapsed = taskList.batchTimer.wallMs();
+    const qint64 encoderMs = taskList.batchTimer.encoderMs();
+    const bool known = doneSeconds > 1.0 && encoderMs > 0;
     if (known) {
-        result.remaining = qint64(double(result.elapsed) / doneSeconds * double(totalSeconds)
-                                  - double(result.elapsed));
+        // Each waiting task goes to the encoder that is free first; the batch
+        // ends with the last encoder.
+        if (encoders.empty())
+            encoders.push_back(0.0);
+        for (double left : queued)
+            *std::min_element(encoders.begin(), encoders.end()) += left;
+        const double last = *std::max_element(encoders.begin(), encoders.end());
+        result.remaining = qint64(last * double(encoderMs) / doneSeconds);
     }
     if (figures)
         *figures = result;

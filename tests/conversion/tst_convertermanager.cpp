@@ -7,6 +7,7 @@
 #include "timetracker.h"
 
 #include <QElapsedTimer>
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -66,13 +67,15 @@ public:
     int mostProcesses = 0;
 };
 
-// Runs a task's stopwatch for a moment and freezes it, so the figures can be
-// worked out from what it shows.
-qint64 runFor(Task &task, int ms)
+// The stopwatches' clock in the figures' tests, moved on by hand.
+qint64 simulatedMs = 0;
+
+// Runs a task for `ms` as the time tracker sees it, and stops it again.
+qint64 runFor(TaskList &list, Task &task, int ms)
 {
-    task.start();
-    QTest::qSleep(ms);
-    task.pause();
+    TimeTracker::stateChanged(list, task.id, Task::Running);
+    simulatedMs += ms;
+    TimeTracker::stateChanged(list, task.id, Task::Paused);
     return task.elapsedMs();
 }
 
@@ -115,7 +118,7 @@ private:
     {
         Task *task = list.byId(add(list, u"clip.mp4"_s)); // the fixtures are there
         task->items.front()->edit.trimStart = 1.0;
-        task->items.front()->edit.convertEnd = 1.0 + seconds;
+        task->items.front()->edit.convertEnd = task->items.front()->edit.trimEnd = 1.0 + seconds;
         task->setState(state);
         task->progress = progress;
         return task;
@@ -123,7 +126,11 @@ private:
 
 private slots:
     void init() { failOnChildSanitizerReports(); }
-    void cleanup() { qunsetenv("KESTROVE_FFMPEG"); }
+    void cleanup()
+    {
+        qunsetenv("KESTROVE_FFMPEG");
+        RunTimer::setClock(nullptr);
+    }
 
     void initTestCase()
     {
@@ -141,23 +148,24 @@ private slots:
 
     void stopwatchFollowsStates()
     {
+        RunTimer::setClock([] { return simulatedMs; });
         TaskList list;
         Task *task = addTask(list, 10, Task::Idle, 0);
         TimeTracker::stateChanged(list, 0, Task::Running);
-        QTest::qSleep(30);
+        simulatedMs += 30;
         TimeTracker::stateChanged(list, 0, Task::Paused);
-        const qint64 first = task->elapsedMs();
-        QVERIFY(first >= 30);
+        QCOMPARE(task->elapsedMs(), 30);
         // Waiting and Pending leave the clock as it is.
         TimeTracker::stateChanged(list, 0, Task::Pending);
-        QTest::qSleep(20);
-        QCOMPARE(task->elapsedMs(), first);
+        simulatedMs += 20;
+        QCOMPARE(task->elapsedMs(), 30);
         TimeTracker::stateChanged(list, 0, Task::Running);
-        QTest::qSleep(20);
+        simulatedMs += 20;
         TimeTracker::stateChanged(list, 0, Task::Waiting);
         QVERIFY(task->isRunning());
         TimeTracker::stateChanged(list, 0, Task::Succeed);
-        QVERIFY(!task->isRunning() && task->elapsedMs() >= first + 20);
+        simulatedMs += 20;
+        QVERIFY(!task->isRunning() && task->elapsedMs() == 50);
         TimeTracker::stateChanged(list, 0, Task::Idle);
         QCOMPARE(task->elapsedMs(), 0);
         TimeTracker::stateChanged(list, 999, Task::Running); // an unknown id is ignored
@@ -165,38 +173,111 @@ private slots:
 
     void batchFigures()
     {
+        RunTimer::setClock([] { return simulatedMs; });
         // No task out of Idle: nothing; and a second done is too early to say.
         TaskList early;
         addTask(early, 10, Task::Idle, 0);
         QCOMPARE(figuresText(early), u"false|0|0|0|0|0"_s);
         Task *started = addTask(early, 10, Task::Running, 1.0);
-        QCOMPARE(figuresText(early), u"false|0|1|10|0|%1"_s.arg(runFor(*started, 10)));
+        QCOMPARE(figuresText(early), u"false|0|1|10|0|%1"_s.arg(runFor(early, *started, 10)));
 
         TaskList list;
         Task *idle = addTask(list, 100, Task::Idle, 0);
-        Task *done = addTask(list, 10, Task::Succeed, 9.0);  // counts its whole length
-        Task *failed = addTask(list, 30, Task::Failed, 4.0); // counts only what it did
+        addTask(list, 10, Task::Succeed, 9.0); // counts its whole length
+        addTask(list, 30, Task::Failed, 4.0);  // counts only what it did
         Task *running = addTask(list, 20.5, Task::Running, 5.0);
-        Task *waiting = addTask(list, 6, Task::Waiting, 0);
-        runFor(*idle, 30);
-        const qint64 ran = runFor(*running, 25);
-        const qint64 elapsed = runFor(*done, 30) + runFor(*failed, 20) + ran;
+        addTask(list, 6, Task::Waiting, 0);
+        const qint64 ran = runFor(list, *running, 25);
         // One task: a quarter of its whole seconds done leaves three times as
         // long; a second done or less is too early to say.
         QCOMPARE(joined(TimeTracker::remainingMs(*running), TimeTracker::remainingMs(*started),
                         TimeTracker::remainingMs(*idle)),
                  joined(3 * ran, -1, -1));
         // Total: 10 + 4 + 20 (cut after adding) + 6 = 40; done: 10 + 4 + 5 = 19.
-        QCOMPARE(
-            figuresText(list),
-            joined(true, 2, 4, 47.5, qint64(double(elapsed) / 19 * 40 - double(elapsed)), elapsed));
+        QCOMPARE(figuresText(list), joined(true, 2, 4, 47.5, qint64(25.0 / 19 * 21), 25));
+    }
 
-        // Only failures: the bar is full and nothing is left.
-        done->setState(Task::Failed);
-        done->progress = 10;
-        running->setState(Task::Failed);
-        waiting->setState(Task::Idle);
-        QCOMPARE(figuresText(list), u"true|3|3|100|0|%1"_s.arg(elapsed));
+    void batchFiguresAgainstTheTruth_data()
+    {
+        // Encoders at once; the tasks' lengths in s, each encoded at 1.5 times
+        // its pace; what befalls the first task, at s of the wall clock.
+        QTest::addColumn<int>("encoders");
+        QTest::addColumn<QString>("lengths");
+        QTest::addColumn<QString>("event"); // "pause AT FOR" or "fail AT"
+        QTest::newRow("1 encoder, 2 tasks") << 1 << u"60 60"_s << QString();
+        QTest::newRow("2 encoders, 2 tasks") << 2 << u"60 60"_s << QString();
+        QTest::newRow("2 encoders, 3 tasks") << 2 << u"60 60 60"_s << QString();
+        QTest::newRow("2 encoders, 4 unequal tasks") << 2 << u"30 90 30 30"_s << QString();
+        QTest::newRow("paused, the other runs on") << 2 << u"60 60"_s << u"pause 5 15"_s;
+        QTest::newRow("paused, holding the only encoder") << 1 << u"60 60"_s << u"pause 5 20"_s;
+        QTest::newRow("failed, the next takes its encoder") << 2 << u"60 60 60"_s << u"fail 10"_s;
+    }
+
+    // A batch on a simulated clock, run as the queue runs it.
+    void batchFiguresAgainstTheTruth()
+    {
+        RunTimer::setClock([] { return simulatedMs; });
+        QFETCH(int, encoders);
+        QFETCH(QString, lengths);
+        QFETCH(QString, event);
+        const QStringList befalls = (event + u" 0 0"_s).split(u' ');
+        const qint64 at = befalls[1].toInt() * 1000, until = at + befalls[2].toInt() * 1000;
+        TaskList list;
+        const auto change = [&list](int position, Task::EState state) {
+            Task *task = list.at(position);
+            EditParameters &edit = task->items.front()->edit;
+            edit.convertEnd = state == Task::Running ? edit.trimEnd : edit.convertEnd;
+            task->setState(state);
+            TimeTracker::stateChanged(list, task->id, state);
+        };
+        QList<qint64> ran; // ms each task encoded
+        for (const QString &length : lengths.split(u' ')) {
+            // The length counts from the start on, as the command builder fixes it.
+            addTask(list, length.toDouble(), Task::Idle, 0)->items.front()->edit.convertEnd = 0;
+            change(int(ran.size()), Task::Waiting);
+            ran << 0;
+        }
+        QList<std::tuple<qint64, qint64, TimeTracker::BatchFigures>> seen; // wall, busy ms
+        qint64 wall = 0, busy = 0; // of the wall clock's ms, those with an encoder running
+        while (!allAtRest(list)) {
+            if (befalls[0] == u"pause"_s && (wall == at || wall == until))
+                change(0, wall == at ? Task::Paused : Task::Running);
+            // A free encoder takes the next waiting task at once; a paused one
+            // keeps its encoder.
+            for (int i = 0; i < list.count(); ++i) {
+                if (list.at(i)->state == Task::Waiting
+                    && states(list).count(QRegularExpression(u"[RP]"_s)) < encoders)
+                    change(i, Task::Running);
+            }
+            seen << std::tuple(wall, busy, TimeTracker::BatchFigures());
+            TimeTracker::batchFigures(list, &std::get<2>(seen.last()));
+            wall += 250;
+            simulatedMs += 250;
+            busy += states(list).contains(u'R') ? 250 : 0;
+            for (int i = 0; i < list.count(); ++i) {
+                Task *task = list.at(i);
+                if (task->state != Task::Running)
+                    continue;
+                task->progress = double((ran[i] += 250) * 3 / 2000);
+                if (task->progress >= task->convertDuration())
+                    change(i, Task::Succeed);
+                else if (i == 0 && befalls[0] == u"fail"_s && wall == at)
+                    change(i, Task::Failed);
+            }
+        }
+        // From half way to three quarters: the time left within a fifth of the
+        // truth, and elapsed the wall clock's time while anything ran.
+        for (const auto &[now, busyThen, figures] : std::as_const(seen)) {
+            if (2 * now >= wall && 4 * now <= 3 * wall) {
+                QVERIFY2(qAbs(figures.remaining - (wall - now)) <= (wall - now) / 5,
+                         qPrintable(joined(now, figures.remaining, wall - now)));
+                QCOMPARE(figures.elapsed, busyThen);
+            }
+        }
+        TimeTracker::BatchFigures end;
+        TimeTracker::batchFigures(list, &end);
+        QCOMPARE(joined(end.remaining, end.percent, end.finished, end.elapsed),
+                 joined(0, 100, list.count(), busy));
     }
 
     void batchRunsInListOrderWithinTheLimit()
@@ -328,9 +409,7 @@ private slots:
                  0);
         qputenv("KESTROVE_FFMPEG", QFile::encodeName(pacedFfmpeg));
         TaskList list(&catalogue);
-        // A task's length enters the figures at its start, so the batch figure
-        // covers the whole batch only once the last task runs: the long input
-        // goes last, so that half way lies there.
+        // The long input goes last, so that half way lies in it.
         double content = 0.0; // seconds in all
         for (const QString &what : {u"m0"_s, u"movie.mkv"_s, u"clip.mp4"_s, longInput})
             content += list.byId(add(list, what))->trimmedDuration();
@@ -364,13 +443,14 @@ private slots:
             // The batch counts each task's length in whole seconds: a tenth of
             // the whole batch's time at this pace leaves room for that.
             if (qAbs(figures.remaining - paced) > (paced + allBusy) / 10 + 300
+                || qAbs(figures.elapsed - clock.elapsed()) > 300
                 || (taskDone >= 3.0 && qAbs(taskRemaining - taskPaced) > taskPaced * 3 / 10 + 300))
-                failures << u"s done, batch ms, paced; task, paced: "_s
-                                + joined(done, figures.remaining, paced, taskRemaining, taskPaced);
+                failures << u"s done, batch ms, paced, elapsed; task, paced: "_s
+                                + joined(done, figures.remaining, paced, figures.elapsed,
+                                         taskRemaining, taskPaced);
             remaining << figures.remaining;
         });
-        // The batch figure adds up the stopwatches of all tasks, so it is a
-        // wall-clock time for one encoder at a time.
+        // One encoder at a time, as the pace above reckons.
         manager.setMaxProcesses(1);
         clock.start();
         manager.startAll();
