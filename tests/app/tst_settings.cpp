@@ -1,4 +1,5 @@
 #include "desktop.h"
+#include "desktopnotifier.h"
 #include "pathparts.h"
 #include "settings.h"
 #include "testhome.h"
@@ -7,6 +8,8 @@
 #include <QCoreApplication>
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
+#include <QDBusContext>
+#include <QDBusMessage>
 #include <QDesktopServices>
 #include <QDir>
 #include <QElapsedTimer>
@@ -14,9 +17,12 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QSettings>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 #include <QUrl>
 #include <QVariant>
 
@@ -64,24 +70,63 @@ public slots:
     }
 };
 
-// One that refuses holds the name but answers every call with an error.
-int fakeFileManagerMain(bool refuse)
+const QString notificationsService = u"org.freedesktop.Notifications"_s;
+
+// Stands in for a notification server: prints each Notify call and answers
+// id 7 only after a while; then actions are invoked on another id, another
+// action of this one, and this one's default action.
+class FakeNotifications : public QObject, protected QDBusContext
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Notifications")
+
+public slots:
+    uint Notify(const QString &app, uint replaces, const QString &icon, const QString &summary,
+                const QString &body, const QStringList &actions, const QVariantMap &hints,
+                int timeout)
+    {
+        QStringList line{app, QString::number(replaces), icon, summary, body, actions.join(u',')};
+        for (auto hint = hints.cbegin(); hint != hints.cend(); ++hint)
+            line << hint.key() + u'=' + hint.value().toString();
+        std::printf("%s|%d\n", line.join(u'|').toUtf8().constData(), timeout);
+        std::fflush(stdout);
+        setDelayedReply(true);
+        QTimer::singleShot(500, this, [reply = message().createReply(7u)] {
+            QDBusConnection bus = QDBusConnection::sessionBus();
+            bus.send(reply);
+            for (const auto &[id, action] :
+                 {std::pair(8u, "default"), {7u, "settings"}, {7u, "default"}}) {
+                QDBusMessage invoked = QDBusMessage::createSignal(
+                    u"/org/freedesktop/Notifications"_s, notificationsService, u"ActionInvoked"_s);
+                bus.send(invoked << id << QString::fromLatin1(action));
+            }
+        });
+        return 0;
+    }
+};
+
+// A file manager that refuses holds the name but answers every call with an error.
+int fakeServerMain(const QByteArray &mode)
 {
     FakeFileManager manager;
+    FakeNotifications notifications;
+    const bool notify = mode == "--fake-notifications";
+    QString name = notify ? notificationsService : fileManagerService;
     QDBusConnection bus = QDBusConnection::sessionBus();
-    if ((!refuse
-         && !bus.registerObject(u"/org/freedesktop/FileManager1"_s, &manager,
+    if ((mode != "--refusing-file-manager"
+         && !bus.registerObject(u'/' + QString(name).replace(u'.', u'/'),
+                                notify ? static_cast<QObject *>(&notifications) : &manager,
                                 QDBusConnection::ExportAllSlots))
-        || !bus.registerService(fileManagerService))
+        || !bus.registerService(name))
         return 1;
     std::printf("ready\n");
     std::fflush(stdout);
     return QCoreApplication::exec();
 }
 
-bool fileManagerRegistered()
+bool registered(const QString &service)
 {
-    return QDBusConnection::sessionBus().interface()->isServiceRegistered(fileManagerService);
+    return QDBusConnection::sessionBus().interface()->isServiceRegistered(service);
 }
 
 } // namespace
@@ -133,7 +178,7 @@ private slots:
             return;
         fake.kill();
         fake.waitForFinished();
-        QTRY_VERIFY(!fileManagerRegistered());
+        QTRY_VERIFY(!registered(fileManagerService) && !registered(notificationsService));
     }
 
     void freshUserGetsFoldersAndAnEmptyStore()
@@ -394,7 +439,7 @@ private slots:
             fake.start(QCoreApplication::applicationFilePath(), {fileManager});
             QVERIFY(fake.waitForReadyRead(10000) && fake.readLine().trimmed() == "ready");
         }
-        QCOMPARE(fileManagerRegistered(), !fileManager.isEmpty());
+        QCOMPARE(registered(fileManagerService), !fileManager.isEmpty());
         // Files in seven folders, two in the first, in no order; names with blanks
         // and umlauts; and files that are gone, one of them in a folder that's gone.
         QStringList files;
@@ -418,6 +463,40 @@ private slots:
                      ? QStringLiteral("~/f1 ü/clip 1.mp4|~/f1 ü/Ärger.mkv ~/f2 ü/clip 2.mp4 "
                                       "~/f3 ü/clip 3.mp4 ~/f4 ü/clip 4.mp4 ~/f5 ü/clip 5.mp4")
                      : u"~/f1 ü ~/f2 ü ~/f3 ü ~/f4 ü ~/f5 ü"_s);
+    }
+
+    void notificationComesBackWhenClicked_data()
+    {
+        QTest::addColumn<bool>("server");
+        QTest::newRow("a server shows it") << true;
+        QTest::newRow("no server: nothing, silently") << false;
+    }
+
+    void notificationComesBackWhenClicked()
+    {
+        QFETCH(bool, server);
+        QTest::failOnWarning(QRegularExpression(u".*"_s));
+        if (server) {
+            fake.start(QCoreApplication::applicationFilePath(), {u"--fake-notifications"_s});
+            QVERIFY(fake.waitForReadyRead(10000) && fake.readLine().trimmed() == "ready");
+        }
+        DesktopNotifier notifier;
+        QSignalSpy activated(&notifier, &DesktopNotifier::activated);
+        QElapsedTimer timer;
+        timer.start();
+        notifier.notify(u"Conversion done – Ärger"_s, u"3 files converted"_s, u"Show"_s);
+        // The server answers after half a second; the window must not wait.
+        QVERIFY2(timer.elapsed() < 250, qPrintable(QString::number(timer.elapsed())));
+        if (server) {
+            QVERIFY(fake.waitForReadyRead(10000));
+            QCOMPARE(QString::fromUtf8(fake.readLine()).trimmed(),
+                     u"Tessarine Kestrove|0|kestrove|Conversion done – Ärger|3 files converted|"
+                     "default,Show|desktop-entry=kestrove|-1"_s);
+            // The three actions come at once: only this notification's default one counts.
+            QTRY_VERIFY(!activated.isEmpty());
+        }
+        QTest::qWait(100);
+        QCOMPARE(activated.count(), server ? 1 : 0);
     }
 
     // Starts the real window program, as a user would, from a foreign folder,
@@ -474,12 +553,13 @@ private slots:
 
 int main(int argc, char *argv[])
 {
-    // Helpers: a file manager on the test's bus, or the store under the test's home.
+    // Helpers: a file manager or a notification server on the test's bus, or the store under the
+    // test's home.
     const QByteArray mode = argc > 1 ? QByteArray(argv[1]) : QByteArray();
     if (mode.startsWith("--")) {
         QCoreApplication app(argc, argv);
-        if (mode.endsWith("file-manager"))
-            return fakeFileManagerMain(mode == "--refusing-file-manager");
+        if (mode.endsWith("file-manager") || mode.endsWith("notifications"))
+            return fakeServerMain(mode);
         if (mode == "--write") {
             setSettingInt(u"ProcessCount"_s, 3);
             setSettingString(u"OutputDir"_s, QCoreApplication::arguments().value(2));
