@@ -54,7 +54,7 @@ qint64 TimeTracker::remainingMs(const Task &task)
 bool TimeTracker::batchFigures(const TaskList &taskList, BatchFigures *figures)
 {
     BatchFigures result;
-    qint64 totalSeconds = 0;
+    double totalSeconds = 0.0;
     double doneSeconds = 0.0;
     // Seconds left of the tasks that hold an encoder, then of those that
     // wait for one, in the order they will start.
@@ -63,15 +63,19 @@ bool TimeTracker::batchFigures(const TaskList &taskList, BatchFigures *figures)
         const Task *task = taskList.at(i);
         if (task->state == Task::Idle)
             continue;
-        // A failed task only ever needed what it did; a finished one did all.
-        const double total = task->state == Task::Failed ? task->progress : task->convertDuration();
-        totalSeconds = qint64(double(totalSeconds) + total);
-        doneSeconds += task->state == Task::Succeed ? task->convertDuration() : task->progress;
+        // A failed task only ever needed what it did; a finished one did all;
+        // a waiting one's length is fixed at its start, its trim tells it till then.
+        const double total = task->state == Task::Failed    ? task->progress
+                             : task->state == Task::Waiting ? task->trimmedDuration()
+                                                            : task->convertDuration();
+        totalSeconds += total;
+        doneSeconds += task->state == Task::Succeed   ? task->convertDuration()
+                       : task->state == Task::Waiting ? 0.0
+                                                      : task->progress;
         ++result.count;
         if (task->state == Task::Succeed || task->state == Task::Failed)
             ++result.finished;
-        // A task's length is fixed at its start; until then its trim tells it,
-        // and any progress is from an earlier run.
+        // Any progress of a waiting task is from an earlier run.
         if (task->state == Task::Waiting)
             queued.push_back(double(qint64(task->trimmedDuration())));
         const double left = std::max(double(qint64(task->convertDuration())) - task->progress, 0.0);
@@ -80,8 +84,8 @@ bool TimeTracker::batchFigures(const TaskList &taskList, BatchFigures *figures)
         else if (task->state == Task::Pending)
             queued.push_back(left);
     }
-    if (totalSeconds > 0)
-        result.percent = std::min(doneSeconds * 100.0 / double(totalSeconds), 100.0);
+    if (totalSeconds > 0.0)
+        result.percent = std::min(doneSeconds * 100.0 / totalSeconds, 100.0);
     result.elapsed = taskList.batchTimer.wallMs();
     const qint64 encoderMs = taskList.batchTimer.encoderMs();
     const bool known = doneSeconds > 1.0 && encoderMs > 0;
