@@ -165,6 +165,18 @@
         <source>Elapsed Time: %1 Remaining Time: %2 Progress: </source>
         <translation>الوقت المنقضي: %1 الوقت المتبقي: %2 التقدم: </translation>
     </message>
+    <message>
+        <source>Conversion finished</source>
+        <translation>انتهى التحويل</translation>
+    </message>
+    <message>
+        <source>Succeeded: %1, failed: %2</source>
+        <translation>نجح: %1، فشل: %2</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>عرض</translation>
+    </message>
 </context>
 <context>
     <name>CPlayPauseButton</name>

@@ -165,6 +165,18 @@
         <source>Elapsed Time: %1 Remaining Time: %2 Progress: </source>
         <translation>Uplynulý čas: %1 Zbývající čas: %2 Průběh: </translation>
     </message>
+    <message>
+        <source>Conversion finished</source>
+        <translation>Převod dokončen</translation>
+    </message>
+    <message>
+        <source>Succeeded: %1, failed: %2</source>
+        <translation>Úspěšně: %1, neúspěšně: %2</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Zobrazit</translation>
+    </message>
 </context>
 <context>
     <name>CPlayPauseButton</name>

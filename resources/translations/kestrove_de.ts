@@ -165,6 +165,18 @@
         <source>Elapsed Time: %1 Remaining Time: %2 Progress: </source>
         <translation>Vergangene Zeit: %1 Restzeit: %2 Fortschritt: </translation>
     </message>
+    <message>
+        <source>Conversion finished</source>
+        <translation>Konvertierung abgeschlossen</translation>
+    </message>
+    <message>
+        <source>Succeeded: %1, failed: %2</source>
+        <translation>Erfolgreich: %1, fehlgeschlagen: %2</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Anzeigen</translation>
+    </message>
 </context>
 <context>
     <name>CPlayPauseButton</name>

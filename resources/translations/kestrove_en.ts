@@ -164,6 +164,18 @@
         <source>Elapsed Time: %1 Remaining Time: %2 Progress: </source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Conversion finished</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Succeeded: %1, failed: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>CPlayPauseButton</name>

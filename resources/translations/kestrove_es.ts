@@ -165,6 +165,18 @@
         <source>Elapsed Time: %1 Remaining Time: %2 Progress: </source>
         <translation>Tiempo transcurrido: %1 Tiempo restante: %2 Progreso: </translation>
     </message>
+    <message>
+        <source>Conversion finished</source>
+        <translation>Conversión terminada</translation>
+    </message>
+    <message>
+        <source>Succeeded: %1, failed: %2</source>
+        <translation>Correctas: %1, fallidas: %2</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Mostrar</translation>
+    </message>
 </context>
 <context>
     <name>CPlayPauseButton</name>

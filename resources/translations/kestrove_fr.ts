@@ -165,6 +165,18 @@
         <source>Elapsed Time: %1 Remaining Time: %2 Progress: </source>
         <translation>Temps écoulé : %1 Temps restant : %2 Progression : </translation>
     </message>
+    <message>
+        <source>Conversion finished</source>
+        <translation>Conversion terminée</translation>
+    </message>
+    <message>
+        <source>Succeeded: %1, failed: %2</source>
+        <translation>Réussies : %1, échouées : %2</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Afficher</translation>
+    </message>
 </context>
 <context>
     <name>CPlayPauseButton</name>

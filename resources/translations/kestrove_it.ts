@@ -165,6 +165,18 @@
         <source>Elapsed Time: %1 Remaining Time: %2 Progress: </source>
         <translation>Tempo trascorso: %1 Tempo rimanente: %2 Avanzamento: </translation>
     </message>
+    <message>
+        <source>Conversion finished</source>
+        <translation>Conversione completata</translation>
+    </message>
+    <message>
+        <source>Succeeded: %1, failed: %2</source>
+        <translation>Riuscite: %1, non riuscite: %2</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Mostra</translation>
+    </message>
 </context>
 <context>
     <name>CPlayPauseButton</name>

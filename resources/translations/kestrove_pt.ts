@@ -165,6 +165,18 @@
         <source>Elapsed Time: %1 Remaining Time: %2 Progress: </source>
         <translation>Tempo decorrido: %1 Tempo restante: %2 Progresso: </translation>
     </message>
+    <message>
+        <source>Conversion finished</source>
+        <translation>Conversão concluída</translation>
+    </message>
+    <message>
+        <source>Succeeded: %1, failed: %2</source>
+        <translation>Concluídas: %1, com falha: %2</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Mostrar</translation>
+    </message>
 </context>
 <context>
     <name>CPlayPauseButton</name>

@@ -165,6 +165,18 @@
         <source>Elapsed Time: %1 Remaining Time: %2 Progress: </source>
         <translation>已用時間: %1 剩餘時間: %2 進度: </translation>
     </message>
+    <message>
+        <source>Conversion finished</source>
+        <translation>轉換完成</translation>
+    </message>
+    <message>
+        <source>Succeeded: %1, failed: %2</source>
+        <translation>成功: %1，失敗: %2</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>顯示</translation>
+    </message>
 </context>
 <context>
     <name>CPlayPauseButton</name>

@@ -522,6 +522,12 @@ CMainWnd::CMainWnd(QWidget *parent)
     connect(converter.get(), &ConverterManager::progressChanged, this,
             &CMainWnd::OnConvertProgressChanged);
     connect(converter.get(), &ConverterManager::stateChanged, this, &CMainWnd::OnTaskStateChanged);
+    connect(&notifier, &DesktopNotifier::activated, this, [this] {
+        if (isMinimized())
+            showNormal();
+        raise();
+        activateWindow();
+    });
     connect(titleLabel, &WndTitleLabel::titleClicked, this, &CMainWnd::on_maxBtn_clicked);
     editOutputDir->setText(QDir::toNativeSeparators(Setting::outputDir()));
 

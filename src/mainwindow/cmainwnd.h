@@ -1,11 +1,13 @@
 #pragma once
 
 #include "convertermanager.h"
+#include "desktopnotifier.h"
 #include "qxmainwidget.h"
 #include "task.h"
 #include "taskbarprogress.h"
 
 #include <QMap>
+#include <QSet>
 
 #include <memory>
 
@@ -241,6 +243,8 @@ private:
     QMap<int, int> rowHeights; // by row kind
 
     TaskbarProgress taskbar;
+    DesktopNotifier notifier;
+    QSet<int> batchTasks; // the tasks that ran since the last batch ended
     bool painted = false;
     bool ready = false;
     FFPlayer *player = nullptr;

@@ -174,6 +174,8 @@ void CMainWnd::OnConvertProgressChanged(int taskId, double seconds)
 void CMainWnd::OnTaskStateChanged(int taskId, Task::EState state)
 {
     TimeTracker::stateChanged(*taskList, taskId, state);
+    if (state == Task::Running)
+        batchTasks.insert(taskId);
     if (CustomItemWidget *row = faceOf(treeTask, itemOf(taskId))) {
         row->refreshState();
         const bool busy = state == Task::Running || state == Task::Paused || state == Task::Pending;
@@ -213,6 +215,20 @@ void CMainWnd::batchEnded()
     UpdateTotalProgress();
     setWindowTitle(WindowTitleText());
     titleLabel->setText(WindowTitleText());
+    // Told on the desktop when the user looks elsewhere.
+    int succeeded = 0;
+    int failed = 0;
+    for (int id : std::as_const(batchTasks)) {
+        if (const Task *task = taskList->byId(id)) {
+            succeeded += task->state == Task::Succeed;
+            failed += task->state == Task::Failed;
+        }
+    }
+    batchTasks.clear();
+    if (!isActiveWindow() && succeeded + failed > 0) {
+        notifier.notify(tr("Conversion finished"), tr("Succeeded: %1, failed: %2").arg(succeeded).arg(failed),
+                        tr("Show"));
+    }
     // The dialog that counts down to the chosen action hangs here.
     emit postTaskStep(TaskTreeOps::instance().postTaskAction);
 }

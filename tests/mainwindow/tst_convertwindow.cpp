@@ -9,10 +9,30 @@
 #include "tasklist.h"
 #include "testhome.h"
 
+#include <QDBusConnection>
+#include <QDBusMessage>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTreeWidget>
 #include <QtTest>
+
+// A notification server on a connection of its own: keeps what it was told.
+class FakeNotifications : public QObject
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Notifications")
+
+public:
+    QStringList told;
+
+public slots:
+    uint Notify(const QString &, uint, const QString &, const QString &summary, const QString &body,
+                const QStringList &actions, const QVariantMap &, int)
+    {
+        told << summary + QLatin1Char('|') + body + QLatin1Char('|') + actions.value(0);
+        return 7;
+    }
+};
 
 // Conversions started, paused and stopped from the window, on encoders that
 // take as long as their media last.
@@ -146,6 +166,36 @@ private slots:
         QCOMPARE(task(ids[1])->state, Task::Succeed);
         QCOMPARE(window->totalProgressBar->value(), 100);
         QCOMPARE(window->windowTitle(), CMainWnd::WindowTitleText());
+    }
+
+    // A batch that ends while the user looks elsewhere is told on the
+    // desktop; a click on the notice brings the window back.
+    void batchEndIsToldWhenTheWindowIsInactive()
+    {
+        QDBusConnection server = QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("fake"));
+        FakeNotifications fake;
+        QVERIFY(server.registerObject(QStringLiteral("/org/freedesktop/Notifications"), &fake,
+                                      QDBusConnection::ExportAllSlots));
+        QVERIFY(server.registerService(QStringLiteral("org.freedesktop.Notifications")));
+        const QList<int> ids = addFiles({fixture(media, "clip.mp4"), fixture(media, "clip.mp4")});
+        QWidget elsewhere;
+        elsewhere.show();
+        elsewhere.activateWindow();
+        QTRY_VERIFY(elsewhere.isActiveWindow());
+        window->converterManager()->setMaxProcesses(2);
+        window->action(QStringLiteral("actionConvert_Checked_Item_s"))->trigger();
+        QTRY_COMPARE_WITH_TIMEOUT(count(Task::Running), 2, 10000);
+        window->converterManager()->stopTask(ids[1]);
+        QTRY_VERIFY_WITH_TIMEOUT(window->tasks()->allAtRest(), 20000);
+        QTRY_COMPARE(fake.told, QStringList{QStringLiteral("Conversion finished|Succeeded: 1, failed: 1|default")});
+
+        server.send(QDBusMessage::createSignal(QStringLiteral("/org/freedesktop/Notifications"),
+                                               QStringLiteral("org.freedesktop.Notifications"),
+                                               QStringLiteral("ActionInvoked"))
+                    << 7u << QStringLiteral("default"));
+        QTRY_VERIFY(window->isActiveWindow());
+        server.unregisterService(QStringLiteral("org.freedesktop.Notifications"));
+        QDBusConnection::disconnectFromBus(QStringLiteral("fake"));
     }
 };
 
