@@ -1,7 +1,9 @@
 #include "tasktreeops.h"
 
 #include "childtask.h"
+#include "profilegrouploader.h"
 #include "settings.h"
+#include "settingswindow.h"
 #include "task.h"
 #include "tasklist.h"
 #include "utils.h"
@@ -296,9 +298,33 @@ bool TaskTreeOps::SetTaskBaseName(Task *task, const QString &text, bool wholeFil
         = sanitizeFileName(wholeFileName ? QFileInfo(text).completeBaseName() : text).trimmed();
     if (base.isEmpty())
         return false;
-    // The extension stays what it was: the name never touches it.
+    if (wholeFileName) {
+        task->setOutputBaseName(base, *ProfileGroupLoader::instance());
+        return true;
+    }
+    // A typed name never touches the extension.
     const QFileInfo old(task->output.fileName);
     task->setOutputBaseName(base, old.completeBaseName() == old.fileName() ? QString() : old.suffix());
+    return true;
+}
+
+bool TaskTreeOps::ApplyProfile(TaskList *list, QTreeWidgetItem *item, const QString &key,
+                               const QString &fileName, const SettingsWindow *panel) const
+{
+    if (!list || !CanApplyProfile(item))
+        return false;
+    Task *task = list->byId(taskIdOf(item));
+    if (!task)
+        return false;
+    panel->values(task->output.settings);
+    task->output.profileKey = key;
+    task->output.profileFile = fileName;
+    SetTaskBaseName(task, task->output.fileName, true);
+    // A new profile makes a finished task worth running again.
+    if (task->state == Task::Succeed || task->state == Task::Failed) {
+        task->setChecked(true, -1);
+        task->setState(Task::Idle);
+    }
     return true;
 }
 

@@ -8,6 +8,7 @@ class ChildTask;
 class QTreeWidget;
 class QTreeWidgetItem;
 class QWidget;
+class SettingsWindow;
 class Task;
 class TaskList;
 
@@ -67,10 +68,16 @@ public:
     static bool CanMoveDown(const QTreeWidget *tree);
     static bool CanMerge(const QTreeWidget *tree);
 
-    // A new output name for `task`, cleaned of what a file name can't hold;
-    // with `wholeFileName` its extension goes first. False, and nothing
-    // changed, where nothing is left.
+    // A new output name for `task`, cleaned of what a file name can't hold.
+    // A typed name keeps the extension there was; with `wholeFileName` the
+    // text's extension goes and the one of the task's profile comes. False,
+    // and nothing changed, where nothing is left.
     bool SetTaskBaseName(Task *task, const QString &text, bool wholeFileName) const;
+    // Gives the row's task the profile `key` (document `fileName`) with the
+    // panel's values; a finished task is made ready to run again. False for
+    // a row that can't take a profile now.
+    bool ApplyProfile(TaskList *list, QTreeWidgetItem *item, const QString &key,
+                      const QString &fileName, const SettingsWindow *panel) const;
 
     // Makes the style sheet apply again after a dynamic property changed.
     static void Repolish(QWidget *widget);
