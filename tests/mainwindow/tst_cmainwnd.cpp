@@ -214,9 +214,10 @@ private slots:
         window.reset();
     }
 
-    // Until something is there to act on, its commands are off; clearing
-    // the list brings that back.
-    void commandsAreOffOnAnEmptyList()
+    // The rows stand for the list: a disc's titles under one disc row, a
+    // merge's inputs under it. Until something is there to act on, its
+    // commands are off; clearing the list brings that back.
+    void rowsAndCommandsFollowTheList()
     {
         auto on = [](CMainWnd &w) {
             QStringList enabled;
@@ -231,18 +232,7 @@ private slots:
                     enabled << QLatin1String(name);
             return QStringLiteral("%1 page %2").arg(enabled.join(QLatin1Char(' '))).arg(w.mulitWnd->currentIndex());
         };
-        CMainWnd fresh;
-        QCOMPARE(on(fresh), QStringLiteral(" page 0"));
-        window->ResetToEmpty();
-        QCOMPARE(on(*window), QStringLiteral(" page 0"));
-        QCOMPARE(window->treeTask->topLevelItemCount() + window->tasks()->count(), 0);
-    }
-
-    void rowsStandForTheList()
-    {
-        QCOMPARE(window->mulitWnd->currentIndex(), 1);
-        QVERIFY(window->btnStart->isEnabled());
-        // The disc's two titles under one disc row; the merge's inputs under it.
+        QCOMPARE(on(*window), QStringLiteral("btnStart actionClear_All page 1"));
         QCOMPARE(window->treeTask->topLevelItemCount(), 4);
         QCOMPARE(row(QStringLiteral("disc"))->childCount(), 2);
         QCOMPARE(TaskTreeOps::kindOf(row(QStringLiteral("disc"))), RowDisc);
@@ -250,6 +240,11 @@ private slots:
         QCOMPARE(TaskTreeOps::kindOf(row(QStringLiteral("child"))), RowChild);
         window->addTaskRows(); // nothing new, nothing doubled
         QCOMPARE(window->treeTask->topLevelItemCount(), 4);
+        CMainWnd fresh;
+        QCOMPARE(on(fresh), QStringLiteral(" page 0"));
+        window->ResetToEmpty();
+        QCOMPARE(on(*window), QStringLiteral(" page 0"));
+        QCOMPARE(window->treeTask->topLevelItemCount() + window->tasks()->count(), 0);
     }
 
     void rowPredicates_data()
@@ -488,13 +483,17 @@ private slots:
         QCOMPARE(window->treeTask->currentItem(), window->treeTask->topLevelItem(0));
     }
 
-    // Cancel in the loading dialog once a row stands: the batch ends, the
-    // rows made stay, and what failed until then is still told.
-    void cancelledBatchKeepsItsRows()
+    // Eleven bad files, then good ones, and Cancel in the loading dialog once
+    // a row stands: the batch ends, the rows made stay, and what failed until
+    // then is told in one message, ten paths, "..." and all eleven behind the
+    // details.
+    void cancelledBatchKeepsItsRowsAndTellsFailures()
     {
         window->ResetToEmpty();
         QTemporaryDir dir;
-        QList<QUrl> urls{QUrl::fromLocalFile(writeFile(dir.filePath(QStringLiteral("bad.mkv")), "not media"))};
+        QList<QUrl> urls;
+        for (int i = 0; i < 11; ++i)
+            urls << QUrl::fromLocalFile(writeFile(dir.filePath(QStringLiteral("bad%1.mkv").arg(i)), "not media"));
         for (int i = 0; i < 6; ++i) {
             const QString copy = dir.filePath(QStringLiteral("clip%1.mp4").arg(i));
             QVERIFY(QFile::copy(fixture(media, "clip.mp4"), copy));
@@ -516,7 +515,10 @@ private slots:
         const int rows = window->treeTask->topLevelItemCount();
         QVERIFY2(rows >= 1 && rows < 6, qPrintable(rowsShown()));
         QCOMPARE(window->tasks()->count(), rows);
-        QCOMPARE(answers.failed(), QStringLiteral("bad.mkv"));
+        QCOMPARE(answers.told.size(), 1);
+        QCOMPARE(answers.told.first().count(QLatin1Char('\n')), 11); // the text, ten paths, "..."
+        QVERIFY(answers.told.first().endsWith(QLatin1String("\n...")));
+        QCOMPARE(answers.details.split(QLatin1Char('\n')).size(), 11);
     }
 
     // Open DVD offers the discs mounted where desktops mount them, and starts
@@ -572,25 +574,6 @@ private slots:
         QTEST(offered.join(QLatin1Char(' ')), "offered");
         QTEST(startsIn, "startsIn");
         QCOMPARE(rowsShown(), offered.isEmpty() ? QString() : QStringLiteral("[Title_1 Title_2 Title_3]"));
-    }
-
-    // Eleven bad files and a good one dropped: the good one's row, and a
-    // message with ten paths, "..." and all eleven behind the details.
-    void droppedBadFilesAreReportedTogether()
-    {
-        window->ResetToEmpty();
-        QTemporaryDir junk;
-        QList<QUrl> urls;
-        for (int i = 0; i < 11; ++i)
-            urls << QUrl::fromLocalFile(writeFile(junk.filePath(QStringLiteral("bad%1.mkv").arg(i)), "not media"));
-        urls << QUrl::fromLocalFile(fixture(media, "clip.mp4"));
-        DialogAnswers answers;
-        QVERIFY(drop(urls));
-        QCOMPARE(window->treeTask->topLevelItemCount(), 1);
-        QCOMPARE(answers.told.size(), 1);
-        QCOMPARE(answers.told.first().count(QLatin1Char('\n')), 11); // the text, ten paths, "..."
-        QVERIFY(answers.told.first().endsWith(QLatin1String("\n...")));
-        QCOMPARE(answers.details.split(QLatin1Char('\n')).size(), 11);
     }
 
     // The dock hears the batch's progress on the (private) session bus.
