@@ -40,6 +40,7 @@
 #include <QScreen>
 #include <QSet>
 #include <QScrollBar>
+#include <QSignalBlocker>
 #include <QTimer>
 #include <QSplitter>
 #include <QStackedWidget>
@@ -182,6 +183,29 @@ QString discPathOf(const QString &ifo)
 CustomItemWidget *rowOf(const QTreeWidget *tree, QTreeWidgetItem *item)
 {
     return item ? qobject_cast<CustomItemWidget *>(tree->itemWidget(item, 0)) : nullptr;
+}
+
+// The combo and the panel act on the selected rows, or on what comes next
+// when nothing is selected.
+bool profileApplies(const QTreeWidget *tree)
+{
+    return tree->selectedItems().isEmpty()
+           || TaskTreeOps::AnySelected(tree, [](const QTreeWidgetItem *row) {
+                  return TaskTreeOps::instance().CanApplyProfile(row);
+              });
+}
+
+void selectProfileKey(CProfileCombo *combo, const QString &key)
+{
+    combo->selectProfile(key.section(QLatin1Char(','), 0, 0), key.section(QLatin1Char(','), 1));
+}
+
+// Rename and Delete are for the user's own profiles.
+void offerUserCommands(QAction *rename, QAction *remove, const QString &key)
+{
+    const bool own = ProfileGroupLoader::isUserProfileId(key.section(QLatin1Char(','), 1));
+    rename->setEnabled(own);
+    remove->setEnabled(own);
 }
 
 // Discs mounted where desktops put removable media (/media/cdrom0,
@@ -548,6 +572,8 @@ CMainWnd::CMainWnd(QWidget *parent)
         findChild<QHBoxLayout *>(QStringLiteral("middleLayout"))->addWidget(settingsWindow);
     }
     settingsWindow->hide();
+    connect(settingsWindow, &SettingsWindow::valueChanged, this, &CMainWnd::OnSettingsValueChanged);
+    connect(settingsWindow, &SettingsWindow::applyToAll, this, &CMainWnd::OnSettingsApplyToAll);
 
     const QString catalogueDefault = ProfileGroupLoader::instance()->defaultProfile();
     QString key = Setting::profileIndex(catalogueDefault);
@@ -556,6 +582,7 @@ CMainWnd::CMainWnd(QWidget *parent)
     const QStringList parts = key.split(QLatin1Char(','));
     comboProfile->selectProfile(parts.value(0), parts.value(1));
     settingsWindow->setProfile(ProfileGroupLoader::instance()->fileNameOf(key), nullptr);
+    offerUserCommands(actionRenameProfile, actionDeleteProfile, key);
     ready = true;
 
     player = FFPlayer::instance();
@@ -645,6 +672,68 @@ void CMainWnd::on_startLabel_linkActivated(const QString &)
 QString CMainWnd::currentProfileKey() const
 {
     return comboProfile->currentData().value<ProfileRecord>().key;
+}
+
+void CMainWnd::on_comboProfile_currentIndexChanged(int index)
+{
+    if (index < 0 || !ready)
+        return;
+    const ProfileRecord profile = comboProfile->itemData(index).value<ProfileRecord>();
+    if (profile.key != Setting::profileIndex(ProfileGroupLoader::instance()->defaultProfile()))
+        setSettingString(QStringLiteral("ProfileIndex"), profile.key);
+    offerUserCommands(actionRenameProfile, actionDeleteProfile, profile.key);
+    // The same document keeps the panel's values: those of the current row.
+    if (settingsWindow->profileFile() != profile.fileName)
+        settingsWindow->setProfile(profile.fileName, nullptr);
+    QList<QTreeWidgetItem *> rows = treeTask->selectedItems();
+    if (QTreeWidgetItem *current = treeTask->currentItem())
+        rows.prepend(current);
+    const TaskTreeOps &ops = TaskTreeOps::instance();
+    for (QTreeWidgetItem *item : std::as_const(rows))
+        if (ops.ApplyProfile(taskList.get(), item, profile.key, profile.fileName, settingsWindow))
+            if (CustomItemWidget *row = rowOf(treeTask, item))
+                row->refresh();
+    on_treeTask_itemChanged(nullptr, 0);
+}
+
+void CMainWnd::OnSettingsValueChanged(const QString &key, const QString &value)
+{
+    QTreeWidgetItem *current = treeTask->currentItem();
+    // A queued or running task keeps the values its command line reads.
+    if (!TaskTreeOps::instance().CanApplyProfile(current))
+        return;
+    TaskTreeOps::instance().taskOf(current)->output.settings[key] = value;
+    if (key == QLatin1String("s"))
+        if (CustomItemWidget *row = rowOf(treeTask, current))
+            row->refreshTexts();
+}
+
+void CMainWnd::OnSettingsApplyToAll()
+{
+    if (QMessageBox::question(this, WindowTitleText(),
+                              tr("Are you sure to apply current profile settings to all items?"),
+                              QMessageBox::Ok | QMessageBox::Cancel)
+        != QMessageBox::Ok)
+        return;
+    const ProfileRecord profile = comboProfile->currentData().value<ProfileRecord>();
+    if (profile.key.isEmpty())
+        return;
+    // Top-level rows only: a disc's row has no task, and its titles stay.
+    const TaskTreeOps &ops = TaskTreeOps::instance();
+    for (int i = 0; i < treeTask->topLevelItemCount(); ++i) {
+        QTreeWidgetItem *item = treeTask->topLevelItem(i);
+        if (item != treeTask->currentItem()
+            && ops.ApplyProfile(taskList.get(), item, profile.key, profile.fileName, settingsWindow))
+            if (CustomItemWidget *row = rowOf(treeTask, item))
+                row->refresh();
+    }
+    on_treeTask_itemChanged(nullptr, 0);
+}
+
+void CMainWnd::on_actionSearch_Profile_triggered()
+{
+    if (comboProfile->isEnabled())
+        comboProfile->showSearch();
 }
 
 void CMainWnd::on_actionOpen_DVD_triggered()
@@ -1037,12 +1126,9 @@ void CMainWnd::ResetToEmpty()
 
 void CMainWnd::on_treeTask_itemSelectionChanged()
 {
-    const TaskTreeOps &ops = TaskTreeOps::instance();
     const QList<QTreeWidgetItem *> selected = treeTask->selectedItems();
     action(QStringLiteral("actionRemove_Selected_Item_s"))->setEnabled(!selected.isEmpty());
-    const bool profile = selected.isEmpty() || TaskTreeOps::AnySelected(treeTask, [&](const QTreeWidgetItem *r) {
-                             return ops.CanApplyProfile(r);
-                         });
+    const bool profile = profileApplies(treeTask);
     comboProfile->setEnabled(profile);
     settingsWindow->setEnabled(profile);
     settingsWindow->setEditable(selected.size() < 2
@@ -1070,7 +1156,25 @@ void CMainWnd::on_treeTask_currentItemChanged(QTreeWidgetItem *current, QTreeWid
     properties->setEnabled(plays);
     playPauseBtn->setEnabled(plays);
     extPlaywndBtn->setEnabled(plays);
-    comboProfile->setEnabled(kind == RowNormal || kind == RowMerge);
+    // The combo and the panel follow the row without applying anything; a
+    // title of a merge or a disc has no profile of its own.
+    const bool ownProfile = kind == RowNormal || kind == RowMerge;
+    const Task *task = ownProfile ? TaskTreeOps::instance().taskOf(current) : nullptr;
+    if (task && settingsWindow->profileFile() != task->output.profileFile) {
+        const QString key = task->output.profileKey;
+        {
+            const QSignalBlocker blocker(comboProfile);
+            selectProfileKey(comboProfile, key);
+        }
+        const QMap<QString, QString> values = task->output.settings;
+        settingsWindow->setProfile(task->output.profileFile, &values);
+        offerUserCommands(actionRenameProfile, actionDeleteProfile, key);
+    } else if (task) {
+        settingsWindow->setValues(QMap<QString, QString>(task->output.settings));
+    }
+    const bool profile = profileApplies(treeTask);
+    comboProfile->setEnabled(profile);
+    settingsWindow->setEnabled(profile);
     const ChildTask *input = TaskTreeOps::instance().inputOf(current);
     btnCrop->setEnabled(input && input->hasVideo);
     btnEffect->setEnabled(input && input->hasVideo);

@@ -176,6 +176,13 @@ private slots:
     void addFile();
     void addFolder();
     void showAddMenu();
+    // Each row's own profile: the combo and the panel show the current row's
+    // and give theirs to the current and the selected rows.
+    void on_comboProfile_currentIndexChanged(int index);
+    void OnSettingsValueChanged(const QString &key, const QString &value);
+    void OnSettingsApplyToAll();
+    void on_actionApply_Profile_to_All_triggered() { OnSettingsApplyToAll(); }
+    void on_actionSearch_Profile_triggered();
     void OnConvertProgressChanged(int taskId, double progress);
     void OnTaskStateChanged(int taskId, Task::EState state);
     void receiveMediaImage(int taskId);

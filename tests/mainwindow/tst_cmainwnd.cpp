@@ -8,6 +8,7 @@
 #include "privatebus.h"
 #include "profilegrouploader.h"
 #include "settings.h"
+#include "settingswindow.h"
 #include "tasklist.h"
 #include "tasktreeops.h"
 #include "testhome.h"
@@ -25,12 +26,15 @@
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QSignalSpy>
 #include <QStackedWidget>
 #include <QTreeWidget>
 #include <QtTest>
 
 #include <cstdio>
 #include <unistd.h>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -122,6 +126,29 @@ class TestMainWindow : public QObject
         task->checked = checked;
     }
 
+    Task *task(const QString &which) const { return window->tasks()->byId(ids[which]); }
+
+    // A profile chosen as a user does: F3, a part of its name typed into the
+    // search, Return on the first hit.
+    void choose(const QString &search)
+    {
+        window->action(QStringLiteral("actionSearch_Profile"))->trigger();
+        CSearchLineEdit *field = window->comboProfile->profileMenu()->searchField();
+        QTest::keyClicks(field, search);
+        QTest::keyClick(field, Qt::Key_Return);
+    }
+
+    // What the row shows and holds of its profile: the name on its face, the
+    // key, the state, the tick.
+    QString profileOf(const QString &which) const
+    {
+        const auto *row = qobject_cast<CustomItemWidget *>(face(which));
+        return QStringLiteral("%1 %2 %3%4")
+            .arg(row ? row->labelOutputName->text() : QStringLiteral("(no face)"), task(which)->output.profileKey)
+            .arg(task(which)->state)
+            .arg(task(which)->checked ? QString() : QStringLiteral(" unticked"));
+    }
+
     // Whether the window closes without a question; one asked gets `answer`.
     bool closes(QMessageBox::StandardButton answer = QMessageBox::Cancel)
     {
@@ -191,6 +218,7 @@ private slots:
 
     void init()
     {
+        setSettingString(QStringLiteral("ProfileIndex"), ProfileGroupLoader::instance()->defaultProfile());
         window = std::make_unique<CMainWnd>();
         window->show();
         TaskList *list = window->tasks();
@@ -341,6 +369,101 @@ private slots:
                   .arg(window->playPauseBtn->isEnabled())
                   .arg(window->comboProfile->isEnabled()),
               "enabled");
+    }
+
+    // A profile chosen goes to the current and the selected rows that aren't
+    // queued: their extension changes, a typed name stays, a finished task
+    // can run again.
+    void choiceGoesToTheSelectedRows_data()
+    {
+        QTest::addColumn<QStringList>("selected"); // the first current
+        QTest::addColumn<int>("filmState");
+        QTest::addColumn<bool>("othersTicked");
+        QTest::addColumn<QString>("rows"); // film | sound | title
+        QTest::newRow("two rows") << QStringList{u"film"_s, u"sound"_s} << int(Task::Idle) << true
+                                  << u"My Film.3gp 17,17 0|tone.3gp 17,17 0|Title_1.mp4 1,68 0"_s;
+        QTest::newRow("a finished row, nothing else ticked")
+            << QStringList{u"film"_s} << int(Task::Succeed) << false
+            << u"My Film.3gp 17,17 0|tone.mp4 1,68 0 unticked|Title_1.mp4 1,68 0 unticked"_s;
+        QTest::newRow("a running row is passed over") << QStringList{u"sound"_s, u"film"_s} << int(Task::Running)
+                                                      << true << u"My Film.mp4 1,68 2|tone.3gp 17,17 0|Title_1.mp4 1,68 0"_s;
+    }
+    void choiceGoesToTheSelectedRows()
+    {
+        QFETCH(QStringList, selected);
+        QFETCH(int, filmState);
+        QFETCH(bool, othersTicked);
+        for (int i = 0; i < window->tasks()->count(); ++i)
+            window->tasks()->at(i)->checked = othersTicked;
+        setState(u"film"_s, Task::EState(filmState), othersTicked);
+        QVERIFY(TaskTreeOps::instance().SetTaskBaseName(task(u"film"_s), u"My Film"_s, false));
+        window->on_treeTask_itemChanged(nullptr, 0);
+        QCOMPARE(window->btnStart->isEnabled(), othersTicked);
+        window->treeTask->setCurrentItem(row(selected.first()));
+        for (const QString &which : selected)
+            row(which)->setSelected(true);
+        choose(u"BlackBerry 3GP"_s);
+        QCOMPARE(window->settingsPanel()->profileFile(), u"BlackBerry_3gp.xml"_s);
+        QStringList rows;
+        for (const QString &which : {u"film"_s, u"sound"_s, u"title"_s}) {
+            rows << profileOf(which);
+            if (task(which)->output.profileKey == "17,17"_L1)
+                QCOMPARE(task(which)->output.settings, window->settingsPanel()->values());
+        }
+        QTEST(rows.join(u'|'), "rows");
+        QVERIFY(window->btnStart->isEnabled());
+    }
+
+    // An edit in the panel goes to the current row's task alone; another row
+    // made current brings its own profile and values back, applying nothing.
+    void panelFollowsTheCurrentRow_data()
+    {
+        QTest::addColumn<QString>("soundProfile"); // chosen for the sound first
+        QTest::addColumn<QString>("soundKey");
+        QTest::newRow("the same document") << "" << "1,68";
+        QTest::newRow("another document") << "BlackBerry 3GP" << "17,17";
+    }
+    void panelFollowsTheCurrentRow()
+    {
+        QFETCH(QString, soundProfile);
+        SettingsWindow *panel = window->settingsPanel();
+        const auto current = [&](const QString &which) { window->treeTask->setCurrentItem(row(which)); };
+        current(u"sound"_s);
+        if (!soundProfile.isEmpty())
+            choose(soundProfile);
+        const QMap<QString, QString> sound = task(u"sound"_s)->output.settings;
+        current(u"film"_s);
+        auto *film = qobject_cast<CustomItemWidget *>(face(u"film"_s));
+        const QString sizeShown = film->videoSizeLabel->text();
+        QSignalSpy chosen(window->comboProfile, &QComboBox::currentIndexChanged);
+        // The Simple tab's size, as a user picks it.
+        auto *size = panel->findChild<QComboBox *>(u"comboVideoSize"_s);
+        QVERIFY(panel->isEditable() && size->count() > 2);
+        size->setCurrentIndex(size->count() - 1);
+        const QString picked = size->currentData().toString();
+        QCOMPARE(task(u"film"_s)->value(u"s"_s), picked);
+        QVERIFY(film->videoSizeLabel->text() != sizeShown);
+        current(u"sound"_s);
+        QTEST(window->comboProfile->currentRecord().key, "soundKey");
+        QCOMPARE(panel->values(), sound);
+        current(u"film"_s);
+        QCOMPARE(window->comboProfile->currentRecord().key + panel->values().value(u"s"_s), u"1,68"_s + picked);
+        QCOMPARE(task(u"sound"_s)->output.settings, sound);
+        QCOMPARE(chosen.count(), 0);
+    }
+
+    // With no row, a choice is kept for the next import.
+    void choiceOnAnEmptyListWaitsForTheImport()
+    {
+        window->ResetToEmpty();
+        choose(u"BlackBerry 3GP"_s);
+        QCOMPARE(settingString(u"ProfileIndex"_s) + window->settingsPanel()->profileFile(), u"17,17BlackBerry_3gp.xml"_s);
+        QCOMPARE(window->tasks()->count(), 0);
+        DialogAnswers answers;
+        QVERIFY(drop({QUrl::fromLocalFile(fixture(media, "clip.mp4"))}));
+        const Task *clip = window->tasks()->at(0);
+        QCOMPARE(clip->output.profileKey + u' ' + clip->output.fileName, u"17,17 clip.3gp"_s);
+        QCOMPARE(clip->output.settings, window->settingsPanel()->values());
     }
 
     void stateChangeSwapsTheRowsFaces()
