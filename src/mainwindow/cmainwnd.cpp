@@ -2,6 +2,7 @@
 
 #include "controls.h"
 #include "cprofilecombo.h"
+#include "csaveasdlg.h"
 #include "customitemwidget.h"
 #include "desktop.h"
 #include "dvddisc.h"
@@ -206,6 +207,21 @@ void offerUserCommands(QAction *rename, QAction *remove, const QString &key)
     const bool own = ProfileGroupLoader::isUserProfileId(key.section(QLatin1Char(','), 1));
     rename->setEnabled(own);
     remove->setEnabled(own);
+}
+
+// The name for a profile saved or renamed, offering the shown one without
+// its extension, numbered; empty when the user cancels.
+QString askProfileName(QWidget *parent, const QComboBox *combo)
+{
+    CSaveAsDlg dialog(parent);
+    dialog.setName(combo->currentText().section(QLatin1Char('('), 0, 0) + QStringLiteral("- 1"));
+    return dialog.exec() == QDialog::Accepted ? dialog.name() : QString();
+}
+
+void tellProfilesUnsaved(QWidget *parent, const QString &error)
+{
+    QMessageBox::warning(parent, CMainWnd::WindowTitleText(),
+                         CMainWnd::tr("Your profiles could not be saved.\n%1").arg(error));
 }
 
 // Discs mounted where desktops put removable media (/media/cdrom0,
@@ -574,6 +590,10 @@ CMainWnd::CMainWnd(QWidget *parent)
     settingsWindow->hide();
     connect(settingsWindow, &SettingsWindow::valueChanged, this, &CMainWnd::OnSettingsValueChanged);
     connect(settingsWindow, &SettingsWindow::applyToAll, this, &CMainWnd::OnSettingsApplyToAll);
+    connect(btnSaveProfile, &QToolButton::clicked, this, &CMainWnd::OnSaveProfile);
+    connect(actionSaveProfile, &QAction::triggered, this, &CMainWnd::OnSaveProfile);
+    connect(actionRenameProfile, &QAction::triggered, this, &CMainWnd::renameProfile);
+    connect(actionDeleteProfile, &QAction::triggered, this, &CMainWnd::deleteProfile);
 
     const QString catalogueDefault = ProfileGroupLoader::instance()->defaultProfile();
     QString key = Setting::profileIndex(catalogueDefault);
@@ -734,6 +754,57 @@ void CMainWnd::on_actionSearch_Profile_triggered()
 {
     if (comboProfile->isEnabled())
         comboProfile->showSearch();
+}
+
+void CMainWnd::OnSaveProfile()
+{
+    const ProfileRecord profile = comboProfile->currentData().value<ProfileRecord>();
+    if (profile.key.isEmpty())
+        return;
+    const QString name = askProfileName(this, comboProfile);
+    if (name.isEmpty())
+        return;
+    ProfileGroupLoader *catalogue = ProfileGroupLoader::instance();
+    const QString key = catalogue->saveUserProfile(profile.key, settingsWindow->values(), name);
+    if (key.isEmpty()) {
+        tellProfilesUnsaved(this, catalogue->errorString());
+        return;
+    }
+    // The combo knows the new profile already; choosing it gives it to the rows.
+    selectProfileKey(comboProfile, key);
+}
+
+void CMainWnd::renameProfile()
+{
+    const QString key = comboProfile->currentData().value<ProfileRecord>().key;
+    const QString id = key.section(QLatin1Char(','), 1);
+    if (!ProfileGroupLoader::isUserProfileId(id))
+        return;
+    const QString typed = askProfileName(this, comboProfile);
+    if (typed.isEmpty())
+        return;
+    // The combo shows the new name as the catalogue announces it.
+    ProfileGroupLoader *catalogue = ProfileGroupLoader::instance();
+    const QString name
+        = cleanProfileName(typed, QCoreApplication::translate("ProfileGroupLoader", "Untitled"));
+    if (!catalogue->renameUserProfile(key.section(QLatin1Char(','), 0, 0), id, name))
+        tellProfilesUnsaved(this, catalogue->errorString());
+}
+
+void CMainWnd::deleteProfile()
+{
+    const QString key = comboProfile->currentData().value<ProfileRecord>().key;
+    const QString id = key.section(QLatin1Char(','), 1);
+    ProfileGroupLoader *catalogue = ProfileGroupLoader::instance();
+    if (!ProfileGroupLoader::isUserProfileId(id) || !catalogue->hasProfile(key))
+        return;
+    QString from = catalogue->removeUserProfile(key.section(QLatin1Char(','), 0, 0), id);
+    if (!catalogue->errorString().isEmpty())
+        tellProfilesUnsaved(this, catalogue->errorString());
+    if (!catalogue->hasProfile(from))
+        from = catalogue->defaultProfile();
+    // The rows that had it move to the profile it was made from.
+    selectProfileKey(comboProfile, from);
 }
 
 void CMainWnd::on_actionOpen_DVD_triggered()

@@ -183,6 +183,9 @@ private slots:
     void OnSettingsApplyToAll();
     void on_actionApply_Profile_to_All_triggered() { OnSettingsApplyToAll(); }
     void on_actionSearch_Profile_triggered();
+    void OnSaveProfile();
+    void renameProfile();
+    void deleteProfile();
     void OnConvertProgressChanged(int taskId, double progress);
     void OnTaskStateChanged(int taskId, Task::EState state);
     void receiveMediaImage(int taskId);

@@ -3,6 +3,7 @@
 #include "cmainwnd.h"
 #include "controls.h"
 #include "cprofilecombo.h"
+#include "csaveasdlg.h"
 #include "customitemwidget.h"
 #include "mediafixtures.h"
 #include "privatebus.h"
@@ -19,8 +20,10 @@
 #include <QDBusArgument>
 #include <QDBusConnection>
 #include <QDBusMessage>
+#include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMimeData>
 #include <QMessageBox>
 #include <QProgressDialog>
@@ -40,11 +43,12 @@ namespace {
 
 // Answers the dialogs an import opens, as a user: the first file dialog by
 // `choose` (any later one is closed), each message box by OK, noting what
-// the boxes said.
+// the boxes said; a profile's name is typed over the one suggested.
 struct DialogAnswers
 {
     std::function<void(QFileDialog *)> choose;
-    QStringList told; // each box's text, its informative text below it
+    QString profileName;
+    QStringList told; // each box's text, its informative text below it; a suggested name
     QString details;
     QTimer timer;
 
@@ -62,6 +66,12 @@ struct DialogAnswers
                 told << QStringList{box->text(), box->informativeText()}.join(QLatin1Char('\n')).trimmed();
                 details = box->detailedText();
                 box->accept();
+            } else if (auto *saveAs = qobject_cast<CSaveAsDlg *>(modal)) {
+                auto *name = saveAs->findChild<QLineEdit *>();
+                told << name->text();
+                name->clear();
+                QTest::keyClicks(name, profileName);
+                saveAs->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok)->click();
             }
         });
         timer.start(20);
@@ -450,6 +460,27 @@ private slots:
         QCOMPARE(window->comboProfile->currentRecord().key + panel->values().value(u"s"_s), u"1,68"_s + picked);
         QCOMPARE(task(u"sound"_s)->output.settings, sound);
         QCOMPARE(chosen.count(), 0);
+    }
+
+    // Save As keeps the panel's values as a profile of the user's own, which
+    // the current row takes; deleting it sends the row back to the profile
+    // it was made from. Rename and Delete are for such profiles only.
+    void ownProfileSavedAndDeleted()
+    {
+        window->treeTask->setCurrentItem(row(u"film"_s));
+        const QList<QAction *> commands = window->btnSaveProfile->menu()->actions(); // save, rename, delete
+        const auto offered = [&] { return commands[1]->isEnabled() + commands[2]->isEnabled(); };
+        QCOMPARE(offered(), 0);
+        DialogAnswers answers;
+        answers.profileName = u"Mine"_s;
+        window->btnSaveProfile->click();
+        QCOMPARE(answers.told, QStringList{u"MPEG4 Video- 1"_s});
+        const QString key = task(u"film"_s)->output.profileKey;
+        QCOMPARE(task(u"film"_s)->output.profileFile, u"user/Mine.xml"_s);
+        QCOMPARE(window->comboProfile->currentText() + QString::number(offered()), u"Mine(*.mp4)2"_s);
+        commands[2]->trigger();
+        QVERIFY(!ProfileGroupLoader::instance()->hasProfile(key));
+        QCOMPARE(profileOf(u"film"_s) + QString::number(offered()), u"movie.mp4 1,68 00"_s);
     }
 
     // With no row, a choice is kept for the next import.
