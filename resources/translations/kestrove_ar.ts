@@ -177,6 +177,16 @@
         <source>Show</source>
         <translation>عرض</translation>
     </message>
+    <message>
+        <source>Your profiles could not be saved.
+%1</source>
+        <translation>تعذّر حفظ ملفات التعريف الخاصة بك.
+%1</translation>
+    </message>
+    <message>
+        <source>Are you sure to apply current profile settings to all items?</source>
+        <translation>هل أنت متأكد من تطبيق إعدادات ملف التعريف الحالي على جميع العناصر؟</translation>
+    </message>
 </context>
 <context>
     <name>CPlayPauseButton</name>

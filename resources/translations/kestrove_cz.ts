@@ -177,6 +177,16 @@
         <source>Show</source>
         <translation>Zobrazit</translation>
     </message>
+    <message>
+        <source>Your profiles could not be saved.
+%1</source>
+        <translation>Vaše profily nelze uložit.
+%1</translation>
+    </message>
+    <message>
+        <source>Are you sure to apply current profile settings to all items?</source>
+        <translation>Opravdu chcete použít nastavení aktuálního profilu na všechny položky?</translation>
+    </message>
 </context>
 <context>
     <name>CPlayPauseButton</name>

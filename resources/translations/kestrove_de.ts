@@ -177,6 +177,16 @@
         <source>Show</source>
         <translation>Anzeigen</translation>
     </message>
+    <message>
+        <source>Your profiles could not be saved.
+%1</source>
+        <translation>Ihre Profile konnten nicht gespeichert werden.
+%1</translation>
+    </message>
+    <message>
+        <source>Are you sure to apply current profile settings to all items?</source>
+        <translation>Sollen die Einstellungen des aktuellen Profils wirklich auf alle Einträge angewendet werden?</translation>
+    </message>
 </context>
 <context>
     <name>CPlayPauseButton</name>

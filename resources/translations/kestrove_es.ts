@@ -177,6 +177,16 @@
         <source>Show</source>
         <translation>Mostrar</translation>
     </message>
+    <message>
+        <source>Your profiles could not be saved.
+%1</source>
+        <translation>No se han podido guardar sus perfiles.
+%1</translation>
+    </message>
+    <message>
+        <source>Are you sure to apply current profile settings to all items?</source>
+        <translation>¿Seguro que desea aplicar la configuración del perfil actual a todos los elementos?</translation>
+    </message>
 </context>
 <context>
     <name>CPlayPauseButton</name>

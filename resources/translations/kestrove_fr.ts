@@ -177,6 +177,16 @@
         <source>Show</source>
         <translation>Afficher</translation>
     </message>
+    <message>
+        <source>Your profiles could not be saved.
+%1</source>
+        <translation>Impossible d&apos;enregistrer vos profils.
+%1</translation>
+    </message>
+    <message>
+        <source>Are you sure to apply current profile settings to all items?</source>
+        <translation>Voulez-vous vraiment appliquer les paramètres du profil actuel à tous les éléments ?</translation>
+    </message>
 </context>
 <context>
     <name>CPlayPauseButton</name>

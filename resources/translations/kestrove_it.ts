@@ -177,6 +177,16 @@
         <source>Show</source>
         <translation>Mostra</translation>
     </message>
+    <message>
+        <source>Your profiles could not be saved.
+%1</source>
+        <translation>Impossibile salvare i profili personali.
+%1</translation>
+    </message>
+    <message>
+        <source>Are you sure to apply current profile settings to all items?</source>
+        <translation>Applicare davvero le impostazioni del profilo corrente a tutti gli elementi?</translation>
+    </message>
 </context>
 <context>
     <name>CPlayPauseButton</name>

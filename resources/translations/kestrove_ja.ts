@@ -177,6 +177,16 @@
         <source>Show</source>
         <translation>表示</translation>
     </message>
+    <message>
+        <source>Your profiles could not be saved.
+%1</source>
+        <translation>ユーザー プロファイルを保存できませんでした。
+%1</translation>
+    </message>
+    <message>
+        <source>Are you sure to apply current profile settings to all items?</source>
+        <translation>現在のプロファイルの設定をすべての項目に適用しますか?</translation>
+    </message>
 </context>
 <context>
     <name>CPlayPauseButton</name>

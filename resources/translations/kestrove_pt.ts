@@ -177,6 +177,16 @@
         <source>Show</source>
         <translation>Mostrar</translation>
     </message>
+    <message>
+        <source>Your profiles could not be saved.
+%1</source>
+        <translation>Não foi possível guardar os seus perfis.
+%1</translation>
+    </message>
+    <message>
+        <source>Are you sure to apply current profile settings to all items?</source>
+        <translation>Tem a certeza de que pretende aplicar as definições do perfil atual a todos os itens?</translation>
+    </message>
 </context>
 <context>
     <name>CPlayPauseButton</name>

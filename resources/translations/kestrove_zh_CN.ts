@@ -177,6 +177,16 @@
         <source>Show</source>
         <translation>显示</translation>
     </message>
+    <message>
+        <source>Your profiles could not be saved.
+%1</source>
+        <translation>无法保存您的配置文件。
+%1</translation>
+    </message>
+    <message>
+        <source>Are you sure to apply current profile settings to all items?</source>
+        <translation>确定要将当前配置文件的设置应用到所有项目吗？</translation>
+    </message>
 </context>
 <context>
     <name>CPlayPauseButton</name>

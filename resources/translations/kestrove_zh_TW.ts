@@ -177,6 +177,16 @@
         <source>Show</source>
         <translation>顯示</translation>
     </message>
+    <message>
+        <source>Your profiles could not be saved.
+%1</source>
+        <translation>無法儲存您的設定檔。
+%1</translation>
+    </message>
+    <message>
+        <source>Are you sure to apply current profile settings to all items?</source>
+        <translation>確定要將目前設定檔的設定套用到所有項目嗎？</translation>
+    </message>
 </context>
 <context>
     <name>CPlayPauseButton</name>
