@@ -713,7 +713,7 @@ void CMainWnd::on_comboProfile_currentIndexChanged(int index)
         if (ops.ApplyProfile(taskList.get(), item, profile.key, profile.fileName, settingsWindow))
             if (CustomItemWidget *row = rowOf(treeTask, item))
                 row->refresh();
-    on_treeTask_itemChanged(nullptr, 0);
+    UpdateStartButton();
 }
 
 void CMainWnd::OnSettingsValueChanged(const QString &key, const QString &value)
@@ -738,16 +738,16 @@ void CMainWnd::OnSettingsApplyToAll()
     const ProfileRecord profile = comboProfile->currentData().value<ProfileRecord>();
     if (profile.key.isEmpty())
         return;
-    // Top-level rows only: a disc's row has no task, and its titles stay.
+    // Every row that takes a profile, a disc's titles too.
     const TaskTreeOps &ops = TaskTreeOps::instance();
-    for (int i = 0; i < treeTask->topLevelItemCount(); ++i) {
-        QTreeWidgetItem *item = treeTask->topLevelItem(i);
+    for (QTreeWidgetItemIterator it(treeTask); *it; ++it) {
+        QTreeWidgetItem *item = *it;
         if (item != treeTask->currentItem()
             && ops.ApplyProfile(taskList.get(), item, profile.key, profile.fileName, settingsWindow))
             if (CustomItemWidget *row = rowOf(treeTask, item))
                 row->refresh();
     }
-    on_treeTask_itemChanged(nullptr, 0);
+    UpdateStartButton();
 }
 
 void CMainWnd::on_actionSearch_Profile_triggered()

@@ -237,7 +237,8 @@ void CMainWnd::UpdateTotalProgress()
 {
     TimeTracker::BatchFigures figures;
     TimeTracker::batchFigures(*taskList, &figures);
-    const int percent = int(figures.percent);
+    // Truncated, past the rounding of the division: half done reads 50.
+    const int percent = int(figures.percent + 1e-6);
     const bool active = !taskList->allAtRest();
     totalProgressBar->setValue(percent);
     totalProgressBar->setFormat(tr("Elapsed Time: %1 Remaining Time: %2 Progress: ")
