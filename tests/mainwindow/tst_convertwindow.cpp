@@ -1,16 +1,23 @@
 #include "cmainwnd.h"
 #include "conversion/processtools.h"
 #include "controls.h"
+#include "ffmpegtools.h"
+#include "cprofilecombo.h"
 #include "customitemwidget.h"
 #include "mediafixtures.h"
 #include "privatebus.h"
 #include "profilegrouploader.h"
 #include "settings.h"
+#include "settingswindow.h"
 #include "tasklist.h"
 #include "testhome.h"
 
+#include <QCheckBox>
+#include <QComboBox>
 #include <QDBusConnection>
 #include <QDBusMessage>
+#include <QFileDialog>
+#include <QLineEdit>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTreeWidget>
@@ -90,6 +97,78 @@ private slots:
         QTRY_VERIFY(window->tasks()->allAtRest());
         window.reset();
         overrideSetting(QStringLiteral("ProcessCount"), QVariant());
+    }
+
+    // The row of a task made current, its widget once it has one.
+    QWidget *select(int taskId)
+    {
+        QTreeWidgetItem *item = window->itemOf(taskId);
+        window->treeTask->setFocus();
+        window->treeTask->setCurrentItem(item, 0, QItemSelectionModel::ClearAndSelect);
+        window->treeTask->scrollToItem(item);
+        QWidget *face = nullptr;
+        QTest::qWaitFor([&] { return (face = window->treeTask->itemWidget(item, 0)); }, 2000);
+        return face;
+    }
+
+    // A user's whole road: Open DVD, two titles ticked, an iPhone profile
+    // picked for both, a lower bit rate for each in the panel, Start.
+    void userConvertsTwoTitlesOfADisc()
+    {
+        overrideSetting(QStringLiteral("ProcessCount"), 2);
+        QTimer::singleShot(300, this, [this] {
+            auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+            QVERIFY(dialog);
+            auto *name = dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+            name->setText(fixture(media, "dvd-main"));
+            QTest::keyClick(name, Qt::Key_Return);
+        });
+        window->action(QStringLiteral("actionOpen_DVD"))->trigger();
+        QTRY_COMPARE(window->tasks()->count(), 3);
+        const int first = window->tasks()->at(0)->id, second = window->tasks()->at(1)->id,
+                  third = window->tasks()->at(2)->id;
+        auto *middle = qobject_cast<CustomItemWidget *>(select(second));
+        QVERIFY(middle);
+        middle->checkBox->click();
+        QVERIFY(!task(second)->checked);
+
+        select(first);
+        window->itemOf(third)->setSelected(true);
+        QCOMPARE(window->treeTask->selectedItems().size(), 2);
+        window->action(QStringLiteral("actionSearch_Profile"))->trigger();
+        CSearchLineEdit *search = window->comboProfile->profileMenu()->searchField();
+        QTest::keyClicks(search, QStringLiteral("iPhone H.264"));
+        QTest::keyClick(search, Qt::Key_Return);
+        auto *quality = window->settingsPanel()->findChild<QComboBox *>(QStringLiteral("comboVideoQuality"));
+        for (int id : {first, third}) {
+            QCOMPARE(task(id)->output.profileKey, QStringLiteral("15,45"));
+            select(id);
+            quality->setCurrentIndex(quality->findText(QStringLiteral("Lowest")));
+            QCOMPARE(task(id)->value(QStringLiteral("b")), QStringLiteral("512"));
+        }
+
+        QTest::mouseClick(window->btnStart, Qt::LeftButton);
+        QTRY_VERIFY_WITH_TIMEOUT(count(Task::Running) == 2, 10000);
+        QTRY_VERIFY(task(first)->progress > 0.5);
+        auto *row = qobject_cast<CustomItemWidget *>(window->treeTask->itemWidget(window->itemOf(first), 0));
+        QVERIFY(row && row->progressWidget->isVisible());
+        QVERIFY(window->windowTitle().startsWith(QString::number(window->totalProgressBar->value()) + QLatin1Char('%')));
+        QTRY_VERIFY_WITH_TIMEOUT(window->tasks()->allAtRest(), 30000);
+
+        QCOMPARE(task(second)->state, Task::Idle);
+        for (int id : {first, third}) {
+            QCOMPARE(task(id)->state, Task::Succeed);
+            auto *face = qobject_cast<CustomItemWidget *>(select(id));
+            QVERIFY(!task(id)->checked && face && !face->checkBox->isChecked());
+            const QString file = task(id)->output.filePath;
+            QCOMPARE(probe(file, QStringLiteral("stream=width,height"), QStringLiteral("v:0")),
+                     QStringLiteral("width=480\nheight=320\n"));
+            // The encoder's own note of its settings, written into the stream.
+            QVERIFY2(readFile(file).contains(" bitrate=512 "), qPrintable(file));
+        }
+        QCOMPARE(window->totalProgressBar->value(), 100);
+        QCOMPARE(window->windowTitle(), CMainWnd::WindowTitleText());
+        QCOMPARE(window->btnStart->property("status").toString(), QStringLiteral("start"));
     }
 
     // Stop with two running and one waiting: the waiting one goes back,
