@@ -1077,6 +1077,8 @@ CustomItemWidget *CMainWnd::makeRowFace(QTreeWidgetItem *item)
     connect(row, &CustomItemWidget::pauseTask, this, &CMainWnd::onPauseTask);
     connect(row, &CustomItemWidget::stopTask, this, &CMainWnd::onStopTask);
     connect(row, &CustomItemWidget::stopAndContinuePlayMedia, this, &CMainWnd::onStopAndContinuePlay);
+    connect(row, &CustomItemWidget::removeRequested, this, [this, item] { removeRowOf(item); });
+    connect(row, &CustomItemWidget::moveRequested, this, [this, item](int step) { MoveRow(item, step); });
     connect(row, &CustomItemWidget::playMedia, this, [this] {
         if (!playing)
             on_playPauseBtn_clicked();

@@ -133,6 +133,9 @@ public slots:
     void on_actionPause_All_Item_s_triggered();
     void on_actionStop_All_Item_s_triggered();
     void onPauseTask(int taskId, bool pause);
+    void on_actionRemove_Selected_Item_s_triggered();
+    void on_actionMove_Up_triggered();
+    void on_actionMove_Down_triggered();
     void onStopTask(int taskId);
     void on_actionAudio_Track_triggered() {}
     void on_actionSubtitle_triggered() {}
@@ -209,6 +212,14 @@ protected:
 
 private:
     void UpdateStartButton();
+    // A row and its task leave; a disc row takes its titles, a merge's last
+    // input the merge.
+    void RemoveRow(QTreeWidgetItem *item);
+    void removeRowOf(QTreeWidgetItem *item);
+    void afterRemoval();
+    // One place up (-1) or down (1) among its siblings.
+    void MoveRow(QTreeWidgetItem *item, int step);
+    void moveSelected(int step);
     void batchEnded();
     void startRow(QTreeWidgetItem *item);
     bool anyRow(bool (TaskTreeOps::*test)(const QTreeWidgetItem *, bool) const, bool onlyChecked) const;

@@ -3,6 +3,8 @@
 #include "controls.h"
 #include "ffmpegtools.h"
 #include "cprofilecombo.h"
+#include "dvddisc.h"
+#include "tasktreeops.h"
 #include "customitemwidget.h"
 #include "mediafixtures.h"
 #include "privatebus.h"
@@ -20,7 +22,9 @@
 #include <QLineEdit>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QStackedWidget>
 #include <QTreeWidget>
+#include <QTreeWidgetItemIterator>
 #include <QtTest>
 
 // A notification server on a connection of its own: keeps what it was told.
@@ -169,6 +173,39 @@ private slots:
         QCOMPARE(window->totalProgressBar->value(), 100);
         QCOMPARE(window->windowTitle(), CMainWnd::WindowTitleText());
         QCOMPARE(window->btnStart->property("status").toString(), QStringLiteral("start"));
+    }
+
+    // A row's close and arrow buttons and Remove Selected: the tree and the
+    // list change together, and an empty list is the start page again.
+    void rowsLeaveAndMove()
+    {
+        const auto disc = LoadDvdDisc(fixture(media, "dvd-main"), false);
+        QVERIFY(disc && disc->titles.size() == 3);
+        QList<int> titles;
+        for (int i = 0; i < 3; ++i)
+            titles << window->tasks()->addTitle(ProfileGroupLoader::instance()->defaultProfile(), *disc->titles[size_t(i)], i + 1, 1);
+        const QList<int> files = addFiles({fixture(media, "clip.mp4"), fixture(media, "tone.flac")});
+        const auto shown = [this] {
+            QStringList rows;
+            for (QTreeWidgetItemIterator it(window->treeTask); *it; ++it)
+                rows << (TaskTreeOps::kindOf(*it) == RowDisc ? QStringLiteral("disc")
+                                                             : QFileInfo(task(TaskTreeOps::taskIdOf(*it))->output.fileName).baseName());
+            return rows.join(QLatin1Char(' ')) + QStringLiteral(" | %1 tasks").arg(window->tasks()->count());
+        };
+        QCOMPARE(shown(), QStringLiteral("disc Title_1 Title_2 Title_3 clip tone | 5 tasks"));
+        QTest::mouseClick(qobject_cast<CustomItemWidget *>(select(titles[1]))->closeBtn, Qt::LeftButton);
+        QTest::mouseClick(qobject_cast<CustomItemWidget *>(select(files[1]))->upBtn, Qt::LeftButton);
+        QTest::mouseClick(qobject_cast<CustomItemWidget *>(select(titles[2]))->upBtn, Qt::LeftButton);
+        QCOMPARE(shown(), QStringLiteral("disc Title_3 Title_1 tone clip | 4 tasks"));
+        QCOMPARE(window->tasks()->at(0)->id, titles[2]); // a disc's titles go in the queue's order
+
+        window->treeTask->setCurrentItem(window->itemOf(titles[0])->parent(), 0, QItemSelectionModel::ClearAndSelect);
+        window->itemOf(files[0])->setSelected(true);
+        window->action(QStringLiteral("actionRemove_Selected_Item_s"))->trigger();
+        QCOMPARE(shown(), QStringLiteral("tone | 1 tasks"));
+        QTest::mouseClick(qobject_cast<CustomItemWidget *>(select(files[1]))->closeBtn, Qt::LeftButton);
+        QCOMPARE(window->tasks()->count(), 0);
+        QCOMPARE(window->mulitWnd->currentIndex(), 0);
     }
 
     // Stop with two running and one waiting: the waiting one goes back,
