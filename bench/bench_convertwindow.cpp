@@ -4,8 +4,10 @@
 
 #include "cmainwnd.h"
 #include "controls.h"
+#include "cprofilecombo.h"
 #include "dvddisc.h"
 #include "settings.h"
+#include "settingswindow.h"
 #include "tasklist.h"
 
 #include <QApplication>
@@ -53,8 +55,8 @@ bool makeDisc(const QString &folder)
                 QStringLiteral("16:9"), mpg})
            && run(QStringLiteral("bash"),
                   {QStringLiteral("-c"),
-                   QStringLiteral("VIDEO_FORMAT=PAL dvdauthor -q -o '%1/disc' -t '%2' 2>/dev/null && "
-                                  "VIDEO_FORMAT=PAL dvdauthor -q -o '%1/disc' -T 2>/dev/null")
+                   QStringLiteral("VIDEO_FORMAT=PAL dvdauthor -o '%1/disc' -t '%2' 2>/dev/null && "
+                                  "VIDEO_FORMAT=PAL dvdauthor -o '%1/disc' -T 2>/dev/null")
                        .arg(folder, mpg)});
 }
 
@@ -88,8 +90,12 @@ double fromWindow(const DvdDisc &disc, const QString &out, double &stall)
     CMainWnd window;
     window.resize(1000, 640);
     window.show();
-    if (window.tasks()->addTitle(profile, *disc.titles[0], 1, 1) < 0)
+    // Chosen before the import, as a user does; the title takes the panel's values.
+    window.comboProfile->selectProfile(profile.section(QLatin1Char(','), 0, 0), profile.section(QLatin1Char(','), 1));
+    const int id = window.tasks()->addTitle(profile, *disc.titles[0], 1, 1);
+    if (id < 0)
         return -1;
+    window.settingsPanel()->values(window.tasks()->byId(id)->output.settings);
     window.addTaskRows();
     QTest::qWait(200);
     LoopWatch watch;
