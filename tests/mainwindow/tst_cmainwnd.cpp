@@ -63,7 +63,7 @@ struct DialogAnswers
                 else
                     dialog->reject();
             } else if (auto *box = qobject_cast<QMessageBox *>(modal)) {
-                told << QStringList{box->text(), box->informativeText()}.join(QLatin1Char('\n')).trimmed();
+                told << QStringList{box->text(), box->informativeText()}.join(u'\n').trimmed();
                 details = box->detailedText();
                 box->accept();
             } else if (auto *saveAs = qobject_cast<CSaveAsDlg *>(modal)) {
@@ -81,16 +81,16 @@ struct DialogAnswers
     {
         QStringList names;
         for (const QString &message : told)
-            for (const QString &line : message.split(QLatin1Char('\n')).mid(1))
+            for (const QString &line : message.split(u'\n').mid(1))
                 names << QFileInfo(line).fileName();
-        return names.join(QLatin1Char(' '));
+        return names.join(u' ');
     }
 };
 
 // Typed into a file dialog's name field, then Return.
 void type(QFileDialog *dialog, const QString &text)
 {
-    auto *name = dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+    auto *name = dialog->findChild<QLineEdit *>(u"fileNameEdit"_s);
     QVERIFY(name);
     name->setText(text);
     QTest::keyClick(name, Qt::Key_Return);
@@ -112,10 +112,10 @@ class TestMainWindow : public QObject
 
     QTreeWidgetItem *row(const QString &which) const
     {
-        if (which == QLatin1String("disc"))
-            return window->itemOf(ids[QStringLiteral("title")])->parent();
-        if (which == QLatin1String("child"))
-            return window->itemOf(ids[QStringLiteral("merge")])->child(0);
+        if (which == "disc"_L1)
+            return window->itemOf(ids[u"title"_s])->parent();
+        if (which == "child"_L1)
+            return window->itemOf(ids[u"merge"_s])->child(0);
         return window->itemOf(ids[which]);
     }
 
@@ -131,7 +131,7 @@ class TestMainWindow : public QObject
 
     void setState(const QString &which, Task::EState state, bool checked = true)
     {
-        Task *task = window->tasks()->byId(ids[which == QLatin1String("child") ? QStringLiteral("merge") : which]);
+        Task *task = window->tasks()->byId(ids[which == "child"_L1 ? u"merge"_s : which]);
         task->setState(state);
         task->checked = checked;
     }
@@ -142,7 +142,7 @@ class TestMainWindow : public QObject
     // search, Return on the first hit.
     void choose(const QString &search)
     {
-        window->action(QStringLiteral("actionSearch_Profile"))->trigger();
+        window->action(u"actionSearch_Profile"_s)->trigger();
         CSearchLineEdit *field = window->comboProfile->profileMenu()->searchField();
         QTest::keyClicks(field, search);
         QTest::keyClick(field, Qt::Key_Return);
@@ -153,10 +153,10 @@ class TestMainWindow : public QObject
     QString profileOf(const QString &which) const
     {
         const auto *row = qobject_cast<CustomItemWidget *>(face(which));
-        return QStringLiteral("%1 %2 %3%4")
-            .arg(row ? row->labelOutputName->text() : QStringLiteral("(no face)"), task(which)->output.profileKey)
+        return u"%1 %2 %3%4"_s
+            .arg(row ? row->labelOutputName->text() : u"(no face)"_s, task(which)->output.profileKey)
             .arg(task(which)->state)
-            .arg(task(which)->checked ? QString() : QStringLiteral(" unticked"));
+            .arg(task(which)->checked ? QString() : u" unticked"_s);
     }
 
     // Whether the window closes without a question; one asked gets `answer`.
@@ -203,16 +203,16 @@ class TestMainWindow : public QObject
             QStringList titles;
             for (int t = 0; t < item->childCount(); ++t)
                 titles << QFileInfo(ops.taskOf(item->child(t))->output.fileName).completeBaseName();
-            rows << QLatin1Char('[') + titles.join(QLatin1Char(' ')) + QLatin1Char(']');
+            rows << u'[' + titles.join(u' ') + u']';
         }
-        return rows.join(QLatin1Char(' '));
+        return rows.join(u' ');
     }
 
 public slots:
     void launcherUpdate(const QDBusMessage &message)
     {
         if (updates && message.arguments().size() == 2
-            && message.arguments().at(0).toString() == QLatin1String("application://kestrove.desktop"))
+            && message.arguments().at(0).toString() == "application://kestrove.desktop"_L1)
             *updates << qdbus_cast<QVariantMap>(message.arguments().at(1));
     }
 
@@ -228,18 +228,18 @@ private slots:
 
     void init()
     {
-        setSettingString(QStringLiteral("ProfileIndex"), ProfileGroupLoader::instance()->defaultProfile());
+        setSettingString(u"ProfileIndex"_s, ProfileGroupLoader::instance()->defaultProfile());
         window = std::make_unique<CMainWnd>();
         window->show();
         TaskList *list = window->tasks();
         const QString key = ProfileGroupLoader::instance()->defaultProfile();
-        ids[QStringLiteral("title")] = list->addTitle(key, *disc->titles[0], 1, 1);
+        ids[u"title"_s] = list->addTitle(key, *disc->titles[0], 1, 1);
         list->addTitle(key, *disc->titles[1], 2, 1);
-        ids[QStringLiteral("film")] = list->addFile(key, fixture(media, "movie.mkv"));
-        ids[QStringLiteral("sound")] = list->addFile(key, fixture(media, "tone.flac"));
-        const int merge = ids[QStringLiteral("merge")] = list->addMerge(key);
-        list->addToMerge(ids[QStringLiteral("film")], merge);
-        list->addToMerge(ids[QStringLiteral("sound")], merge);
+        ids[u"film"_s] = list->addFile(key, fixture(media, "movie.mkv"));
+        ids[u"sound"_s] = list->addFile(key, fixture(media, "tone.flac"));
+        const int merge = ids[u"merge"_s] = list->addMerge(key);
+        list->addToMerge(ids[u"film"_s], merge);
+        list->addToMerge(ids[u"sound"_s], merge);
         for (int id : std::as_const(ids))
             QVERIFY(id >= 0);
         window->addTaskRows();
@@ -268,20 +268,20 @@ private slots:
                                      "actionClear_All", "actionRename"})
                 if (w.action(QLatin1String(name))->isEnabled())
                     enabled << QLatin1String(name);
-            return QStringLiteral("%1 page %2").arg(enabled.join(QLatin1Char(' '))).arg(w.mulitWnd->currentIndex());
+            return u"%1 page %2"_s.arg(enabled.join(u' ')).arg(w.mulitWnd->currentIndex());
         };
-        QCOMPARE(on(*window), QStringLiteral("btnStart actionClear_All page 1"));
+        QCOMPARE(on(*window), u"btnStart actionClear_All page 1"_s);
         QCOMPARE(window->treeTask->topLevelItemCount(), 4);
-        QCOMPARE(row(QStringLiteral("disc"))->childCount(), 2);
-        QCOMPARE(TaskTreeOps::kindOf(row(QStringLiteral("disc"))), RowDisc);
-        QCOMPARE(row(QStringLiteral("merge"))->childCount(), 2);
-        QCOMPARE(TaskTreeOps::kindOf(row(QStringLiteral("child"))), RowChild);
+        QCOMPARE(row(u"disc"_s)->childCount(), 2);
+        QCOMPARE(TaskTreeOps::kindOf(row(u"disc"_s)), RowDisc);
+        QCOMPARE(row(u"merge"_s)->childCount(), 2);
+        QCOMPARE(TaskTreeOps::kindOf(row(u"child"_s)), RowChild);
         window->addTaskRows(); // nothing new, nothing doubled
         QCOMPARE(window->treeTask->topLevelItemCount(), 4);
         CMainWnd fresh;
-        QCOMPARE(on(fresh), QStringLiteral(" page 0"));
+        QCOMPARE(on(fresh), u" page 0"_s);
         window->ResetToEmpty();
-        QCOMPARE(on(*window), QStringLiteral(" page 0"));
+        QCOMPARE(on(*window), u" page 0"_s);
         QCOMPARE(window->treeTask->topLevelItemCount() + window->tasks()->count(), 0);
     }
 
@@ -316,8 +316,7 @@ private slots:
         QFETCH(QString, which);
         QFETCH(int, state);
         QFETCH(bool, checked);
-        setState(which == QLatin1String("disc") ? QStringLiteral("title") : which, Task::EState(state),
-                 checked);
+        setState(which == "disc"_L1 ? u"title"_s : which, Task::EState(state), checked);
         const TaskTreeOps &ops = TaskTreeOps::instance();
         const QTreeWidgetItem *item = row(which);
         const std::pair<const char *, bool> all[] = {
@@ -333,7 +332,7 @@ private slots:
         for (const auto &[name, holds] : all)
             if (holds)
                 holding << QLatin1String(name);
-        QTEST(holding.join(QLatin1Char(' ')), "holding");
+        QTEST(holding.join(u' '), "holding");
     }
 
     void selectionDecidesMergeAndMoves()
@@ -343,15 +342,15 @@ private slots:
             tree->clearSelection();
             for (const QString &r : rows)
                 row(r)->setSelected(true);
-            return QStringLiteral("%1 %2 %3 %4")
+            return u"%1 %2 %3 %4"_s
                 .arg(TaskTreeOps::CanMerge(tree))
                 .arg(TaskTreeOps::CanMoveUp(tree))
                 .arg(TaskTreeOps::CanMoveDown(tree))
                 .arg(window->btnMerge->isEnabled());
         };
-        QCOMPARE(select({QStringLiteral("disc"), QStringLiteral("title")}), QStringLiteral("0 0 1 0"));
-        QCOMPARE(select({QStringLiteral("film"), QStringLiteral("sound")}), QStringLiteral("1 1 1 1"));
-        QCOMPARE(select({QStringLiteral("merge")}), QStringLiteral("0 1 0 0"));
+        QCOMPARE(select({u"disc"_s, u"title"_s}), u"0 0 1 0"_s);
+        QCOMPARE(select({u"film"_s, u"sound"_s}), u"1 1 1 1"_s);
+        QCOMPARE(select({u"merge"_s}), u"0 1 0 0"_s);
     }
 
     // A click on a row sets what the tool buttons offer.
@@ -373,7 +372,7 @@ private slots:
         const QPoint at = widget->mapTo(window.get(), widget->rect().center());
         QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, at);
         QCOMPARE(tree->currentItem(), row(which));
-        QTEST(QStringLiteral("%1 %2 %3 %4")
+        QTEST(u"%1 %2 %3 %4"_s
                   .arg(window->btnTrim->isEnabled())
                   .arg(window->btnCrop->isEnabled())
                   .arg(window->playPauseBtn->isEnabled())
@@ -497,41 +496,54 @@ private slots:
         QCOMPARE(clip->output.settings, window->settingsPanel()->values());
     }
 
+    // Each state the encoders report, reached from Running and from Idle: the row
+    // shows its progress or its profile, and the state in words.
+    void stateChangeSwapsTheRowsFaces_data()
+    {
+        QTest::addColumn<int>("state");
+        QTest::addColumn<QString>("shown");
+        for (const auto &[state, shown] :
+             {std::pair(Task::Idle, "profile "), {Task::Waiting, "profile Waiting..."},
+              {Task::Running, "progress "}, {Task::Paused, "progress Paused"},
+              {Task::Pending, "progress Pending..."}, {Task::Succeed, "profile Succeed"},
+              {Task::Failed, "profile Failed"}})
+            QTest::newRow(shown) << int(state) << QString::fromLatin1(shown);
+    }
     void stateChangeSwapsTheRowsFaces()
     {
-        QWidget *widget = face(QStringLiteral("film"));
+        QFETCH(int, state);
+        auto *widget = qobject_cast<CustomItemWidget *>(face(u"film"_s));
         QVERIFY(widget);
-        auto *progress = widget->findChild<QWidget *>(QStringLiteral("progressWidget"));
-        auto *profile = widget->findChild<QWidget *>(QStringLiteral("profileWidget"));
-        for (Task::EState state : {Task::Running, Task::Succeed, Task::Paused, Task::Failed}) {
-            setState(QStringLiteral("film"), state);
-            emit window->converterManager()->stateChanged(ids[QStringLiteral("film")], state);
-            const bool busy = state == Task::Running || state == Task::Paused;
-            QCOMPARE(progress->isVisibleTo(widget), busy);
-            QCOMPARE(profile->isVisibleTo(widget), !busy);
+        for (Task::EState from : {Task::Running, Task::Idle}) {
+            for (Task::EState to : {from, Task::EState(state)}) {
+                setState(u"film"_s, to);
+                emit window->converterManager()->stateChanged(ids[u"film"_s], to);
+            }
+            QCOMPARE(widget->progressWidget->isVisibleTo(widget), !widget->profileWidget->isVisibleTo(widget));
+            QTEST(u"%1 %2"_s.arg(widget->progressWidget->isVisibleTo(widget) ? u"progress"_s : u"profile"_s,
+                                 widget->taskStatusLabel->text()),
+                  "shown");
         }
     }
 
-    // Closing asks only while a checked task converts; Cancel keeps the window.
-    void closingAsksWhileCheckedTasksConvert()
+    // Closing asks only while a checked task converts; Cancel keeps the window. Closing
+    // while two encoders run ends them all and keeps the settings.
+    void closingAsksAndEndsTheEncoders()
     {
-        setState(QStringLiteral("film"), Task::Running, false);
+        setState(u"film"_s, Task::Running, false);
         QVERIFY(closes());
         window->show();
-        setState(QStringLiteral("film"), Task::Running, true);
+        setState(u"film"_s, Task::Running, true);
         QVERIFY(!closes());
-    }
-
-    // Closing while two encoders run ends them all and keeps the settings.
-    void closingEndsTheEncodersAndKeepsTheSettings()
-    {
+        QVERIFY(window->isVisible());
+        setState(u"film"_s, Task::Idle);
         QTemporaryDir work;
-        const QString paced = writeFile(work.filePath(QStringLiteral("paced-ffmpeg")),
+        const QString paced = writeFile(work.filePath(u"paced-ffmpeg"_s),
                                         "#!/bin/bash\nargs=()\nfor a in \"$@\"; do [ \"$a\" = -i ] && "
                                         "args+=(-re); args+=(\"$a\"); done\nexec ffmpeg \"${args[@]}\"\n");
         QVERIFY(QFile::setPermissions(paced, QFile::ReadOwner | QFile::ExeOwner));
         qputenv("KESTROVE_FFMPEG", QFile::encodeName(paced));
-        setSettingString(QStringLiteral("OutputDir"), work.path());
+        setSettingString(u"OutputDir"_s, work.path());
         ConverterManager *converter = window->converterManager();
         converter->setMaxProcesses(2);
         converter->startAll();
@@ -556,11 +568,11 @@ private slots:
         QTest::addColumn<QString>("typed");     // %1 the temporary folder
         QTest::addColumn<QString>("rows");
         QTest::addColumn<QString>("told");
-        const QString main = QStringLiteral("VIDEO_TS/VTS_01_0.IFO=dvd-main/VIDEO_TS/VTS_01_0.IFO");
-        const QString mainVob = QStringLiteral("VIDEO_TS/VTS_01_1.VOB=dvd-main/VIDEO_TS/VTS_01_1.VOB");
-        const QString ntsc3 = QStringLiteral("VIDEO_TS/VTS_03_0.IFO=dvd-ntsc/VIDEO_TS/VTS_01_0.IFO");
-        const QString ntsc3Vob = QStringLiteral("VIDEO_TS/VTS_03_1.VOB=dvd-ntsc/VIDEO_TS/VTS_01_1.VOB");
-        const QString three = QStringLiteral("[Title_1 Title_2 Title_3]");
+        const QString main = u"VIDEO_TS/VTS_01_0.IFO=dvd-main/VIDEO_TS/VTS_01_0.IFO"_s;
+        const QString mainVob = u"VIDEO_TS/VTS_01_1.VOB=dvd-main/VIDEO_TS/VTS_01_1.VOB"_s;
+        const QString ntsc3 = u"VIDEO_TS/VTS_03_0.IFO=dvd-ntsc/VIDEO_TS/VTS_01_0.IFO"_s;
+        const QString ntsc3Vob = u"VIDEO_TS/VTS_03_1.VOB=dvd-ntsc/VIDEO_TS/VTS_01_1.VOB"_s;
+        const QString three = u"[Title_1 Title_2 Title_3]"_s;
         QTest::newRow("a whole disc") << "actionOpen_DVD" << QStringList{main, mainVob} << "%1" << three << "";
         QTest::newRow("the VIDEO_TS folder") << "actionOpen_DVD" << QStringList{main, mainVob} << "%1/VIDEO_TS"
                                              << three << "";
@@ -568,14 +580,14 @@ private slots:
                                               << "%1" << three << "";
         QTest::newRow("a mount in lower case")
             << "actionOpen_DVD"
-            << QStringList{QStringLiteral("video_ts/vts_01_0.ifo=dvd-main/VIDEO_TS/VTS_01_0.IFO"),
-                           QStringLiteral("video_ts/vts_01_1.vob=dvd-main/VIDEO_TS/VTS_01_1.VOB")}
+            << QStringList{u"video_ts/vts_01_0.ifo=dvd-main/VIDEO_TS/VTS_01_0.IFO"_s,
+                           u"video_ts/vts_01_1.vob=dvd-main/VIDEO_TS/VTS_01_1.VOB"_s}
             << "%1" << three << "";
-        QTest::newRow("no titleset") << "actionOpen_DVD" << QStringList{QStringLiteral("VIDEO_TS/VIDEO_TS.IFO=dvd-main/VIDEO_TS/VIDEO_TS.IFO")}
+        QTest::newRow("no titleset") << "actionOpen_DVD" << QStringList{u"VIDEO_TS/VIDEO_TS.IFO=dvd-main/VIDEO_TS/VIDEO_TS.IFO"_s}
                                      << "%1" << "[]" << "";
         QTest::newRow("an invalid IFO between two good ones")
             << "actionOpen_IFO_Files"
-            << QStringList{main, mainVob, QStringLiteral("VIDEO_TS/VTS_02_0.IFO="), ntsc3, ntsc3Vob}
+            << QStringList{main, mainVob, u"VIDEO_TS/VTS_02_0.IFO="_s, ntsc3, ntsc3Vob}
             << "\"%1/VIDEO_TS/VTS_01_0.IFO\" \"%1/VIDEO_TS/VTS_02_0.IFO\" \"%1/VIDEO_TS/VTS_03_0.IFO\""
             << "[Title_1 Title_2 Title_3 Title_4]"
             << "The IFO File is invalid.\n%1/VIDEO_TS/VTS_02_0.IFO";
@@ -589,8 +601,8 @@ private slots:
         window->ResetToEmpty();
         QTemporaryDir dir;
         for (const QString &file : files) {
-            const QString target = dir.filePath(file.section(QLatin1Char('='), 0, 0));
-            const QString source = file.section(QLatin1Char('='), 1);
+            const QString target = dir.filePath(file.section(u'=', 0, 0));
+            const QString source = file.section(u'=', 1);
             QVERIFY(QDir().mkpath(QFileInfo(target).path()));
             QVERIFY(source.isEmpty() ? !writeFile(target, randomBytes(6144)).isEmpty()
                                      : QFile::copy(QDir(media).filePath(source), target));
@@ -598,7 +610,7 @@ private slots:
         DialogAnswers answers([&](QFileDialog *dialog) { type(dialog, typed.arg(dir.path())); });
         window->action(road)->trigger();
         QTEST(rowsShown(), "rows");
-        QCOMPARE(answers.told.join(QLatin1Char('|')), told.replace(QStringLiteral("%1"), dir.path()));
+        QCOMPARE(answers.told.join(u'|'), told.replace(u"%1"_s, dir.path()));
     }
 
     // A file's road, by drop or by the File menu: a row per file, the first
@@ -608,7 +620,7 @@ private slots:
         QTest::addColumn<QString>("road");
         QTest::addColumn<QString>("rows");
         QTest::addColumn<QString>("failed");
-        const QString discFiles = QStringLiteral("VIDEO_TS.BUP VIDEO_TS.IFO VTS_01_0.BUP VTS_01_0.IFO");
+        const QString discFiles = u"VIDEO_TS.BUP VIDEO_TS.IFO VTS_01_0.BUP VTS_01_0.IFO"_s;
         QTest::newRow("drop") << "drop" << "clip.mp4 tone.flac VTS_01_1.VOB" << discFiles;
         QTest::newRow("Open Folder") << "actionOpen_Folder" << "clip.mp4 VTS_01_1.VOB tone.flac" << discFiles;
         QTest::newRow("Open Files") << "actionOpen_Files" << "clip.mp4 tone.flac" << "";
@@ -620,16 +632,15 @@ private slots:
         QTemporaryDir dir;
         for (const char *name : {"clip.mp4", "tone.flac"})
             QVERIFY(QFile::copy(fixture(media, name), dir.filePath(QLatin1String(name))));
-        QVERIFY(!copyDisc(fixture(media, "dvd-main/VIDEO_TS"), dir.filePath(QStringLiteral("disc"))).isEmpty());
+        QVERIFY(!copyDisc(fixture(media, "dvd-main/VIDEO_TS"), dir.filePath(u"disc"_s)).isEmpty());
         DialogAnswers answers([&](QFileDialog *dialog) {
             dialog->setDirectory(dir.path());
-            type(dialog, road == QLatin1String("actionOpen_Files") ? QStringLiteral("\"clip.mp4\" \"tone.flac\"")
-                                                                   : dir.path());
+            type(dialog, road == "actionOpen_Files"_L1 ? u"\"clip.mp4\" \"tone.flac\""_s : dir.path());
         });
-        if (road == QLatin1String("drop"))
-            QVERIFY(drop({QUrl::fromLocalFile(dir.filePath(QStringLiteral("clip.mp4"))),
-                          QUrl::fromLocalFile(dir.filePath(QStringLiteral("tone.flac"))),
-                          QUrl::fromLocalFile(dir.filePath(QStringLiteral("disc")))}));
+        if (road == "drop"_L1)
+            QVERIFY(drop({QUrl::fromLocalFile(dir.filePath(u"clip.mp4"_s)),
+                          QUrl::fromLocalFile(dir.filePath(u"tone.flac"_s)),
+                          QUrl::fromLocalFile(dir.filePath(u"disc"_s))}));
         else
             window->action(road)->trigger();
         QTEST(rowsShown(), "rows");
@@ -647,9 +658,9 @@ private slots:
         QTemporaryDir dir;
         QList<QUrl> urls;
         for (int i = 0; i < 11; ++i)
-            urls << QUrl::fromLocalFile(writeFile(dir.filePath(QStringLiteral("bad%1.mkv").arg(i)), "not media"));
+            urls << QUrl::fromLocalFile(writeFile(dir.filePath(u"bad%1.mkv"_s.arg(i)), "not media"));
         for (int i = 0; i < 6; ++i) {
-            const QString copy = dir.filePath(QStringLiteral("clip%1.mp4").arg(i));
+            const QString copy = dir.filePath(u"clip%1.mp4"_s.arg(i));
             QVERIFY(QFile::copy(fixture(media, "clip.mp4"), copy));
             urls << QUrl::fromLocalFile(copy);
         }
@@ -670,9 +681,9 @@ private slots:
         QVERIFY2(rows >= 1 && rows < 6, qPrintable(rowsShown()));
         QCOMPARE(window->tasks()->count(), rows);
         QCOMPARE(answers.told.size(), 1);
-        QCOMPARE(answers.told.first().count(QLatin1Char('\n')), 11); // the text, ten paths, "..."
-        QVERIFY(answers.told.first().endsWith(QLatin1String("\n...")));
-        QCOMPARE(answers.details.split(QLatin1Char('\n')).size(), 11);
+        QCOMPARE(answers.told.first().count(u'\n'), 11); // the text, ten paths, "..."
+        QVERIFY(answers.told.first().endsWith("\n..."_L1));
+        QCOMPARE(answers.details.split(u'\n').size(), 11);
     }
 
     // Open DVD offers the discs mounted where desktops mount them, and starts
@@ -683,14 +694,12 @@ private slots:
         QTest::addColumn<QString>("lastFolder");
         QTest::addColumn<QString>("offered");
         QTest::addColumn<QString>("startsIn"); // below the root, or absolute
-        QTest::newRow("one disc") << QStringList{QStringLiteral("cdrom0/VIDEO_TS"), QStringLiteral("usb/Photos")}
-                                  << "" << "cdrom0" << "cdrom0";
+        QTest::newRow("one disc") << QStringList{u"cdrom0/VIDEO_TS"_s, u"usb/Photos"_s} << "" << "cdrom0" << "cdrom0";
         QTest::newRow("one disc, a folder used before")
-            << QStringList{QStringLiteral("cdrom0/VIDEO_TS")} << "/tmp" << "cdrom0" << "/tmp";
+            << QStringList{u"cdrom0/VIDEO_TS"_s} << "/tmp" << "cdrom0" << "/tmp";
         QTest::newRow("two discs, one a user's mount in lower case")
-            << QStringList{QStringLiteral("cdrom0/VIDEO_TS"), QStringLiteral("me/FILM/video_ts")} << ""
-            << "cdrom0 me/FILM" << "/";
-        QTest::newRow("no disc") << QStringList{QStringLiteral("cdrom0")} << "" << "" << "/";
+            << QStringList{u"cdrom0/VIDEO_TS"_s, u"me/FILM/video_ts"_s} << "" << "cdrom0 me/FILM" << "/";
+        QTest::newRow("no disc") << QStringList{u"cdrom0"_s} << "" << "" << "/";
     }
     void openDvdOffersMountedDiscs()
     {
@@ -700,34 +709,33 @@ private slots:
         QTemporaryDir root;
         for (const QString &folder : folders) {
             QVERIFY(QDir().mkpath(root.filePath(folder)));
-            if (folder.endsWith(QLatin1String("/VIDEO_TS")))
+            if (folder.endsWith("/VIDEO_TS"_L1))
                 QVERIFY(!copyDisc(fixture(media, "dvd-main/VIDEO_TS"), QFileInfo(root.filePath(folder)).path())
                              .isEmpty());
         }
-        qputenv("KESTROVE_MEDIA_ROOTS", QFile::encodeName(QStringLiteral("/nonexistent:") + root.path()));
+        qputenv("KESTROVE_MEDIA_ROOTS", QFile::encodeName(u"/nonexistent:"_s + root.path()));
         if (lastFolder.isEmpty()) // never chosen: not in the store at all
-            QSettings(QSettings::UserScope, QStringLiteral("Tessarine"), QStringLiteral("Kestrove"))
-                .remove(QStringLiteral("Setting/DVDDir"));
+            QSettings(QSettings::UserScope, u"Tessarine"_s, u"Kestrove"_s).remove(u"Setting/DVDDir"_s);
         else
-            setSettingString(QStringLiteral("DVDDir"), lastFolder);
+            setSettingString(u"DVDDir"_s, lastFolder);
         QStringList offered;
         QString startsIn;
         // The first disc offered is the one chosen.
         DialogAnswers answers([&](QFileDialog *dialog) {
             for (const QUrl &place : dialog->sidebarUrls())
-                if (place.toLocalFile().startsWith(root.path() + QLatin1Char('/')))
+                if (place.toLocalFile().startsWith(root.path() + u'/'))
                     offered << place.toLocalFile().mid(root.path().size() + 1);
-            startsIn = dialog->directory().absolutePath().remove(root.path() + QLatin1Char('/'));
+            startsIn = dialog->directory().absolutePath().remove(root.path() + u'/');
             if (offered.isEmpty())
                 dialog->reject();
             else
                 type(dialog, root.filePath(offered.first()));
         });
-        window->action(QStringLiteral("actionOpen_DVD"))->trigger();
+        window->action(u"actionOpen_DVD"_s)->trigger();
         qputenv("KESTROVE_MEDIA_ROOTS", QByteArray());
-        QTEST(offered.join(QLatin1Char(' ')), "offered");
+        QTEST(offered.join(u' '), "offered");
         QTEST(startsIn, "startsIn");
-        QCOMPARE(rowsShown(), offered.isEmpty() ? QString() : QStringLiteral("[Title_1 Title_2 Title_3]"));
+        QCOMPARE(rowsShown(), offered.isEmpty() ? QString() : u"[Title_1 Title_2 Title_3]"_s);
     }
 
     // The dock hears the batch's progress on the (private) session bus.
@@ -736,20 +744,20 @@ private slots:
         QDBusConnection bus = QDBusConnection::sessionBus();
         QVERIFY2(bus.isConnected(), "run under dbus-run-session");
         QList<QVariantMap> heard;
-        QVERIFY(bus.connect(QString(), QString(), QStringLiteral("com.canonical.Unity.LauncherEntry"),
-                            QStringLiteral("Update"), this, SLOT(launcherUpdate(QDBusMessage))));
+        QVERIFY(bus.connect(QString(), QString(), u"com.canonical.Unity.LauncherEntry"_s,
+                            u"Update"_s, this, SLOT(launcherUpdate(QDBusMessage))));
         updates = &heard;
-        Task *film = window->tasks()->byId(ids[QStringLiteral("film")]);
+        Task *film = window->tasks()->byId(ids[u"film"_s]);
         film->setState(Task::Running);
         film->item(0)->edit.convertEnd = film->item(0)->edit.trimEnd; // as a start sets it
         film->progress = film->convertDuration() / 2;
         emit window->converterManager()->progressChanged(film->id, film->progress);
-        QTRY_VERIFY(!heard.isEmpty() && heard.last().value(QStringLiteral("progress")).toDouble() == 0.5);
-        QVERIFY(heard.last().value(QStringLiteral("progress-visible")).toBool());
+        QTRY_VERIFY(!heard.isEmpty() && heard.last().value(u"progress"_s).toDouble() == 0.5);
+        QVERIFY(heard.last().value(u"progress-visible"_s).toBool());
         for (int i = 0; i < window->tasks()->count(); ++i)
             window->tasks()->at(i)->setState(Task::Succeed);
         emit window->converterManager()->stateChanged(film->id, Task::Succeed);
-        QTRY_VERIFY(!heard.last().value(QStringLiteral("progress-visible")).toBool());
+        QTRY_VERIFY(!heard.last().value(u"progress-visible"_s).toBool());
         updates = nullptr;
     }
 
@@ -767,9 +775,9 @@ private slots:
                 continue;
             QAccessibleInterface *face = QAccessible::queryAccessibleInterface(w);
             if (!face || face->text(QAccessible::Name).trimmed().isEmpty())
-                nameless << w->objectName() + QLatin1Char('/') + QLatin1String(w->metaObject()->className());
+                nameless << w->objectName() + u'/' + QLatin1String(w->metaObject()->className());
         }
-        QCOMPARE(nameless.join(QLatin1Char(' ')), QString());
+        QCOMPARE(nameless.join(u' '), QString());
     }
 };
 
