@@ -15,6 +15,8 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+using namespace Qt::StringLiterals;
+
 // Stands in for the main window: the rows find these slots by name.
 class HostWindow : public QWidget
 {
@@ -195,46 +197,44 @@ private slots:
     {
         QTest::addColumn<int>("kind");
         QTest::addColumn<QString>("name");
-        QTest::addColumn<bool>("tracks");  // the track combos are shown
-        QTest::addColumn<bool>("tick");    // the check box is shown
-        QTest::addColumn<bool>("plays");   // on a double click
-        QTest::addColumn<bool>("renames"); // on a click on the name
-        QTest::newRow("merge") << int(RowMerge) << "" << false << true << false << true;
-        QTest::newRow("child") << int(RowChild) << "movie" << true << false << true << false;
-        QTest::newRow("disc") << int(RowDisc) << "dvd-main" << false << false << false << false;
+        // Shown: the track combos, the tick; on a double click it plays; a click on the name
+        // edits it.
+        QTest::addColumn<QString>("does");
+        QTest::newRow("merge") << int(RowMerge) << "" << "tick renames";
+        QTest::newRow("child") << int(RowChild) << "movie" << "tracks plays";
+        QTest::newRow("disc") << int(RowDisc) << "dvd-main" << "";
     }
 
     void kinds()
     {
         QFETCH(int, kind);
         QFETCH(QString, name);
-        QFETCH(bool, tracks);
-        QFETCH(bool, tick);
-        QFETCH(bool, plays);
-        QFETCH(bool, renames);
         const QString key = ProfileGroupLoader::instance()->defaultProfile();
         const int source = list->addFile(key, fixture(fixtures, "movie.mkv"));
         const int merge = list->addMerge(key);
         const int child = list->addToMerge(source, merge);
         QVERIFY(child >= 0);
-        CustomItemWidget *row = nullptr;
-        if (kind == RowDisc) {
-            row = addItem(nullptr, -1, RowDisc, -1);
-        } else {
-            row = addItem(nullptr, merge, RowMerge, -1);
-            if (kind == RowChild)
-                row = addItem(tree->topLevelItem(0), merge, RowChild, child);
-        }
+        CustomItemWidget *row = kind == RowDisc ? addItem(nullptr, -1, RowDisc, -1)
+                                                : addItem(nullptr, merge, RowMerge, -1);
+        if (kind == RowChild)
+            row = addItem(tree->topLevelItem(0), merge, RowChild, child);
         if (name.isEmpty())
             name = list->byId(merge)->output.fileName;
         QVERIFY(row->labelOutputName->text().endsWith(name));
-        QCOMPARE(row->comboAudio->isVisible(), tracks);
-        QCOMPARE(row->checkBox->isVisible(), tick);
+        QStringList does;
+        if (row->comboAudio->isVisible())
+            does << u"tracks"_s;
+        if (row->checkBox->isVisible())
+            does << u"tick"_s;
         QTest::mouseClick(row->labelOutputName, Qt::LeftButton);
-        QCOMPARE(row->editOutputName->isVisible(), renames);
+        const bool renames = row->editOutputName->isVisible();
         QTest::keyClick(row->editOutputName, Qt::Key_Escape);
         QTest::mouseDClick(row->timeLengthLabel, Qt::LeftButton);
-        QCOMPARE(window->plays, plays ? 1 : 0);
+        if (window->plays > 0)
+            does << (window->plays == 1 ? u"plays"_s : u"plays again"_s);
+        if (renames)
+            does << u"renames"_s;
+        QTEST(does.join(u' '), "does");
     }
 
     void closeButton_data()
@@ -263,42 +263,6 @@ private slots:
         QTest::mouseClick(row->closeBtn, Qt::LeftButton);
         QCOMPARE(tree->topLevelItemCount(), removed ? 0 : 1);
         QCOMPARE(window->clears, removed ? 1 : 0);
-    }
-
-    void faces_data()
-    {
-        QTest::addColumn<int>("state");
-        QTest::addColumn<bool>("progress");
-        QTest::addColumn<QString>("status");
-        QTest::newRow("Idle") << int(Task::Idle) << false << "";
-        QTest::newRow("Waiting") << int(Task::Waiting) << false << "Waiting...";
-        QTest::newRow("Running") << int(Task::Running) << true << "";
-        QTest::newRow("Paused") << int(Task::Paused) << true << "Paused";
-        QTest::newRow("Pending") << int(Task::Pending) << true << "Pending...";
-        QTest::newRow("Succeed") << int(Task::Succeed) << false << "Succeed";
-        QTest::newRow("Failed") << int(Task::Failed) << false << "Failed";
-    }
-
-    // Each state reached from Running and from Idle, as the window switches them.
-    void faces()
-    {
-        QFETCH(int, state);
-        QFETCH(bool, progress);
-        QFETCH(QString, status);
-        CustomItemWidget *row = addRow(QStringLiteral("movie.mkv"));
-        QVERIFY(row);
-        Task *task = list->at(0);
-        for (const Task::EState from : {Task::Running, Task::Idle}) {
-            task->setState(from);
-            row->showProgress(from == Task::Running);
-            row->refresh();
-            task->setState(Task::EState(state));
-            row->showProgress(progress);
-            row->refresh();
-            QCOMPARE(row->progressWidget->isVisible(), progress);
-            QCOMPARE(row->profileWidget->isVisible(), !progress);
-            QCOMPARE(row->taskStatusLabel->text(), status);
-        }
     }
 };
 
