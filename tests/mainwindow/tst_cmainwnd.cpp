@@ -573,7 +573,6 @@ private slots:
         const QString ntsc3 = u"VIDEO_TS/VTS_03_0.IFO=dvd-ntsc/VIDEO_TS/VTS_01_0.IFO"_s;
         const QString ntsc3Vob = u"VIDEO_TS/VTS_03_1.VOB=dvd-ntsc/VIDEO_TS/VTS_01_1.VOB"_s;
         const QString three = u"[Title_1 Title_2 Title_3]"_s;
-        QTest::newRow("a whole disc") << "actionOpen_DVD" << QStringList{main, mainVob} << "%1" << three << "";
         QTest::newRow("the VIDEO_TS folder") << "actionOpen_DVD" << QStringList{main, mainVob} << "%1/VIDEO_TS"
                                              << three << "";
         QTest::newRow("a gap in the numbers") << "actionOpen_DVD" << QStringList{main, mainVob, ntsc3, ntsc3Vob}
