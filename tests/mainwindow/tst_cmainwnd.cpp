@@ -335,48 +335,40 @@ private slots:
         QTEST(holding.join(u' '), "holding");
     }
 
-    void selectionDecidesMergeAndMoves()
-    {
-        QTreeWidget *tree = window->treeTask;
-        auto select = [&](QStringList rows) {
-            tree->clearSelection();
-            for (const QString &r : rows)
-                row(r)->setSelected(true);
-            return u"%1 %2 %3 %4"_s
-                .arg(TaskTreeOps::CanMerge(tree))
-                .arg(TaskTreeOps::CanMoveUp(tree))
-                .arg(TaskTreeOps::CanMoveDown(tree))
-                .arg(window->btnMerge->isEnabled());
-        };
-        QCOMPARE(select({u"disc"_s, u"title"_s}), u"0 0 1 0"_s);
-        QCOMPARE(select({u"film"_s, u"sound"_s}), u"1 1 1 1"_s);
-        QCOMPARE(select({u"merge"_s}), u"0 1 0 0"_s);
-    }
-
-    // A click on a row sets what the tool buttons offer.
+    // A click on a row sets what the tool buttons offer; the rows selected with it decide
+    // whether they can be merged and moved.
     void currentRowSetsTheTools_data()
     {
-        QTest::addColumn<QString>("which");
-        QTest::addColumn<QString>("enabled"); // trim, crop, play, profile
-        QTest::newRow("film") << "film" << "1 1 1 1";
-        QTest::newRow("sound") << "sound" << "1 0 1 1";
-        QTest::newRow("merge") << "merge" << "0 0 0 1";
-        QTest::newRow("disc") << "disc" << "0 0 0 0";
+        QTest::addColumn<QString>("rows");    // the first clicked, the others selected as well
+        QTest::addColumn<QString>("enabled"); // trim, crop, play, profile; merge, up, down, Merge
+        QTest::newRow("film") << "film" << "1 1 1 1 0 1 1 0";
+        QTest::newRow("sound") << "sound" << "1 0 1 1 0 1 1 0";
+        QTest::newRow("merge") << "merge" << "0 0 0 1 0 1 0 0";
+        QTest::newRow("disc") << "disc" << "0 0 0 0 0 0 1 0";
+        QTest::newRow("disc and its title") << "disc title" << "0 0 0 1 0 0 1 0";
+        QTest::newRow("two files") << "film sound" << "1 1 1 1 1 1 1 1";
+        QTest::newRow("disc and the file below it") << "disc film" << "0 0 0 1 0 0 1 0";
     }
     void currentRowSetsTheTools()
     {
-        QFETCH(QString, which);
+        QFETCH(QString, rows);
+        const QStringList which = rows.split(u' ');
         QTreeWidget *tree = window->treeTask;
-        QWidget *widget = face(which);
+        QWidget *widget = face(which[0]);
         QVERIFY(widget);
         const QPoint at = widget->mapTo(window.get(), widget->rect().center());
         QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, at);
-        QCOMPARE(tree->currentItem(), row(which));
-        QTEST(u"%1 %2 %3 %4"_s
-                  .arg(window->btnTrim->isEnabled())
+        QCOMPARE(tree->currentItem(), row(which[0]));
+        for (const QString &other : which.mid(1))
+            row(other)->setSelected(true);
+        QTEST(u"%1 %2 %3 %4 %5 %6 %7 %8"_s.arg(window->btnTrim->isEnabled())
                   .arg(window->btnCrop->isEnabled())
                   .arg(window->playPauseBtn->isEnabled())
-                  .arg(window->comboProfile->isEnabled()),
+                  .arg(window->comboProfile->isEnabled())
+                  .arg(TaskTreeOps::CanMerge(tree))
+                  .arg(TaskTreeOps::CanMoveUp(tree))
+                  .arg(TaskTreeOps::CanMoveDown(tree))
+                  .arg(window->btnMerge->isEnabled()),
               "enabled");
     }
 
