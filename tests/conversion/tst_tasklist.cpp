@@ -128,23 +128,7 @@ private slots:
         QCOMPARE(u"%1x%2"_s.arg(got.width()).arg(got.height()), size.section(u" = "_s, 1));
     }
 
-    void estimatedSize()
-    {
-        Task task;
-        task.items.push_back(videoInput(320, 240, 10.0));
-        task.items.back()->edit.trimStart = 2.5;
-        task.items.push_back(videoInput(320, 240, 5.0));
-        // 12.5 s trimmed: both rates; the same quality (no video rate); no audio rate.
-        QStringList sizes;
-        for (const QString &rates : {u"1000 128"_s, u" 128"_s, u"800 "_s}) {
-            task.output.settings.insert(u"b"_s, rates.section(u' ', 0, 0));
-            task.output.settings.insert(u"ab"_s, rates.section(u' ', 1));
-            sizes << QString::number(task.estimatedSize());
-        }
-        QCOMPARE(sizes.join(u' '), u"2850000 1600000 1000000"_s);
-    }
-
-    void durations()
+    void durationsAndSize()
     {
         Task task;
         QCOMPARE(joined(task.totalDuration(false), task.hasVideoInput()), u"0|false"_s);
@@ -158,6 +142,14 @@ private slots:
         QCOMPARE(joined(task.totalDuration(false), task.totalDuration(true), task.trimmedDuration(),
                         task.convertDuration(), task.hasVideoInput(), task.trimmedDurationText()),
                  u"120|100|50|40|true|"_s + Utils::durationText(50.0));
+        // The 50 s trimmed: both rates; the same quality (no video rate); no audio rate.
+        QStringList sizes;
+        for (const QString &rates : {u"1000 128"_s, u" 128"_s, u"800 "_s}) {
+            task.output.settings.insert(u"b"_s, rates.section(u' ', 0, 0));
+            task.output.settings.insert(u"ab"_s, rates.section(u' ', 1));
+            sizes << QString::number(task.estimatedSize());
+        }
+        QCOMPARE(sizes.join(u' '), u"11400000 6400000 4000000"_s);
     }
 
     void children()
@@ -445,20 +437,16 @@ private slots:
 
     void applyToAll_data()
     {
-        QTest::addColumn<bool>("crop");
-        QTest::addColumn<bool>("image");
-        QTest::addColumn<bool>("watermark");
-        QTest::newRow("crop") << true << false << false;
-        QTest::newRow("image") << false << true << false;
-        QTest::newRow("watermark") << false << false << true;
-        QTest::newRow("all three") << true << true << true;
+        QTest::addColumn<QString>("parts"); // of crop, image, watermark
+        for (const char *parts : {"crop", "image", "watermark", "crop image watermark"})
+            QTest::newRow(parts) << QString::fromLatin1(parts);
     }
 
     void applyToAll()
     {
-        QFETCH(bool, crop);
-        QFETCH(bool, image);
-        QFETCH(bool, watermark);
+        QFETCH(QString, parts);
+        const bool crop = parts.contains(u"crop"_s), image = parts.contains(u"image"_s),
+                   watermark = parts.contains(u"watermark"_s);
         TaskList list(&catalogue);
         fill(list, u"m0 clip.mp4"_s); // 720x576 and 160x120
         const int merge = list.addMerge(mp4);
