@@ -14,7 +14,6 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QThread>
-#include <QThreadPool>
 
 #include <cmath>
 #include <dlfcn.h>
@@ -381,32 +380,29 @@ private slots:
 
     void ifoFilesOfFolder_data()
     {
-        QTest::addColumn<QString>("files"); // made below the temporary folder
-        QTest::addColumn<QString>("folder");
-        QTest::addColumn<QString>("found");
-
-        const QString three
-            = u"VIDEO_TS/VTS_01_0.IFO VIDEO_TS/VTS_02_0.IFO VIDEO_TS/VTS_03_0.IFO"_s;
-        const QString all = u"VIDEO_TS/VIDEO_TS.IFO "_s + three;
-        QTest::newRow("disc root") << all << QString() << three;
-        QTest::newRow("root with slash") << all << u"/"_s << three;
-        QTest::newRow("VIDEO_TS itself") << all << u"/VIDEO_TS"_s << three;
-        QTest::newRow("a gap ends the search") << u"VIDEO_TS/VTS_01_0.IFO VIDEO_TS/VTS_03_0.IFO"_s
-                                               << QString() << u"VIDEO_TS/VTS_01_0.IFO"_s;
-        QTest::newRow("lower-case folder is looked into")
-            << u"video_ts/VTS_01_0.IFO"_s << u"/video_ts"_s << QString();
-        QTest::newRow("no title set") << u"VIDEO_TS/VIDEO_TS.IFO"_s << QString() << QString();
+        // Files made below the temporary folder: the folder asked about: what is found.
+        QTest::addColumn<QString>("row");
+        const QString all = u"VIDEO_TS/VIDEO_TS.IFO VIDEO_TS/VTS_01_0.IFO VIDEO_TS/VTS_02_0.IFO "
+                            "VIDEO_TS/VTS_03_0.IFO"_s;
+        const QString three = all.section(u' ', 1);
+        QTest::newRow("disc root") << all + u"::"_s + three;
+        QTest::newRow("root with slash") << all + u":/:"_s + three;
+        QTest::newRow("VIDEO_TS itself") << all + u":/VIDEO_TS:"_s + three;
+        QTest::newRow("a gap ends the search")
+            << u"VIDEO_TS/VTS_01_0.IFO VIDEO_TS/VTS_03_0.IFO::VIDEO_TS/VTS_01_0.IFO"_s;
+        QTest::newRow("lower-case folder is looked into") << u"video_ts/VTS_01_0.IFO:/video_ts:"_s;
+        QTest::newRow("no title set") << u"VIDEO_TS/VIDEO_TS.IFO::"_s;
     }
 
     void ifoFilesOfFolder()
     {
-        QFETCH(QString, files);
-        QFETCH(QString, folder);
-        QFETCH(QString, found);
+        QFETCH(QString, row);
+        const QString folder = row.section(u':', 1, 1);
         QTemporaryDir dir;
-        for (const QString &name : files.split(u' '))
+        for (const QString &name : row.section(u':', 0, 0).split(u' '))
             QVERIFY(!writeFile(dir.filePath(name), {}).isEmpty());
-        QCOMPARE(DvdIfoFiles(dir.path() + folder).join(u' ').remove(dir.path() + u'/'), found);
+        QCOMPARE(DvdIfoFiles(dir.path() + folder).join(u' ').remove(dir.path() + u'/'),
+                 row.section(u':', 2));
         QVERIFY(IsDvdSource(dir.path() + folder));
     }
 
@@ -547,20 +543,19 @@ private slots:
 
     void selectsTracksUnderTheDemuxer_data()
     {
-        QTest::addColumn<int>("audioTrack");
-        QTest::addColumn<int>("subtitle");
-        QTest::addColumn<QString>("kept"); // stream ids that are not discarded
-        QTest::newRow("everything") << -1 << -1 << u"e0 80 c0 20"_s;
-        QTest::newRow("second audio track") << 1 << -1 << u"e0 c0 20"_s;
-        QTest::newRow("first audio, the subtitle") << 0 << 0 << u"e0 80 20"_s;
-        QTest::newRow("missing subtitle") << 0 << 3 << u"e0 80"_s;
+        // The audio track and subtitle chosen: the stream ids that are not discarded.
+        QTest::addColumn<QString>("row");
+        QTest::newRow("everything") << u"-1 -1: e0 80 c0 20"_s;
+        QTest::newRow("second audio track") << u"1 -1: e0 c0 20"_s;
+        QTest::newRow("first audio, the subtitle") << u"0 0: e0 80 20"_s;
+        QTest::newRow("missing subtitle") << u"0 3: e0 80"_s;
     }
 
     void selectsTracksUnderTheDemuxer()
     {
-        QFETCH(int, audioTrack);
-        QFETCH(int, subtitle);
-        QFETCH(QString, kept);
+        QFETCH(QString, row);
+        const int audioTrack = row.section(u' ', 0, 0).toInt(),
+                  subtitle = row.section(u':', 0, 0).section(u' ', 1).toInt();
         const TitleSelection selection{0, audioTrack, subtitle};
         int error = 0;
         const FormatContextPtr context = openMediaInput(ifo, QString(), selection, &error);
@@ -577,7 +572,7 @@ private slots:
                     || type == AVMEDIA_TYPE_SUBTITLE))
                 ids << QString::number(stream->id & 0xff, 16);
         }
-        QCOMPARE(ids.join(u' '), kept);
+        QCOMPARE(ids.join(u' '), row.section(u": "_s, 1));
     }
     void probe_data()
     {
@@ -671,17 +666,19 @@ private slots:
 
     void derivedValues()
     {
+        // Without an aspect of its own the pixels are square; the text is cut, not rounded.
         MediaInfo info;
-        info.width = 720;
-        info.height = 576;
-        QCOMPARE(info.DisplayAspect(), 1.25);
-        QCOMPARE(info.AspectText(), u"1.25"_s);
-        info.width = 640;
-        info.height = 480;
-        QCOMPARE(info.AspectText(), u"1.333"_s);
-        info.displayAspect = 16.0 / 9.0;
-        QCOMPARE(info.DisplayAspect(), 16.0 / 9.0);
-        QCOMPARE(info.AspectText(), u"1.777"_s);
+        QStringList aspects;
+        for (const QSize size : {QSize(720, 576), QSize(640, 480), QSize(1, 0)}) {
+            info.width = size.width();
+            info.height = size.height();
+            for (const double own : {0.0, 16.0 / 9.0}) {
+                info.displayAspect = own;
+                aspects << QString::number(info.DisplayAspect()) + u'=' + info.AspectText();
+            }
+        }
+        QCOMPARE(aspects.join(u' '), u"1.25=1.25 1.77778=1.777 1.33333=1.333 1.77778=1.777 0=0 "
+                                     "1.77778=1.777"_s);
         info.audioStreams.push_back({});
         info.audioStreams[0].codec = u"ac3"_s;
         QCOMPARE(info.audioCodec(0) + info.audioCodec(1) + info.audioCodec(-1), u"ac3"_s);
@@ -691,8 +688,7 @@ private slots:
         empty.range = std::make_unique<DvdChapter>();
         QCOMPARE(info.LoadTitle(empty), -1);
         empty.range->end = 0.5;
-        QCOMPARE(info.LoadTitle(empty), 0);
-        QCOMPARE(info.duration, 0.5);
+        QVERIFY(info.LoadTitle(empty) == 0 && info.duration == 0.5);
     }
 
     // A still of a picture that does not change, against ffmpeg's own
