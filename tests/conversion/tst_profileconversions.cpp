@@ -1,9 +1,8 @@
 #include "commandbuilder.h"
-#include "dvddisc.h"
 #include "encoderjob.h"
 #include "ffmpegtools.h"
+#include "fixturediscs.h"
 #include "inputprobe.h"
-#include "mediafixtures.h"
 #include "optiontable.h"
 #include "profile.h"
 #include "profilegrouploader.h"
@@ -114,33 +113,23 @@ QByteArray ffprobe(const char *options, const QString &file)
 
 // The documents that no entry of this catalogue names, as a later catalogue
 // may name them: each with the container its family suggests.
-class LaterCatalogue : public ProfileLookup
+FixedCatalogue laterCatalogue(const QStringList &files)
 {
-public:
-    explicit LaterCatalogue(const QStringList &files)
-        : files(files)
-    {}
-    QString profileFileName(const QString &, const QString &id) const override
-    {
-        return files.value(id.toInt());
-    }
-    QString profileExtName(const QString &groupId, const QString &id) const override
-    {
-        const QString name = profileFileName(groupId, id).toLower();
+    QHash<QString, QString> entries;
+    for (int i = 0; i < files.size(); ++i) {
+        QString extension = u"mp4"_s;
         for (const QString &rule :
-             QStringLiteral(
-                 "wmv=wmv xvid=avi divx=avi avi=avi _ts=ts mpeg2=mpg _ogg=mkv dpg4=mp4 "
-                 "dpg=mpg wtv=mpg swf=swf flv=flv prores=mov imovie=mov mov=mov xbox_=mov")
-                 .split(u' ')) {
-            if (name.contains(rule.section(u'=', 0, 0)))
-                return rule.section(u'=', 1);
+             u"wmv=wmv xvid=avi divx=avi avi=avi _ts=ts mpeg2=mpg _ogg=mkv dpg4=mp4 dpg=mpg "
+             "wtv=mpg swf=swf flv=flv prores=mov imovie=mov mov=mov xbox_=mov"_s.split(u' ')) {
+            if (files[i].toLower().contains(rule.section(u'=', 0, 0))) {
+                extension = rule.section(u'=', 1);
+                break;
+            }
         }
-        return u"mp4"_s;
+        entries.insert(u"99,"_s + QString::number(i), files[i] + u' ' + extension);
     }
-
-private:
-    QStringList files;
-};
+    return FixedCatalogue(entries);
+}
 
 } // namespace
 
@@ -175,10 +164,9 @@ private:
     };
 
     const QString home = QDir::homePath(); // TestHome's
-    QString fixtures;
+    FixtureDiscs discs;
     QString source;
     InputLayout layout;
-    std::unique_ptr<DvdDisc> disc;
     QMap<QString, QString> codecOfEncoder;
     QString encoder;
     std::unique_ptr<TaskList> list;
@@ -203,7 +191,7 @@ private:
     void start(Job &job, const QString &key, bool title)
     {
         job.list = std::make_unique<TaskList>(ProfileGroupLoader::instance());
-        const int id = title ? job.list->addTitle(key, *disc->titles[0], 1, 1)
+        const int id = title ? job.list->addTitle(key, *discs.ntsc->titles[0], 1, 1)
                              : job.list->addFile(key, source);
         job.task = job.list->byId(id);
         QVERIFY(job.task);
@@ -383,12 +371,10 @@ private:
 private slots:
     void initTestCase()
     {
-        REQUIRE_MEDIA_FIXTURES(fixtures);
-        source = fixture(fixtures, "movie.mkv");
+        discs.load();
+        source = discs.file("movie.mkv");
         layout = InputProbe::layout(source);
         QVERIFY(layout.hasVideo && layout.hasAudio);
-        disc = LoadDvdDisc(fixture(fixtures, "dvd-ntsc/VIDEO_TS/VTS_01_0.IFO"), false);
-        QVERIFY(disc && !disc->titles.empty());
         encoder = QCoreApplication::applicationDirPath() + u"/kestrove-encoder"_s;
         CommandBuilder::setGpuEncoderOverride(0);
 
@@ -416,7 +402,7 @@ private slots:
     {
         // A 16:9 title, first audio track, no subtitle, zoom "16:9", the mp4
         // profile with its defaults and a 640*480 picture.
-        Task &task = *list->byId(list->addTitle(u"1,68"_s, *disc->titles[0], 1, 1));
+        Task &task = *list->byId(list->addTitle(u"1,68"_s, *discs.ntsc->titles[0], 1, 1));
         task.output.settings = Profile(u":/profile/mp4.xml"_s).values();
         task.output.settings[u"s"_s] = u"640*480"_s;
         task.items[0]->edit.zoomMode = u"16:9"_s;
@@ -433,8 +419,8 @@ private slots:
 
     void mergedFilesWithTrimAndSubtitle()
     {
-        const QString clip = fixture(fixtures, "clip.mp4");
-        const QString movie = fixture(fixtures, "movie.mkv");
+        const QString clip = discs.file("clip.mp4");
+        const QString movie = discs.file("movie.mkv");
         Task &task = fileTask(clip);
         task.appendItem(*list->byId(list->addFile(u"1,68"_s, movie))->items[0]);
         task.items[0]->edit.trimStart = 0.5;
@@ -451,7 +437,7 @@ private slots:
 
     void outputNames()
     {
-        const QString clip = fixture(fixtures, "clip.mp4");
+        const QString clip = discs.file("clip.mp4");
         Task &first = fileTask(clip);
         preparedArguments(first, QString());
         QCOMPARE(preparedArguments(fileTask(clip), QString()).last(), outDir() + "/clip(1).mp4"_L1);
@@ -541,7 +527,7 @@ private slots:
         QFETCH(QStringList, settings);
         QFETCH(QString, expected);
         QFETCH(QString, absent);
-        Task &task = fileTask(fixture(fixtures, "clip.mp4"));
+        Task &task = fileTask(discs.file("clip.mp4"));
         for (const QString &pair : settings) {
             QString key = pair.section(u'=', 0, 0);
             const QString value = pair.section(u'=', 1);
@@ -575,7 +561,7 @@ private slots:
 
     void watermarkIsRenderedForTheChain()
     {
-        Task &task = fileTask(fixture(fixtures, "clip.mp4"));
+        Task &task = fileTask(discs.file("clip.mp4"));
         task.output.settings[u"s"_s] = u"320*240"_s;
         WatermarkEntry &mark = task.items[0]->edit.watermark();
         mark.text = u"Kestrove"_s;
@@ -642,7 +628,7 @@ private slots:
         for (const QString &file : std::as_const(named))
             unnamed.removeAll(file);
         QCOMPARE(unnamed.size(), 59);
-        const LaterCatalogue later(unnamed);
+        const FixedCatalogue later = laterCatalogue(unnamed);
         for (int i = 0; i < unnamed.size(); ++i)
             add(runsOf(&later, u"99,%1"_s.arg(i)));
         QVERIFY(rows > 200);
