@@ -94,12 +94,10 @@ QString describe(const DvdDisc &disc)
     for (const auto &title : disc.titles) {
         QStringList chapters;
         for (const auto &chapter : title->chapters)
-            chapters << u"%1%2-%3"_s.arg(chapter->title == title.get() ? u""_s : u"!"_s)
-                            .arg(chapter->start, 0, 'g', 6)
-                            .arg(chapter->end, 0, 'g', 6);
-        titles << u"%1:%2(%3)"_s.arg(title->pgcIndex)
-                      .arg(title->range->end, 0, 'g', 6)
-                      .arg(chapters.join(u','));
+            chapters << QString::asprintf("%s%g-%g", chapter->title == title.get() ? "" : "!",
+                                          chapter->start, chapter->end);
+        titles << QString::asprintf("%d:%g(%s)", title->pgcIndex, title->range->end,
+                                    qPrintable(chapters.join(u',')));
         if (!title->audioNames.isEmpty() || !title->subtitleNames.isEmpty())
             titles.last()
                 += u"[%1][%2]"_s.arg(title->audioNames.join(u'/'), title->subtitleNames.join(u'/'));
@@ -137,17 +135,13 @@ QString streams(const MediaInfo &info)
 {
     QStringList audio, subtitles, chapters;
     for (const AudioStreamInfo &stream : info.audioStreams)
-        audio << u"%1:%2:%3:%4:%5"_s.arg(stream.index)
-                     .arg(stream.language)
-                     .arg(stream.sampleRate)
-                     .arg(stream.channels)
-                     .arg(stream.codec);
+        audio << QString::asprintf("%d:%s:%d:%d:%s", stream.index, qPrintable(stream.language),
+                                   stream.sampleRate, stream.channels, qPrintable(stream.codec));
     for (const SubtitleStreamInfo &subtitle : info.subtitleStreams)
         subtitles << u"%1:%2"_s.arg(subtitle.index).arg(subtitle.language);
     for (const MediaChapter &chapter : info.chapters)
-        chapters << u"%1-%2:%3"_s.arg(chapter.start, 0, 'g', 4)
-                        .arg(chapter.end, 0, 'g', 4)
-                        .arg(chapter.name);
+        chapters << QString::asprintf("%.4g-%.4g:%s", chapter.start, chapter.end,
+                                      qPrintable(chapter.name));
     return u"%1 | %2 | %3"_s.arg(audio.join(u' '), subtitles.join(u' '), chapters.join(u' '));
 }
 
@@ -260,14 +254,12 @@ private slots:
         const std::unique_ptr<DvdDisc> disc
             = onDisc ? loadDisc(path, dropped) : BuildDvdDisc(u"x.IFO"_s, record(pgcs), {});
         QVERIFY(disc);
-        const QString attributes
-            = u" | %1x%2 %3 %4 %5 %6 %7 %8ch"_s.arg(disc->width)
-                  .arg(disc->height)
-                  .arg(disc->aspect == 16.0 / 9.0 ? u"16:9"_s : u"4:3"_s)
-                  .arg(disc->videoStandard ? u"PAL"_s : u"NTSC"_s)
-                  .arg(VideoFormatLabel(disc->mpegVersion), AudioFormatLabel(disc->audioFormat))
-                  .arg(disc->audioRate == 0 ? 48000 : 0)
-                  .arg(disc->audioChannels);
+        const QString attributes = QString::asprintf(
+            " | %dx%d %s %s %s %s %d %dch", disc->width, disc->height,
+            disc->aspect == 16.0 / 9.0 ? "16:9" : "4:3", disc->videoStandard ? "PAL" : "NTSC",
+            qPrintable(VideoFormatLabel(disc->mpegVersion)),
+            qPrintable(AudioFormatLabel(disc->audioFormat)), disc->audioRate == 0 ? 48000 : 0,
+            int(disc->audioChannels));
         QCOMPARE(describe(*disc) + (onDisc ? attributes : QString()), titles);
         QCOMPARE(disc->path, onDisc ? path : u"x.IFO"_s);
         // Past the ends of the label tables.
@@ -648,11 +640,8 @@ private slots:
                  qPrintable(QString::number(info.duration)));
         QCOMPARE(info.hasVideo, !video.isEmpty());
         if (info.hasVideo)
-            QCOMPARE(u"%1 %2x%3@%4 %5"_s.arg(info.videoCodec)
-                         .arg(info.width)
-                         .arg(info.height)
-                         .arg(info.frameRate)
-                         .arg(info.displayAspect, 0, 'g', 4),
+            QCOMPARE(QString::asprintf("%s %dx%d@%g %.4g", qPrintable(info.videoCodec), info.width,
+                                       info.height, info.frameRate, info.displayAspect),
                      video);
         QCOMPARE(::streams(info), streams);
         QVERIFY(info.allCodecsKnown && info.forcedFormat.isEmpty());
