@@ -136,6 +136,8 @@ public slots:
     void on_actionRemove_Selected_Item_s_triggered();
     void on_actionMove_Up_triggered();
     void on_actionMove_Down_triggered();
+    void on_actionTop_triggered();
+    void on_actionBottom_triggered();
     void onStopTask(int taskId);
     void on_actionAudio_Track_triggered() {}
     void on_actionSubtitle_triggered() {}

@@ -152,3 +152,19 @@ void CMainWnd::on_actionMove_Down_triggered()
     if (TaskTreeOps::CanMoveDown(treeTask))
         moveSelected(1);
 }
+
+void CMainWnd::on_actionTop_triggered()
+{
+    treeTask->setUpdatesEnabled(false);
+    while (TaskTreeOps::CanMoveUp(treeTask))
+        moveSelected(-1);
+    treeTask->setUpdatesEnabled(true);
+}
+
+void CMainWnd::on_actionBottom_triggered()
+{
+    treeTask->setUpdatesEnabled(false);
+    while (TaskTreeOps::CanMoveDown(treeTask))
+        moveSelected(1);
+    treeTask->setUpdatesEnabled(true);
+}

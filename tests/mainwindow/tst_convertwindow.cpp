@@ -198,6 +198,11 @@ private slots:
         QTest::mouseClick(qobject_cast<CustomItemWidget *>(select(titles[2]))->upBtn, Qt::LeftButton);
         QCOMPARE(shown(), QStringLiteral("disc Title_3 Title_1 tone clip | 4 tasks"));
         QCOMPARE(window->tasks()->at(0)->id, titles[2]); // a disc's titles go in the queue's order
+        select(files[0]);
+        window->action(QStringLiteral("actionTop"))->trigger();
+        QCOMPARE(shown(), QStringLiteral("clip disc Title_3 Title_1 tone | 4 tasks"));
+        window->action(QStringLiteral("actionBottom"))->trigger();
+        QCOMPARE(shown(), QStringLiteral("disc Title_3 Title_1 tone clip | 4 tasks"));
 
         window->treeTask->setCurrentItem(window->itemOf(titles[0])->parent(), 0, QItemSelectionModel::ClearAndSelect);
         window->itemOf(files[0])->setSelected(true);
