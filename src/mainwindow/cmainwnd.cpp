@@ -181,11 +181,6 @@ QString discPathOf(const QString &ifo)
     return QDir::toNativeSeparators(folder.absolutePath());
 }
 
-CustomItemWidget *rowOf(const QTreeWidget *tree, QTreeWidgetItem *item)
-{
-    return item ? qobject_cast<CustomItemWidget *>(tree->itemWidget(item, 0)) : nullptr;
-}
-
 // The combo and the panel act on the selected rows, or on what comes next
 // when nothing is selected.
 bool profileApplies(const QTreeWidget *tree)
@@ -711,7 +706,7 @@ void CMainWnd::on_comboProfile_currentIndexChanged(int index)
     const TaskTreeOps &ops = TaskTreeOps::instance();
     for (QTreeWidgetItem *item : std::as_const(rows))
         if (ops.ApplyProfile(taskList.get(), item, profile.key, profile.fileName, settingsWindow))
-            if (CustomItemWidget *row = rowOf(treeTask, item))
+            if (CustomItemWidget *row = rowFace(item))
                 row->refresh();
     UpdateStartButton();
 }
@@ -724,7 +719,7 @@ void CMainWnd::OnSettingsValueChanged(const QString &key, const QString &value)
         return;
     TaskTreeOps::instance().taskOf(current)->output.settings[key] = value;
     if (key == QLatin1String("s"))
-        if (CustomItemWidget *row = rowOf(treeTask, current))
+        if (CustomItemWidget *row = rowFace(current))
             row->refreshTexts();
 }
 
@@ -744,7 +739,7 @@ void CMainWnd::OnSettingsApplyToAll()
         QTreeWidgetItem *item = *it;
         if (item != treeTask->currentItem()
             && ops.ApplyProfile(taskList.get(), item, profile.key, profile.fileName, settingsWindow))
-            if (CustomItemWidget *row = rowOf(treeTask, item))
+            if (CustomItemWidget *row = rowFace(item))
                 row->refresh();
     }
     UpdateStartButton();
@@ -1067,6 +1062,11 @@ void CMainWnd::addRow(QTreeWidgetItem *item, int taskId, int kind, int childId)
     item->setSizeHint(0, QSize(0, rowHeights.value(kind)));
 }
 
+CustomItemWidget *CMainWnd::rowFace(QTreeWidgetItem *item) const
+{
+    return item ? qobject_cast<CustomItemWidget *>(treeTask->itemWidget(item, 0)) : nullptr;
+}
+
 CustomItemWidget *CMainWnd::makeRowFace(QTreeWidgetItem *item)
 {
     const int kind = TaskTreeOps::kindOf(item);
@@ -1268,7 +1268,7 @@ void CMainWnd::on_treeTask_itemChanged(QTreeWidgetItem *, int column)
 
 void CMainWnd::on_treeTask_itemExpanded(QTreeWidgetItem *item)
 {
-    if (CustomItemWidget *row = rowOf(treeTask, item))
+    if (CustomItemWidget *row = rowFace(item))
         row->refreshExpand();
     QTimer::singleShot(0, this, &CMainWnd::makeVisibleRowFaces);
 }
@@ -1282,7 +1282,7 @@ void CMainWnd::receiveMediaImage(int taskId)
 {
     for (QTreeWidgetItemIterator it(treeTask); *it; ++it)
         if (TaskTreeOps::taskIdOf(*it) == taskId) {
-            if (CustomItemWidget *row = rowOf(treeTask, *it))
+            if (CustomItemWidget *row = rowFace(*it))
                 row->refreshPicture();
             return;
         }
@@ -1291,7 +1291,7 @@ void CMainWnd::receiveMediaImage(int taskId)
 void CMainWnd::receiveMediaImage(int taskId, int childId)
 {
     for (int child : {childId, -1})
-        if (CustomItemWidget *row = rowOf(treeTask, itemOf(taskId, child)))
+        if (CustomItemWidget *row = rowFace(itemOf(taskId, child)))
             row->refreshPicture();
 }
 

@@ -262,6 +262,8 @@ private:
     void setUpLoading(QProgressDialog &progress, int count);
     int nextDiscId = 1;
     CustomItemWidget *makeRowFace(QTreeWidgetItem *item);
+    // The row's widget, where it has one yet.
+    CustomItemWidget *rowFace(QTreeWidgetItem *item) const;
     void makeVisibleRowFaces();
     QMap<int, int> rowHeights; // by row kind
 

@@ -25,11 +25,6 @@ namespace {
 qint64 lastThumbnailTime = 0;
 constexpr qint64 thumbnailInterval = 10;
 
-CustomItemWidget *faceOf(const QTreeWidget *tree, QTreeWidgetItem *item)
-{
-    return item ? qobject_cast<CustomItemWidget *>(tree->itemWidget(item, 0)) : nullptr;
-}
-
 } // namespace
 
 void CMainWnd::on_btnStart_clicked()
@@ -94,7 +89,7 @@ void CMainWnd::startRow(QTreeWidgetItem *item)
     if (!task || TaskTreeOps::kindOf(item) == RowDisc)
         return;
     task->setChecked(true, -1);
-    if (CustomItemWidget *row = faceOf(treeTask, item))
+    if (CustomItemWidget *row = rowFace(item))
         row->syncCheck();
     // At once, whatever the limit of parallel encoders says.
     converter->startTask(task->id);
@@ -154,7 +149,7 @@ void CMainWnd::OnConvertProgressChanged(int taskId, double seconds)
     if (!task)
         return;
     task->progress = seconds;
-    CustomItemWidget *row = faceOf(treeTask, itemOf(taskId));
+    CustomItemWidget *row = rowFace(itemOf(taskId));
     if (row)
         row->refreshProgress();
     UpdateTotalProgress();
@@ -176,7 +171,7 @@ void CMainWnd::OnTaskStateChanged(int taskId, Task::EState state)
     TimeTracker::stateChanged(*taskList, taskId, state);
     if (state == Task::Running)
         batchTasks.insert(taskId);
-    if (CustomItemWidget *row = faceOf(treeTask, itemOf(taskId))) {
+    if (CustomItemWidget *row = rowFace(itemOf(taskId))) {
         row->refreshState();
         const bool busy = state == Task::Running || state == Task::Paused || state == Task::Pending;
         row->showProgress(busy);

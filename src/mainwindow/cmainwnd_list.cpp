@@ -26,7 +26,7 @@ void CMainWnd::RemoveRow(QTreeWidgetItem *item)
         if (parent->childCount() > 0) {
             if (Task *merged = taskList->byId(taskId))
                 merged->removeItem(position);
-            if (auto *row = qobject_cast<CustomItemWidget *>(treeTask->itemWidget(parent, 0)))
+            if (CustomItemWidget *row = rowFace(parent))
                 row->refresh();
         } else {
             delete parent;
@@ -110,7 +110,7 @@ void CMainWnd::MoveRow(QTreeWidgetItem *item, int step)
             step < 0 ? taskList->moveTaskUp(taskId) : taskList->moveTaskDown(taskId);
         else if (Task *merged = taskList->byId(taskId))
             step < 0 ? merged->moveItemUp(position) : merged->moveItemDown(position);
-        if (auto *row = qobject_cast<CustomItemWidget *>(treeTask->itemWidget(parent, 0)))
+        if (CustomItemWidget *row = rowFace(parent))
             row->refresh();
     } else {
         treeTask->takeTopLevelItem(position);

@@ -155,7 +155,7 @@ void CMainWnd::fillTrackMenu(QMenu *menu, bool audio)
             input->edit.clearSubtitleSelection();
             input->edit.selectSubtitle(index);
         }
-        if (auto *row = qobject_cast<CustomItemWidget *>(treeTask->itemWidget(treeTask->currentItem(), 0)))
+        if (CustomItemWidget *row = rowFace(treeTask->currentItem()))
             audio ? row->fillAudioCombo() : row->fillSubtitleCombo();
         onStopAndContinuePlay(taskId, childId);
     };

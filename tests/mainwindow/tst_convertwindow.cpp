@@ -111,8 +111,8 @@ private slots:
         window->treeTask->setCurrentItem(item, 0, QItemSelectionModel::ClearAndSelect);
         window->treeTask->scrollToItem(item);
         QWidget *face = nullptr;
-        QTest::qWaitFor([&] { return (face = window->treeTask->itemWidget(item, 0)); }, 2000);
-        return face;
+        return QTest::qWaitFor([&] { return (face = window->treeTask->itemWidget(item, 0)); }, 2000) ? face
+                                                                                                    : nullptr;
     }
 
     // A user's whole road: Open DVD, two titles ticked, an iPhone profile
