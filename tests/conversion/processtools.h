@@ -69,3 +69,18 @@ inline QList<qint64> childrenNamed(qint64 parent, const QByteArray &name)
             found.append(entry.pid);
     return found;
 }
+
+// An ffmpeg that reads every input at its own speed (-re), for
+// KESTROVE_FFMPEG: a conversion then takes as long as its input plays,
+// however busy the machine is. Its path, or empty where it can't be written.
+inline QString writePacedFfmpeg(const QString &folder)
+{
+    QFile script(folder + QStringLiteral("/paced-ffmpeg"));
+    if (!script.open(QIODevice::WriteOnly)
+        || script.write("#!/bin/bash\nargs=()\nfor a in \"$@\"; do [ \"$a\" = -i ] && "
+                        "args+=(-re); args+=(\"$a\"); done\nexec ffmpeg \"${args[@]}\"\n")
+               < 0)
+        return {};
+    script.close();
+    return script.setPermissions(QFile::ReadOwner | QFile::ExeOwner) ? script.fileName() : QString();
+}

@@ -137,13 +137,8 @@ private slots:
         discs.load();
         outputDir = work.filePath(u"out"_s);
         setSettingString(u"OutputDir"_s, outputDir);
-        // ffmpeg that reads every input at its own speed (-re), in place of the
-        // stock one: a conversion takes as long as its input plays, however
-        // busy the machine is.
-        pacedFfmpeg = writeFile(work.filePath(u"paced-ffmpeg"_s),
-                                "#!/bin/bash\nargs=()\nfor a in \"$@\"; do [ \"$a\" = -i ] && "
-                                "args+=(-re); args+=(\"$a\"); done\nexec ffmpeg \"${args[@]}\"\n");
-        QVERIFY(QFile::setPermissions(pacedFfmpeg, QFile::ReadOwner | QFile::ExeOwner));
+        pacedFfmpeg = writePacedFfmpeg(work.path());
+        QVERIFY(!pacedFfmpeg.isEmpty());
     }
 
     void stopwatchFollowsStates()

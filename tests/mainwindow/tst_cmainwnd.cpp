@@ -530,10 +530,8 @@ private slots:
         QVERIFY(window->isVisible());
         setState(u"film"_s, Task::Idle);
         QTemporaryDir work;
-        const QString paced = writeFile(work.filePath(u"paced-ffmpeg"_s),
-                                        "#!/bin/bash\nargs=()\nfor a in \"$@\"; do [ \"$a\" = -i ] && "
-                                        "args+=(-re); args+=(\"$a\"); done\nexec ffmpeg \"${args[@]}\"\n");
-        QVERIFY(QFile::setPermissions(paced, QFile::ReadOwner | QFile::ExeOwner));
+        const QString paced = writePacedFfmpeg(work.path());
+        QVERIFY(!paced.isEmpty());
         qputenv("KESTROVE_FFMPEG", QFile::encodeName(paced));
         setSettingString(u"OutputDir"_s, work.path());
         ConverterManager *converter = window->converterManager();

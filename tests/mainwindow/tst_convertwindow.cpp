@@ -80,10 +80,8 @@ private slots:
     {
         REQUIRE_MEDIA_FIXTURES(media);
         // Real time: a clip of two seconds keeps its encoder for two seconds.
-        const QString paced = writeFile(work.filePath(QStringLiteral("paced-ffmpeg")),
-                                        "#!/bin/bash\nargs=()\nfor a in \"$@\"; do [ \"$a\" = -i ] && "
-                                        "args+=(-re); args+=(\"$a\"); done\nexec ffmpeg \"${args[@]}\"\n");
-        QVERIFY(QFile::setPermissions(paced, QFile::ReadOwner | QFile::ExeOwner));
+        const QString paced = writePacedFfmpeg(work.path());
+        QVERIFY(!paced.isEmpty());
         qputenv("KESTROVE_FFMPEG", QFile::encodeName(paced));
     }
 
