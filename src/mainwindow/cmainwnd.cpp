@@ -1261,9 +1261,7 @@ void CMainWnd::on_treeTask_itemChanged(QTreeWidgetItem *, int column)
 {
     if (column != 0)
         return;
-    btnStart->setEnabled(TaskTreeOps::AnyRow(treeTask, [](const QTreeWidgetItem *row) {
-        return TaskTreeOps::instance().CanConvert(row, true);
-    }));
+    btnStart->setEnabled(anyRow(&TaskTreeOps::CanConvert, true));
 }
 
 void CMainWnd::on_treeTask_itemExpanded(QTreeWidgetItem *item)
@@ -1297,10 +1295,7 @@ void CMainWnd::receiveMediaImage(int taskId, int childId)
 
 void CMainWnd::closeEvent(QCloseEvent *event)
 {
-    const bool converting = TaskTreeOps::AnyRow(treeTask, [](const QTreeWidgetItem *row) {
-        return TaskTreeOps::instance().CanStop(row, true);
-    });
-    if (converting
+    if (anyRow(&TaskTreeOps::CanStop, true)
         && QMessageBox::question(this, WindowTitleText(),
                                  tr("Are you sure you want to stop converting?"),
                                  QMessageBox::Ok | QMessageBox::Cancel)

@@ -51,21 +51,21 @@ void CMainWnd::on_actionRemove_Selected_Item_s_triggered()
         return;
     if (playing)
         stopPreview();
-    // Ids, not items: a row may go with its parent before its turn.
+    // Ids, not items: a row may go with its parent before its turn. A disc
+    // row has no task: it goes first, by its item.
     QList<QPair<int, int>> rows;
-    for (QTreeWidgetItem *item : treeTask->selectedItems())
-        rows << qMakePair(TaskTreeOps::taskIdOf(item), TaskTreeOps::kindOf(item) == RowChild
-                                                           ? TaskTreeOps::childIdOf(item)
-                                                           : -1);
-    // A disc row has no task: its first title stands for it.
     QList<QTreeWidgetItem *> discs;
-    for (QTreeWidgetItem *item : treeTask->selectedItems())
-        if (TaskTreeOps::kindOf(item) == RowDisc)
+    for (QTreeWidgetItem *item : treeTask->selectedItems()) {
+        const RowKind kind = TaskTreeOps::kindOf(item);
+        if (kind == RowDisc)
             discs << item;
+        else
+            rows << qMakePair(TaskTreeOps::taskIdOf(item), kind == RowChild ? TaskTreeOps::childIdOf(item) : -1);
+    }
     for (QTreeWidgetItem *disc : std::as_const(discs))
         RemoveRow(disc);
     for (const auto &[taskId, childId] : std::as_const(rows))
-        if (QTreeWidgetItem *item = taskId >= 0 ? itemOf(taskId, childId) : nullptr)
+        if (QTreeWidgetItem *item = itemOf(taskId, childId))
             RemoveRow(item);
     afterRemoval();
 }
