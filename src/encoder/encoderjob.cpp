@@ -2,7 +2,7 @@
 
 #include "encoderlimits.h"
 #include "filtertranslator.h"
-#include "soundencoder.h"
+#include "sideencoder.h"
 
 #include <QFileInfo>
 #include <QRegularExpression>
@@ -539,6 +539,10 @@ QStringList EncoderJob::inputArguments(int i, const QString &source) const
         // deciding. (A longer analyzeduration together with -ss on a pipe
         // crashes ffmpeg 5.1.)
         args << QStringLiteral("-probesize") << QStringLiteral("50M");
+        // A disc's MPEG-2 decodes fast on one thread; more cost the
+        // encoder more than they gain.
+        if (!args.contains(QStringLiteral("-threads")))
+            args << QStringLiteral("-threads") << QStringLiteral("1");
         if (inputs[i].subtitle >= 0)
             args << QStringLiteral("-ifo_palette") << inputs[i].path;
         if (!inputs[i].options.contains(QStringLiteral("-f")))
@@ -561,12 +565,12 @@ QString EncoderJob::soundTimeline()
     return QStringLiteral("aresample=async=1:first_pts=0");
 }
 
-QStringList EncoderJob::soundArguments(const QString &source, const InputLayout &layout) const
+QStringList EncoderJob::soundArguments(const QString &source, const InputLayout &layout,
+                                       bool cut) const
 {
     // Quiet: the status lines that report progress come from the other ffmpeg.
     QStringList args{QStringLiteral("-nostdin"), QStringLiteral("-nostats"),
                      QStringLiteral("-loglevel"), QStringLiteral("error")};
-    // Sound for the whole title; the writing ffmpeg cuts both streams alike.
     args << inputArguments(0, source) << QStringLiteral("-map")
          << QStringLiteral("0:%1").arg(audioSpecifier(0, layout)) << QStringLiteral("-vn")
          << QStringLiteral("-sn") << QStringLiteral("-dn");
@@ -574,6 +578,10 @@ QStringList EncoderJob::soundArguments(const QString &source, const InputLayout 
     QStringList filters = output.audioFilters;
     filters << soundTimeline();
     args << QStringLiteral("-af") << filters.join(QLatin1Char(','));
+    // Else the sound is for the whole title, and the writing ffmpeg cuts
+    // both streams alike.
+    if (cut)
+        args << titleCut();
     for (int i = 0; i < output.args.size(); ++i) {
         if (isSoundOption(output.args[i]) || output.args[i] == QLatin1String("-strict"))
             args << output.args[i] << output.args.value(i + 1);
@@ -595,7 +603,7 @@ double EncoderJob::soundLead(const InputLayout &layout) const
     const bool kilo = bits.endsWith(QLatin1Char('k'));
     bits.chop(kilo ? 1 : 0);
     const QString quality = outputOption("q:a");
-    const int samples = SoundEncoder::primingSamples(
+    const int samples = SideEncoder::primingSamples(
         soundEncoder(), rate, channels > 0 ? channels : 2,
         qint64(bits.toDouble() * (kilo ? 1000 : 1)),
         quality.isEmpty() ? -1.0 : quality.toDouble());
@@ -641,183 +649,289 @@ QStringList EncoderJob::ffmpegArguments(const QStringList &sources,
     QStringList args{QStringLiteral("-nostdin")};
     if (overwrite)
         args << QStringLiteral("-y");
+    args << (inputs.size() == 1 ? singleInput(sources.value(0), layouts.value(0), soundSource,
+                                              soundLead)
+                                : joinedInputs(sources, layouts));
+    return args << outputTail(!soundSource.isEmpty());
+}
+
+QStringList EncoderJob::pictureArguments(const QString &source, const InputLayout &layout) const
+{
+    QStringList args{QStringLiteral("-nostdin"), QStringLiteral("-nostats"),
+                     QStringLiteral("-loglevel"), QStringLiteral("error")};
+    args << inputArguments(0, source);
+    const Picture picture = singlePicture(source, layout, 1);
+    args << picture.inputs << titleCut() << picture.graph << QStringLiteral("-an")
+         << QStringLiteral("-sn") << QStringLiteral("-dn");
+    // Converted here, so the writing ffmpeg has only the encoder to run.
+    const QString format = outputOption("pix_fmt");
+    if (!format.isEmpty())
+        args << QStringLiteral("-pix_fmt") << format;
+    return args << QStringLiteral("-c:v") << QStringLiteral("rawvideo") << QStringLiteral("-f")
+                << QStringLiteral("nut") << QStringLiteral("pipe:1");
+}
+
+QStringList EncoderJob::writerArguments(const QString &pictureSource, const InputLayout &layout,
+                                        const QString &soundSource, double soundLead) const
+{
+    QStringList args{QStringLiteral("-nostdin")};
+    if (overwrite)
+        args << QStringLiteral("-y");
+    // The frames keep the times they had in the picture's ffmpeg, as they
+    // would in one. NUT drops the colour tags: the source's stand in.
+    args << QStringLiteral("-copyts") << layout.colourOptions << QStringLiteral("-f")
+         << QStringLiteral("nut") << QStringLiteral("-i") << pictureSource;
+    const bool soundReady = !soundSource.isEmpty();
+    if (soundReady)
+        args << soundInput(soundSource, soundLead);
+    args << QStringLiteral("-map") << QStringLiteral("0:v:0");
+    if (soundReady)
+        args << QStringLiteral("-map") << QStringLiteral("1:a:0");
+    return args << outputTail(soundReady);
+}
+
+bool EncoderJob::pictureApart(const QList<InputLayout> &layouts) const
+{
+    // For tests and benchmarks: 0 never, 1 whenever the job allows it.
+    const QByteArray wanted = qgetenv("KESTROVE_PICTURE_APART");
+    if (wanted == "0" || cpuPercent != 0 || inputs.size() != 1 || !wantsVideo()
+        || !layouts.value(0).hasVideo || isPictureSeries()
+        || container() == QLatin1String("gif"))
+        return false;
+    // Coding in fields needs their order, which raw frames lose in NUT.
+    static const QRegularExpression fields(QStringLiteral("ildct|ilme|^-top$|^-field_order$"));
+    for (const QString &arg : output.args) {
+        if (fields.match(arg).hasMatch())
+            return false;
+    }
+    // The sound, where there is any, must come ready too: the writing
+    // ffmpeg reads nothing of the source.
+    const InputLayout &layout = layouts.first();
+    const EncoderInput &in = inputs.first();
+    const bool silent = !wantsAudio() || !layout.hasAudio || (in.isTitle() && in.audioTrack < 0)
+                        || (!in.isTitle() && layout.audioStreams >= 0
+                            && in.audioStream >= layout.audioStreams);
+    if (!silent && !soundApart(layouts))
+        return false;
+    // Below this a third process costs more than it gains.
+    constexpr double shortest = 10.0;
+    return wanted == "1" || expectedLength(layouts) >= shortest;
+}
+
+QStringList EncoderJob::titleCut() const
+{
+    QStringList args;
+    const EncoderInput &in = inputs.first();
+    if (!in.titleStart.isEmpty() && in.titleStart.toDouble() != 0)
+        args << QStringLiteral("-ss") << in.titleStart;
+    if (!in.titleLength.isEmpty())
+        args << QStringLiteral("-t") << in.titleLength;
+    return args;
+}
+
+QStringList EncoderJob::soundInput(const QString &source, double lead)
+{
+    QStringList args;
+    if (lead > 0)
+        args << QStringLiteral("-itsoffset") << QString::number(-lead, 'f', 6);
+    return args << QStringLiteral("-f") << QStringLiteral("nut") << QStringLiteral("-i") << source;
+}
+
+EncoderJob::Picture EncoderJob::singlePicture(const QString &source, const InputLayout &layout,
+                                              int nextInput) const
+{
+    Picture picture;
+    const EncoderInput &in = inputs.first();
+    // A rate change by the output's -r alone comes two frames late in
+    // ffmpeg 5.1; the fps filter takes the frame nearest each instant.
+    const QString rate = outputOption("r");
+    // A file seeks ahead of its input, which starts the frames' time at 0.
+    const double seek = in.isTitle() ? 0.0 : optionValue(in.options, "-ss").toDouble();
+    const FilterTranslator::Result edits = FilterTranslator::translate(in.videoChain, {}, seek);
+    const QString graph
+        = joinFilters({edits.graph, rate.isEmpty() ? QString() : QStringLiteral("fps=") + rate});
+    const QString sourceChain = sourceFilters(0, layout);
+    QString subpicture = subpictureStream(0, layout);
+    const QString ownInput = QString::number(nextInput);
+    if (!edits.subpictureFile.isEmpty()) {
+        // A VobSub file is timed from the source's start, as a text file is.
+        if (seek > 0)
+            picture.inputs << QStringLiteral("-itsoffset") << QString::number(-seek, 'g', 10);
+        picture.inputs << QStringLiteral("-i") << edits.subpictureFile;
+        subpicture = ownInput + QStringLiteral(":s:%1").arg(edits.subpictureTrack);
+    } else if (!subpicture.isEmpty() && seek > 0) {
+        // The seek ahead of the input would skip a subpicture begun before
+        // it: the stream comes from a second reading that starts earlier.
+        QStringList again = inputArguments(0, source);
+        for (const QLatin1String cut : {QLatin1String("-ss"), QLatin1String("-t")}) {
+            const int at = again.indexOf(cut);
+            if (at >= 0 && at + 2 < again.size())
+                again.remove(at, 2);
+        }
+        const double from = qMax(0.0, seek - subpictureLead);
+        QStringList early;
+        if (from > 0)
+            early << QStringLiteral("-ss") << QString::number(from, 'g', 10);
+        early << QStringLiteral("-itsoffset") << QString::number(from - seek, 'g', 10);
+        picture.inputs << again.mid(0, again.size() - 2) << early << again.mid(again.size() - 2);
+        subpicture = ownInput + QLatin1Char(':') + subpicture;
+    } else if (!subpicture.isEmpty()) {
+        subpicture.prepend(QStringLiteral("0:"));
+    }
+    if (!subpicture.isEmpty()) {
+        // The subpicture lies on the source frame, ahead of crop and scale.
+        const QString head
+            = QStringLiteral("[0:v:0]%1[kb];[kb][%2]overlay=format=auto")
+                  .arg(sourceChain.isEmpty() ? QStringLiteral("null") : sourceChain, subpicture);
+        picture.graph << QStringLiteral("-filter_complex")
+                      << head + (graph.isEmpty() ? QString() : QLatin1Char(',') + graph)
+                             + QStringLiteral("[vout]")
+                      << QStringLiteral("-map") << QStringLiteral("[vout]");
+    } else {
+        const QString chain = joinFilters({sourceChain, graph});
+        if (!chain.isEmpty())
+            picture.graph << QStringLiteral("-vf") << chain;
+        picture.graph << QStringLiteral("-map") << QStringLiteral("0:v:0?");
+    }
+    return picture;
+}
+
+QStringList EncoderJob::singleInput(const QString &source, const InputLayout &layout,
+                                    const QString &soundSource, double soundLead) const
+{
+    const EncoderInput &in = inputs.first();
+    QStringList args = inputArguments(0, source);
+    const bool soundReady = !soundSource.isEmpty();
+    if (soundReady)
+        args << soundInput(soundSource, soundLead);
+    Picture picture;
+    if (wantsVideo())
+        picture = singlePicture(source, layout, soundReady ? 2 : 1);
+    // The title's cut, for every stream: behind the last input.
+    args << picture.inputs << titleCut() << picture.graph;
+    if (!wantsAudio())
+        return args;
+    if (soundReady) {
+        args << QStringLiteral("-map") << QStringLiteral("1:a:0");
+    } else if (!in.isTitle() || in.audioTrack >= 0) {
+        // A title's sound has gaps between its cells: fill them, or the
+        // timestamps run backwards in the output.
+        const QString audioFilters = output.audioFilters.join(QLatin1Char(','));
+        const QString filters
+            = in.isTitle() ? joinFilters({audioFilters, soundTimeline()}) : audioFilters;
+        if (!filters.isEmpty())
+            args << QStringLiteral("-af") << filters;
+        args << QStringLiteral("-map")
+             << QStringLiteral("0:%1?").arg(audioSpecifier(0, layout));
+    }
+    return args;
+}
+
+QStringList EncoderJob::joinedInputs(const QStringList &sources,
+                                     const QList<InputLayout> &layouts) const
+{
+    QStringList args;
     for (int i = 0; i < inputs.size(); ++i)
         args << inputArguments(i, sources.value(i));
-    const bool soundReady = !soundSource.isEmpty();
-    if (soundReady) {
-        if (soundLead > 0)
-            args << QStringLiteral("-itsoffset") << QString::number(-soundLead, 'f', 6);
-        args << QStringLiteral("-f") << QStringLiteral("nut") << QStringLiteral("-i")
-             << soundSource;
-    }
-
     const QString audioFilters = output.audioFilters.join(QLatin1Char(','));
     auto audioSpec = [&](int i) {
         return audioSpecifier(i, layouts.value(i));
     };
     const bool video = wantsVideo();
     const bool audio = wantsAudio();
-
-    if (inputs.size() == 1) {
-        const EncoderInput &in = inputs.first();
-        const InputLayout layout = layouts.value(0);
-        // A rate change by the output's -r alone comes two frames late in
-        // ffmpeg 5.1; the fps filter takes the frame nearest each instant.
-        const QString rate = outputOption("r");
-        // A file seeks ahead of its input, which starts the frames' time at 0.
-        const double seek = in.isTitle() ? 0.0 : optionValue(in.options, "-ss").toDouble();
-        const FilterTranslator::Result edits = FilterTranslator::translate(in.videoChain, {}, seek);
-        const QString graph = joinFilters(
-            {edits.graph, rate.isEmpty() ? QString() : QStringLiteral("fps=") + rate});
-        const QString source = sourceFilters(0, layout);
-        QString subpicture = subpictureStream(0, layout);
-        const QString ownInput = QString::number(inputs.size() + (soundReady ? 1 : 0));
-        if (video && !edits.subpictureFile.isEmpty()) {
-            // A VobSub file is timed from the source's start, as a text file is.
-            if (seek > 0)
-                args << QStringLiteral("-itsoffset") << QString::number(-seek, 'g', 10);
-            args << QStringLiteral("-i") << edits.subpictureFile;
-            subpicture = ownInput + QStringLiteral(":s:%1").arg(edits.subpictureTrack);
-        } else if (video && !subpicture.isEmpty() && seek > 0) {
-            // The seek ahead of the input would skip a subpicture begun before
-            // it: the stream comes from a second reading that starts earlier.
-            QStringList again = inputArguments(0, sources.value(0));
-            for (const QLatin1String cut : {QLatin1String("-ss"), QLatin1String("-t")}) {
-                const int at = again.indexOf(cut);
-                if (at >= 0 && at + 2 < again.size())
-                    again.remove(at, 2);
-            }
-            const double from = qMax(0.0, seek - subpictureLead);
-            QStringList early;
-            if (from > 0)
-                early << QStringLiteral("-ss") << QString::number(from, 'g', 10);
-            early << QStringLiteral("-itsoffset") << QString::number(from - seek, 'g', 10);
-            args << again.mid(0, again.size() - 2) << early << again.mid(again.size() - 2);
-            subpicture = ownInput + QLatin1Char(':') + subpicture;
-        } else if (!subpicture.isEmpty()) {
-            subpicture.prepend(QStringLiteral("0:"));
+    // Several inputs follow each other in one output.
+    QStringList parts;
+    QString concatInputs;
+    const QString size = outputSizeOf(inputs.first().videoChain);
+    // The joined video gets the output's frame rate, else the first input's.
+    const int rateAt = output.args.indexOf(QStringLiteral("-r"));
+    QString rate = rateAt >= 0 ? output.args.value(rateAt + 1) : layouts.value(0).frameRate;
+    if (rate.isEmpty() || rate == QLatin1String("0/0"))
+        rate = QStringLiteral("25");
+    for (int i = 0; i < inputs.size(); ++i) {
+        const EncoderInput &in = inputs[i];
+        const InputLayout layout = layouts.value(i);
+        const QString length
+            = QString::number(layout.duration > 0 ? layout.duration : 1, 'g', 10);
+        QString videoTrim, audioTrim;
+        if (in.isTitle() && (in.titleStart.toDouble() > 0 || !in.titleLength.isEmpty())) {
+            QString range = QStringLiteral("start=%1").arg(in.titleStart.toDouble());
+            if (!in.titleLength.isEmpty())
+                range += QStringLiteral(":duration=%1").arg(in.titleLength);
+            videoTrim
+                = QStringLiteral("setpts=PTS-STARTPTS,trim=%1,setpts=PTS-STARTPTS").arg(range);
+            audioTrim = QStringLiteral("asetpts=PTS-STARTPTS,atrim=%1,asetpts=PTS-STARTPTS,")
+                            .arg(range);
         }
-        // The title's cut, for every input: after the last of them.
-        if (!in.titleStart.isEmpty() && in.titleStart.toDouble() != 0)
-            args << QStringLiteral("-ss") << in.titleStart;
-        if (!in.titleLength.isEmpty())
-            args << QStringLiteral("-t") << in.titleLength;
-        if (video && !subpicture.isEmpty()) {
-            // The subpicture lies on the source frame, ahead of crop and scale.
-            const QString head
-                = QStringLiteral("[0:v:0]%1[kb];[kb][%2]overlay=format=auto")
-                      .arg(source.isEmpty() ? QStringLiteral("null") : source, subpicture);
-            args << QStringLiteral("-filter_complex")
-                 << head + (graph.isEmpty() ? QString() : QLatin1Char(',') + graph)
-                        + QStringLiteral("[vout]")
-                 << QStringLiteral("-map") << QStringLiteral("[vout]");
-        } else if (video) {
-            const QString chain = joinFilters({source, graph});
-            if (!chain.isEmpty())
-                args << QStringLiteral("-vf") << chain;
-            args << QStringLiteral("-map") << QStringLiteral("0:v:0?");
-        }
-        if (audio && soundReady) {
-            args << QStringLiteral("-map") << QStringLiteral("1:a:0");
-        } else if (audio && (!in.isTitle() || in.audioTrack >= 0)) {
-            // A title's sound has gaps between its cells: fill them, or the
-            // timestamps run backwards in the output.
-            const QString filters
-                = in.isTitle() ? joinFilters({audioFilters, soundTimeline()}) : audioFilters;
-            if (!filters.isEmpty())
-                args << QStringLiteral("-af") << filters;
-            args << QStringLiteral("-map") << QStringLiteral("0:%1?").arg(audioSpec(0));
-        }
-    } else {
-        // Several inputs follow each other in one output.
-        QStringList parts;
-        QString concatInputs;
-        const QString size = outputSizeOf(inputs.first().videoChain);
-        // The joined video gets the output's frame rate, else the first input's.
-        const int rateAt = output.args.indexOf(QStringLiteral("-r"));
-        QString rate = rateAt >= 0 ? output.args.value(rateAt + 1) : layouts.value(0).frameRate;
-        if (rate.isEmpty() || rate == QLatin1String("0/0"))
-            rate = QStringLiteral("25");
-        for (int i = 0; i < inputs.size(); ++i) {
-            const EncoderInput &in = inputs[i];
-            const InputLayout layout = layouts.value(i);
-            const QString length
-                = QString::number(layout.duration > 0 ? layout.duration : 1, 'g', 10);
-            QString videoTrim, audioTrim;
-            if (in.isTitle() && (in.titleStart.toDouble() > 0 || !in.titleLength.isEmpty())) {
-                QString range = QStringLiteral("start=%1").arg(in.titleStart.toDouble());
-                if (!in.titleLength.isEmpty())
-                    range += QStringLiteral(":duration=%1").arg(in.titleLength);
-                videoTrim
-                    = QStringLiteral("setpts=PTS-STARTPTS,trim=%1,setpts=PTS-STARTPTS").arg(range);
-                audioTrim = QStringLiteral("asetpts=PTS-STARTPTS,atrim=%1,asetpts=PTS-STARTPTS,")
-                                .arg(range);
-            }
-            if (video) {
-                if (layout.hasVideo) {
-                    const QString graph
-                        = FilterTranslator::translate(in.videoChain, QStringLiteral("i%1").arg(i))
-                              .graph;
-                    const QString source = sourceFilters(i, layout);
-                    const QString subpicture = subpictureStream(i, layout);
-                    // A title's subpicture goes on before its trim, which moves the frames' time.
-                    const QString rest = joinFilters(
-                        {videoTrim, graph, QStringLiteral("setsar=1,format=yuv420p")});
-                    if (subpicture.isEmpty())
-                        parts << QStringLiteral("[%1:v:0]%2[v%1]")
-                                     .arg(i)
-                                     .arg(joinFilters({source, rest}));
-                    else
-                        parts << QStringLiteral("[%1:v:0]%2[kb%1]")
-                                     .arg(i)
-                                     .arg(source.isEmpty() ? QStringLiteral("null") : source)
-                              << QStringLiteral("[kb%1][%1:%2]overlay=format=auto,%3[v%1]")
-                                     .arg(i)
-                                     .arg(subpicture, rest);
-                } else {
-                    parts << QStringLiteral(
-                                 "color=c=black:s=%1:r=%2:d=%3,setsar=1,format=yuv420p[v%4]")
-                                 .arg(size, rate, length)
-                                 .arg(i);
-                }
-                concatInputs += QStringLiteral("[v%1]").arg(i);
-            }
-            if (audio) {
-                if (layout.hasAudio && (!in.isTitle() || in.audioTrack >= 0))
-                    parts << QStringLiteral(
-                                 "[%1:%2]%3aresample=48000,aformat=channel_layouts=stereo[a%1]")
+        if (video) {
+            if (layout.hasVideo) {
+                const QString graph
+                    = FilterTranslator::translate(in.videoChain, QStringLiteral("i%1").arg(i))
+                          .graph;
+                const QString source = sourceFilters(i, layout);
+                const QString subpicture = subpictureStream(i, layout);
+                // A title's subpicture goes on before its trim, which moves the frames' time.
+                const QString rest = joinFilters(
+                    {videoTrim, graph, QStringLiteral("setsar=1,format=yuv420p")});
+                if (subpicture.isEmpty())
+                    parts << QStringLiteral("[%1:v:0]%2[v%1]")
                                  .arg(i)
-                                 .arg(audioSpec(i), audioTrim);
+                                 .arg(joinFilters({source, rest}));
                 else
-                    parts << QStringLiteral("anullsrc=r=48000:cl=stereo,atrim=duration=%1[a%2]")
-                                 .arg(length)
-                                 .arg(i);
-                concatInputs += QStringLiteral("[a%1]").arg(i);
+                    parts << QStringLiteral("[%1:v:0]%2[kb%1]")
+                                 .arg(i)
+                                 .arg(source.isEmpty() ? QStringLiteral("null") : source)
+                          << QStringLiteral("[kb%1][%1:%2]overlay=format=auto,%3[v%1]")
+                                 .arg(i)
+                                 .arg(subpicture, rest);
+            } else {
+                parts << QStringLiteral(
+                             "color=c=black:s=%1:r=%2:d=%3,setsar=1,format=yuv420p[v%4]")
+                             .arg(size, rate, length)
+                             .arg(i);
             }
+            concatInputs += QStringLiteral("[v%1]").arg(i);
         }
-        QString tail = QStringLiteral("%1concat=n=%2:v=%3:a=%4")
-                           .arg(concatInputs)
-                           .arg(inputs.size())
-                           .arg(video ? 1 : 0)
-                           .arg(audio ? 1 : 0);
-        if (video)
-            tail += QStringLiteral("[vout]");
-        if (audio)
-            tail += audioFilters.isEmpty()
-                        ? QStringLiteral("[aout]")
-                        : QStringLiteral("[acat];[acat]%1[aout]").arg(audioFilters);
-        parts << tail;
-        // One frame rate for the whole join, set on the output: an fps filter
-        // ahead of the join, or right behind it, makes the video longer than its audio.
-        if (video && rateAt < 0)
-            args << QStringLiteral("-r") << rate;
-        args << QStringLiteral("-filter_complex") << parts.join(QLatin1Char(';'));
-        if (video)
-            args << QStringLiteral("-map") << QStringLiteral("[vout]");
-        if (audio)
-            args << QStringLiteral("-map") << QStringLiteral("[aout]");
+        if (audio) {
+            if (layout.hasAudio && (!in.isTitle() || in.audioTrack >= 0))
+                parts << QStringLiteral(
+                             "[%1:%2]%3aresample=48000,aformat=channel_layouts=stereo[a%1]")
+                             .arg(i)
+                             .arg(audioSpec(i), audioTrim);
+            else
+                parts << QStringLiteral("anullsrc=r=48000:cl=stereo,atrim=duration=%1[a%2]")
+                             .arg(length)
+                             .arg(i);
+            concatInputs += QStringLiteral("[a%1]").arg(i);
+        }
     }
+    QString tail = QStringLiteral("%1concat=n=%2:v=%3:a=%4")
+                       .arg(concatInputs)
+                       .arg(inputs.size())
+                       .arg(video ? 1 : 0)
+                       .arg(audio ? 1 : 0);
+    if (video)
+        tail += QStringLiteral("[vout]");
+    if (audio)
+        tail += audioFilters.isEmpty()
+                    ? QStringLiteral("[aout]")
+                    : QStringLiteral("[acat];[acat]%1[aout]").arg(audioFilters);
+    parts << tail;
+    // One frame rate for the whole join, set on the output: an fps filter
+    // ahead of the join, or right behind it, makes the video longer than its audio.
+    if (video && rateAt < 0)
+        args << QStringLiteral("-r") << rate;
+    args << QStringLiteral("-filter_complex") << parts.join(QLatin1Char(';'));
+    if (video)
+        args << QStringLiteral("-map") << QStringLiteral("[vout]");
+    if (audio)
+        args << QStringLiteral("-map") << QStringLiteral("[aout]");
+    return args;
+}
 
+QStringList EncoderJob::outputTail(bool soundReady) const
+{
+    QStringList args;
     if (soundReady) {
         for (int i = 0; i < output.args.size(); ++i) {
             if (isSoundOption(output.args[i]))

@@ -38,6 +38,7 @@ struct InputLayout
     QStringList subtitleCodecs; // of a file's subtitle streams, in order
     QList<int> audioRates;      // sampling rate of a file's sound streams, in order
     double startTime = 0;       // seconds of the file's first timestamp
+    QStringList colourOptions;  // the picture's colour tags as decoder options; known ones only
 };
 
 // The encoder's argument list, parsed, and the stock ffmpeg list made of it.
@@ -61,12 +62,26 @@ struct EncoderJob
                                 const QString &soundSource = QString(),
                                 double soundLead = 0) const;
 
-    // Whether an ffmpeg of its own can encode the sound (see SoundEncoder):
+    // Whether an ffmpeg of its own can encode the sound (see SideEncoder):
     // one input with picture and sound, and no share of the processor to hold.
     bool soundApart(const QList<InputLayout> &layouts) const;
     // That ffmpeg's list: the sound of the input, read from `source` and
-    // encoded, as NUT on standard output.
-    QStringList soundArguments(const QString &source, const InputLayout &layout) const;
+    // encoded, as NUT on standard output; cut to the title's part when `cut`.
+    QStringList soundArguments(const QString &source, const InputLayout &layout,
+                               bool cut = false) const;
+
+    // Whether the picture is decoded and edited in an ffmpeg of its own and
+    // reaches the writing one raw, so that the encoder has a core of its
+    // own: one input long enough to gain, with its sound apart or none, and
+    // no share of the processor to hold.
+    bool pictureApart(const QList<InputLayout> &layouts) const;
+    // That ffmpeg's list: the picture of the input, read from `source`, cut
+    // and edited, as raw frames in NUT on standard output.
+    QStringList pictureArguments(const QString &source, const InputLayout &layout) const;
+    // The writing ffmpeg's list when the picture comes ready from
+    // `pictureSource`, and the sound, if any, from `soundSource`.
+    QStringList writerArguments(const QString &pictureSource, const InputLayout &layout,
+                                const QString &soundSource, double soundLead) const;
     // Seconds of priming the sound's encoder puts ahead of the sound. NUT
     // can't carry a start before zero, so the writing ffmpeg is told.
     double soundLead(const InputLayout &layout) const;
@@ -82,6 +97,25 @@ struct EncoderJob
     bool isPictureSeries() const;
 
 private:
+    // The picture of the only input: the inputs its graph reads besides it
+    // (numbered from `nextInput`), and the graph with its -map.
+    struct Picture
+    {
+        QStringList inputs;
+        QStringList graph;
+    };
+    Picture singlePicture(const QString &source, const InputLayout &layout, int nextInput) const;
+    // The arguments for each arrangement of the inputs, between the head and the tail.
+    QStringList singleInput(const QString &source, const InputLayout &layout,
+                            const QString &soundSource, double soundLead) const;
+    QStringList joinedInputs(const QStringList &sources, const QList<InputLayout> &layouts) const;
+    // The output's options and name; the sound copied when it comes ready.
+    QStringList outputTail(bool soundReady) const;
+    // A title's part, as output options: it arrives through a pipe, where
+    // ffmpeg can't seek.
+    QStringList titleCut() const;
+    static QStringList soundInput(const QString &source, double lead);
+
     // What the chosen encoders and container can't take, changed to the
     // nearest they can, each change a line of `notes`.
     void fitToEncoders();

@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QStandardPaths>
 
+#include <atomic>
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
@@ -18,17 +19,27 @@
 namespace {
 
 volatile sig_atomic_t childPid = -1;
-volatile sig_atomic_t companionPid = -1;
+// The ffmpegs beside it, for sound and picture; 0 for a free place.
+volatile sig_atomic_t companionPids[4] = {};
 volatile sig_atomic_t stopSignal = 0;
+std::atomic<bool> abandonedJob{false};
+
+// The child and, as the writing ffmpeg may be waiting for them, those beside
+// it. Safe in a signal handler.
+void signalAll(int signalNumber)
+{
+    if (childPid > 0)
+        ::kill(pid_t(childPid), signalNumber);
+    for (const auto &pid : companionPids) {
+        if (pid > 0)
+            ::kill(pid_t(pid), signalNumber);
+    }
+}
 
 void forwardSignal(int signalNumber)
 {
     stopSignal = signalNumber;
-    if (childPid > 0)
-        ::kill(pid_t(childPid), signalNumber);
-    // The sound's ffmpeg too: the picture's may be waiting for its sound.
-    if (companionPid > 0)
-        ::kill(pid_t(companionPid), signalNumber);
+    signalAll(signalNumber);
 }
 
 // A request that came before the child was there reaches it now.
@@ -36,6 +47,8 @@ void forwardMissed(pid_t pid)
 {
     if (stopSignal != 0 && pid > 0)
         ::kill(pid, int(stopSignal));
+    else if (abandonedJob && pid > 0)
+        ::kill(pid, SIGTERM);
 }
 
 void reportStartFailure(const char *program, int error)
@@ -177,10 +190,23 @@ int waitForChild(pid_t pid, int cpuPercent, ErrorWatch &errors, int errorFd)
 
 } // namespace
 
-void FFmpegRunner::setCompanion(pid_t pid)
+void FFmpegRunner::addCompanion(pid_t pid)
 {
-    companionPid = pid;
+    for (auto &place : companionPids) {
+        if (place == 0) {
+            place = pid;
+            break;
+        }
+    }
     forwardMissed(pid);
+}
+
+void FFmpegRunner::removeCompanion(pid_t pid)
+{
+    for (auto &place : companionPids) {
+        if (place == pid)
+            place = 0;
+    }
 }
 
 void FFmpegRunner::catchStopSignals()
@@ -190,6 +216,17 @@ void FFmpegRunner::catchStopSignals()
     sigemptyset(&action.sa_mask);
     for (int sig : {SIGINT, SIGTERM, SIGHUP})
         ::sigaction(sig, &action, nullptr);
+}
+
+void FFmpegRunner::abandon()
+{
+    abandonedJob = true;
+    signalAll(SIGTERM);
+}
+
+bool FFmpegRunner::abandoned()
+{
+    return abandonedJob;
 }
 
 int FFmpegRunner::stopRequest()

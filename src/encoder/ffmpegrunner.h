@@ -35,14 +35,19 @@ public:
     static pid_t spawn(const QString &program, const QStringList &arguments,
                        const std::vector<int> &childFds, int outputFd, int errorFd);
 
-    // Another child that our signals reach with run()'s; -1 for none.
-    static void setCompanion(pid_t pid);
+    // Other children that our signals reach with run()'s, up to four.
+    static void addCompanion(pid_t pid);
+    static void removeCompanion(pid_t pid);
 
     // From now on SIGINT, SIGTERM and SIGHUP are passed on to the children,
     // also to those started after the signal came; call before any child.
     static void catchStopSignals();
     // The signal that asked us to stop, 0 while none did.
     static int stopRequest();
+    // Ends the job: the child and those beside it are told to stop, now or
+    // as soon as they start. Safe from any thread.
+    static void abandon();
+    static bool abandoned();
 
     // Runs the program with the arguments and waits for it.
     static Result run(const QString &program, const QStringList &arguments, const Options &options);

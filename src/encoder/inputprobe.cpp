@@ -10,6 +10,11 @@
 #include <QProcess>
 #include <QStandardPaths>
 
+extern "C" {
+#include <libavformat/avformat.h>
+#include <libavutil/pixdesc.h>
+}
+
 namespace InputProbe {
 
 InputLayout layout(const QString &path, QString *error)
@@ -75,6 +80,36 @@ void addTitleLayout(InputLayout &layout, const QString &ifoPath, int pgcIndex)
         if (title->pgcIndex == pgcIndex && title->range)
             layout.duration = title->range->end - title->range->start;
     }
+}
+
+QStringList colourOptions(const QString &path, int pgc)
+{
+    TitleSelection selection;
+    selection.pgc = pgc;
+    FormatContextPtr context = openMediaInput(path, QString(), selection);
+    if (!context || ::avformat_find_stream_info(context.get(), nullptr) < 0)
+        return {};
+    const int at = ::av_find_best_stream(context.get(), AVMEDIA_TYPE_VIDEO, -1, -1, nullptr, 0);
+    if (at < 0)
+        return {};
+    const AVCodecParameters *picture = context->streams[at]->codecpar;
+    QStringList options;
+    auto add = [&options](const char *option, bool known, const char *name) {
+        if (known && name)
+            options << QLatin1Char('-') + QLatin1String(option) << QLatin1String(name);
+    };
+    add("color_range", picture->color_range != AVCOL_RANGE_UNSPECIFIED,
+        ::av_color_range_name(picture->color_range));
+    add("color_primaries",
+        picture->color_primaries != AVCOL_PRI_UNSPECIFIED
+            && picture->color_primaries != AVCOL_PRI_RESERVED0,
+        ::av_color_primaries_name(picture->color_primaries));
+    add("color_trc",
+        picture->color_trc != AVCOL_TRC_UNSPECIFIED && picture->color_trc != AVCOL_TRC_RESERVED0,
+        ::av_color_transfer_name(picture->color_trc));
+    add("colorspace", picture->color_space != AVCOL_SPC_UNSPECIFIED,
+        ::av_color_space_name(picture->color_space));
+    return options;
 }
 
 } // namespace InputProbe

@@ -12,4 +12,9 @@ InputLayout layout(const QString &path, QString *error = nullptr);
 // disc's frame rate.
 void addTitleLayout(InputLayout &layout, const QString &ifoPath, int pgcIndex);
 
+// The colour tags of the picture of the file at `path`, or of title `pgc`
+// of the DVD behind it, as options for a decoder ("-color_range tv" ...);
+// those it doesn't know are left out.
+QStringList colourOptions(const QString &path, int pgc);
+
 } // namespace InputProbe

@@ -1,7 +1,7 @@
 #include "encoderjob.h"
 #include "ffmpegrunner.h"
 #include "inputprobe.h"
-#include "soundencoder.h"
+#include "sideencoder.h"
 #include "titlefeeder.h"
 
 #include <QCoreApplication>
@@ -183,17 +183,15 @@ int main(int argc, char *argv[])
         }
     }
 
-    // A title reaches ffmpeg through a pipe of its own, as descriptor 3, 4, ...
+    // A title reaches each ffmpeg that reads it through a pipe of its own,
+    // as descriptor 3, 4, ...
     std::signal(SIGPIPE, SIG_IGN);
-    std::vector<std::unique_ptr<TitleFeeder>> feeders;
+    std::vector<std::unique_ptr<TitleFeeder>> feeders(job->inputs.size()); // none for a file
     const OutputWatch watch(job->outputPath, job->isPictureSeries());
-    FFmpegRunner::Options options;
-    options.cpuPercent = job->cpuPercent;
-    QStringList sources;
     QList<InputLayout> layouts;
-    for (const EncoderInput &input : job->inputs) {
+    for (int i = 0; i < job->inputs.size(); ++i) {
+        const EncoderInput &input = job->inputs[i];
         if (!input.isTitle()) {
-            sources << input.path;
             // Only a join of several inputs, or a subtitle to burn in, needs
             // to know what each file holds.
             const bool probed = job->inputs.size() > 1 || input.subtitle >= 0;
@@ -230,63 +228,127 @@ int main(int argc, char *argv[])
         }
         InputProbe::addTitleLayout(layout, input.path, input.pgc);
         layouts << layout;
-        sources << QStringLiteral("pipe:%1").arg(3 + options.childFds.size());
-        options.childFds.push_back(feeder->readEnd());
-        feeders.push_back(std::move(feeder));
+        feeders[i] = std::move(feeder);
     }
+    std::vector<bool> readEndTaken(feeders.size(), false);
+    // What an ffmpeg whose descriptors from 3 on are `fds` opens for input
+    // i; empty when no pipe could be made.
+    auto sourceFor = [&](int i, std::vector<int> &fds) {
+        if (!feeders[i])
+            return job->inputs[i].path;
+        const int fd = readEndTaken[i] ? feeders[i]->addReader() : feeders[i]->readEnd();
+        readEndTaken[i] = true;
+        if (fd < 0)
+            return QString();
+        fds.push_back(fd);
+        return QStringLiteral("pipe:%1").arg(2 + fds.size());
+    };
 
-    // The sound in an ffmpeg of its own where that is faster; a single file
-    // is asked what it holds only then.
-    SoundEncoder sound;
-    QString soundSource;
-    double soundLead = 0;
-    // A single file is asked what it holds: whether its sound can go apart,
-    // and how long the output must be.
+    // A single file is asked what it holds: whether its sound and picture
+    // can go apart, and how long the output must be.
     QList<InputLayout> known = layouts;
     if (job->inputs.size() == 1 && !job->inputs[0].isTitle() && job->inputs[0].subtitle < 0)
         known[0] = probe(job->inputs[0].path);
+    bool pictureApart = job->pictureApart(known);
+
+    // The sound in an ffmpeg of its own where that is faster.
+    SideEncoder sound;
+    bool soundStarted = false;
     if (job->soundApart(known)) {
-        std::vector<int> soundFds;
-        QString soundInput = job->inputs[0].path;
-        if (job->inputs[0].isTitle()) {
-            soundFds.push_back(feeders[0]->addReader());
-            soundInput = QStringLiteral("pipe:3");
-        }
-        if (soundFds.empty() || soundFds[0] >= 0) {
-            if (sound.start(FFmpegRunner::ffmpegProgram(),
-                            job->soundArguments(soundInput, known[0]), soundFds)) {
-                soundSource = QStringLiteral("pipe:%1").arg(3 + options.childFds.size());
-                options.childFds.push_back(sound.readEnd());
-                soundLead = job->soundLead(known[0]);
-            }
+        std::vector<int> fds;
+        const QString source = sourceFor(0, fds);
+        soundStarted = !source.isEmpty()
+                       && sound.start(SideEncoder::Stream::Sound, FFmpegRunner::ffmpegProgram(),
+                                      job->soundArguments(source, known[0], pictureApart), fds);
+        // Without it the writing ffmpeg must read the source for the sound.
+        pictureApart &= soundStarted;
+    }
+    // And the picture, decoded and edited, where that is faster.
+    SideEncoder picture;
+    if (pictureApart) {
+        known[0].colourOptions
+            = InputProbe::colourOptions(job->inputs[0].path, job->inputs[0].pgc);
+        std::vector<int> fds;
+        const QString source = sourceFor(0, fds);
+        pictureApart = !source.isEmpty()
+                       && picture.start(SideEncoder::Stream::Picture,
+                                        FFmpegRunner::ffmpegProgram(),
+                                        job->pictureArguments(source, known[0]), fds);
+        if (!pictureApart && soundStarted) {
+            fail(QStringLiteral("the picture's ffmpeg could not be started"));
+            return 1;
         }
     }
 
-    options.started = [&feeders, &sound] {
-        for (auto &feeder : feeders)
-            feeder->start();
-        sound.consumerStarted();
-    };
-    const auto result
-        = FFmpegRunner::run(FFmpegRunner::ffmpegProgram(),
-                            job->ffmpegArguments(sources, layouts, soundSource, soundLead), options);
-    int exitCode = result.exitCode;
-    if (!soundSource.isEmpty()) {
-        const bool failed = result.signal != 0 || exitCode != 0;
-        // Cut short when the file failed; cut short and whole look alike to
-        // the writing ffmpeg, so a sound that failed fails the file.
-        if (!sound.finish(failed) || failed) {
-            const QString errors = QString::fromLocal8Bit(sound.errors().trimmed());
-            if (failed && !errors.isEmpty()) {
-                say(QStringLiteral("sound: ") + errors);
-            } else if (!failed) {
-                fail(QStringLiteral("the sound could not be encoded")
-                     + (errors.isEmpty() ? QString() : QStringLiteral(": ") + errors));
-                exitCode = 1;
-            }
+    FFmpegRunner::Options options;
+    options.cpuPercent = job->cpuPercent;
+    QString soundSource;
+    double soundLead = 0;
+    QStringList arguments;
+    if (pictureApart) {
+        options.childFds.push_back(picture.readEnd());
+        if (soundStarted) {
+            options.childFds.push_back(sound.readEnd());
+            soundSource = QStringLiteral("pipe:4");
+            soundLead = job->soundLead(known[0]);
         }
+        arguments = job->writerArguments(QStringLiteral("pipe:3"), known[0], soundSource, soundLead);
+    } else {
+        QStringList sources;
+        for (int i = 0; i < job->inputs.size(); ++i)
+            sources << sourceFor(i, options.childFds);
+        if (sources.contains(QString())) {
+            fail(QStringLiteral("no pipe for the title could be made"));
+            return 1;
+        }
+        if (soundStarted) {
+            soundSource = QStringLiteral("pipe:%1").arg(3 + options.childFds.size());
+            options.childFds.push_back(sound.readEnd());
+            soundLead = job->soundLead(known[0]);
+        }
+        arguments = job->ffmpegArguments(sources, layouts, soundSource, soundLead);
     }
+
+    options.started = [&feeders, &sound, &picture] {
+        for (auto &feeder : feeders) {
+            if (feeder)
+                feeder->start();
+        }
+        sound.consumerStarted();
+        picture.consumerStarted();
+    };
+    auto result = FFmpegRunner::run(FFmpegRunner::ffmpegProgram(), arguments, options);
+    // Stopped by us because a side failed: no crash of its own.
+    if (FFmpegRunner::abandoned() && result.signal == SIGTERM) {
+        result.signal = 0;
+        result.exitCode = 1;
+    }
+    int exitCode = result.exitCode;
+    const bool failed = result.signal != 0 || exitCode != 0;
+    // What the ffmpegs beside the writing one say, once it has ended: their
+    // failure fails the file, whose end looks whole to the writing ffmpeg.
+    auto finishSide = [&](SideEncoder &side, bool started, const char *what, const char *failure) {
+        if (!started)
+            return;
+        const bool whole = side.finish(failed);
+        if (whole && !failed)
+            return;
+        const QString errors = QString::fromLocal8Bit(side.errors().trimmed());
+        // Where the side failed first, its failure is the reason; where the
+        // writing ffmpeg did, it is, and the side's lines tell the rest.
+        if (!whole && (!failed || (side.failedFirst() && result.signal == 0))) {
+            fail(QLatin1String(failure)
+                 + (errors.isEmpty() ? QString() : QStringLiteral(": ") + errors));
+            exitCode = qMax(exitCode, 1);
+        } else if (!errors.isEmpty()) {
+            say(QLatin1String(what) + QStringLiteral(": ") + errors);
+        }
+    };
+    finishSide(picture, pictureApart, "picture", "the picture could not be decoded and edited");
+    finishSide(sound, soundStarted, "sound", "the sound could not be encoded");
     for (auto &feeder : feeders) {
+        if (!feeder)
+            continue;
         feeder->finish();
         if (feeder->skippedBlocks() > 0)
             say(QStringLiteral("skipped %1 unreadable blocks of title %2")

@@ -106,14 +106,15 @@ const struct
      "-y -ss 0 -pgc 0 -audio_track 0 -i /d/VIDEO_TS/VTS_01_0.IFO -vf scale=640:360,"
      "pad=640:480:0:60 -b:v 1200000 -r 29.97 -vcodec mpeg4 -threads 4 -aspect 1.33333 -ab 192k "
      "-ac 2 -ar 44100 -acodec libfaac /v/Title_1.mp4",
-     "-nostdin -y -probesize 50M -f mpeg -i pipe:3 -vf bwdif=mode=send_frame:deint=interlaced,"
+     "-nostdin -y -probesize 50M -threads 1 -f mpeg -i pipe:3 -vf bwdif=mode=send_frame:deint=interlaced,"
      "scale=640:360,pad=640:480:0:60,fps=29.97 -map 0:v:0? -af aresample=async=1:first_pts=0 "
      "-map 0:i:0x80? -b:v 1200000 -r 29.97 -c:v mpeg4 -threads 4 -aspect 1.33333 -b:a 192k -ac 2 "
      "-ar 44100 -c:a aac /v/Title_1.mp4"},
     // ffmpeg can't seek in a pipe: a title's -ss and -t move behind the input.
     {"title cut on its frames, subpicture, no sound",
      "-ss 1.5 -t 2 -pgc 1 -audio_track -1 -subtitle 0 -i /d.IFO -vf scale=8:8 o.mkv",
-     "-nostdin -probesize 50M -ifo_palette /d.IFO -f mpeg -i pipe:3 -ss 1.5 -t 2 -filter_complex "
+     "-nostdin -probesize 50M -threads 1 -ifo_palette /d.IFO -f mpeg -i pipe:3 -ss 1.5 -t 2 "
+     "-filter_complex "
      "[0:v:0]bwdif=mode=send_frame:deint=interlaced[kb];[kb][0:i:0x20]overlay=format=auto,"
      "scale=8:8[vout]",
      "0:i:0x80 | 0:a"},
@@ -193,6 +194,20 @@ const struct
      "-i pipe:3 -itsoffset -0.023220 -f nut -i pipe:4 | -map 0:v:0? -map 1:a:0 | -ss 10 | -t 5 | "
      "-c:v libx264 | -c:a copy /o/out.mp4",
      "-b:a | -ar | -af | 0:i:0x80", "", "file"},
+    // With the picture apart as well: each side ffmpeg cuts its own stream, the
+    // writer only encodes the raw frames, with the source's colour tags.
+    {"picture apart, the picture's ffmpeg", apartList,
+     "-nostats -loglevel error -probesize 50M -threads 1 -f mpeg -i pipe:3 -ss 10 -t 5 -vf "
+     "bwdif=mode=send_frame:deint=interlaced,scale=480:320 -map 0:v:0? -an -sn -dn | "
+     "-c:v rawvideo -f nut pipe:1",
+     "libx264 | -b:v | out.mp4 | -threads 2", "", "picture"},
+    {"picture apart, the sound's ffmpeg", apartList,
+     "volume=2,aresample=async=1:first_pts=0 -ss 10 -t 5 | -f nut pipe:1", "scale", "",
+     "cut sound"},
+    {"picture apart, the writing ffmpeg", apartList,
+     "-nostdin -y -copyts -color_range tv -f nut -i pipe:3 -itsoffset -0.023220 -f nut -i "
+     "pipe:4 -map 0:v:0 -map 1:a:0 | -c:v libx264 | -threads 2 | -c:a copy /o/out.mp4",
+     "-ss | -t 5 | -vf | -b:a | volume | mpeg", "", "writer"},
     // Sound in an ffmpeg of its own where that is sure to pay, and never for a silent source.
     {"title with sound", "-pgc 0 -audio_track 0 -i /d.IFO -acodec libfaac /o.mp4", "apart"},
     {"title without a track", "-pgc 0 -audio_track -1 -i /d.IFO -acodec libfaac /o.mp4",
@@ -314,6 +329,20 @@ private slots:
         for (const auto &source : sources)
             QVERIFY(!make(source[0], words(source[1])).isEmpty());
         QVERIFY(!writeFile(dir.filePath(u"VTS_01_0.IFO"_s), "this is not an IFO file\n").isEmpty());
+        // A DVD title whose tone sets in at 2.5 s.
+        qputenv("VIDEO_FORMAT", "PAL");
+        QVERIFY(!make("tone.mpg", words("-f lavfi -i testsrc2=s=352x288:r=25:d=4 -f lavfi -i "
+                                        "aevalsrc=sin(2*PI*440*t)*(1+sgn(t-2.5))/2:s=48000:d=4 "
+                                        "-target pal-dvd -b:v 2000k"))
+                     .isEmpty());
+        QVERIFY2(runTool(u"dvdauthor"_s, words("-o tone-dvd -t tone.mpg"), &log, dir.path()) == 0
+                     && runTool(u"dvdauthor"_s, words("-o tone-dvd -T"), &log, dir.path()) == 0,
+                 log.constData());
+        // An ffmpeg that notes each list it runs.
+        const QString logging = writeFile(
+            dir.filePath(u"logging-ffmpeg"_s),
+            "#!/bin/sh\necho \"$*\" >> \"$(dirname \"$0\")/ffmpeg.log\"\nexec ffmpeg \"$@\"\n");
+        QVERIFY(QFile::setPermissions(logging, QFile::permissions(logging) | QFileDevice::ExeOwner));
         // An ffmpeg that can't encode sound, but writes pictures.
         const QString script
             = writeFile(dir.filePath(u"no-sound-ffmpeg"_s),
@@ -472,11 +501,16 @@ private slots:
             QVERIFY(!job->soundApart(layouts));
             return;
         }
+        layouts[0].colourOptions = words("-color_range tv");
+        const double lead = job->soundLead(layouts[0]);
         const QString joined
-            = (mode == "sound"_L1 ? job->soundArguments(sources[0], layouts[0])
-               : mode == "file"_L1
-                   ? job->ffmpegArguments(sources, layouts, u"pipe:4"_s, job->soundLead(layouts[0]))
-                   : job->ffmpegArguments(sources, layouts))
+            = (mode == "sound"_L1       ? job->soundArguments(sources[0], layouts[0])
+               : mode == "cut sound"_L1 ? job->soundArguments(sources[0], layouts[0], true)
+               : mode == "picture"_L1   ? job->pictureArguments(sources[0], layouts[0])
+               : mode == "writer"_L1
+                   ? job->writerArguments(u"pipe:3"_s, layouts[0], u"pipe:4"_s, lead)
+               : mode == "file"_L1 ? job->ffmpegArguments(sources, layouts, u"pipe:4"_s, lead)
+                                   : job->ffmpegArguments(sources, layouts))
                   .join(u' ');
         for (const QString &part : expected.split(u" | "_s))
             QVERIFY2(joined.contains(part), qPrintable(joined + u"\nlacks "_s + part));
@@ -488,6 +522,86 @@ private slots:
                                      u"^(?!option -|audio codec|video codec|flag |preset )"_s))
                                  .join(u'\n');
         QVERIFY2(fits.isEmpty() == note.isEmpty() && fits.contains(note), qPrintable(fits));
+    }
+
+    // The picture goes apart only where a third ffmpeg gains and can give the same output.
+    void pictureApartWhereItGains_data()
+    {
+        QTest::addColumn<QString>("list");
+        QTest::addColumn<double>("seconds");
+        QTest::addColumn<bool>("apart");
+        const QString x264 = u" -vf scale=480:320 -vcodec libx264 -acodec libfaac /o.mp4"_s;
+        // clang-format off
+        QTest::newRow("long title") << u"-pgc 0 -audio_track 0 -i /d.IFO"_s + x264 << 300.0 << true;
+        QTest::newRow("a few seconds") << u"-pgc 0 -audio_track 0 -i /d.IFO"_s + x264 << 4.0 << false;
+        QTest::newRow("a few seconds of a long file") << u"-ss 10 -t 5 -i /a.mkv"_s + x264 << 300.0 << false;
+        QTest::newRow("title without sound") << u"-pgc 0 -audio_track -1 -i /d.IFO"_s + x264 << 300.0 << true;
+        QTest::newRow("sound the writer must encode")
+            << u"-i /a.mkv -vcodec mpeg4 -acodec pcm_s16le /o.mov"_s << 300.0 << false;
+        QTest::newRow("share of the processor") << u"-cpu_percent 50 -i /a.mkv"_s + x264 << 300.0 << false;
+        QTest::newRow("two inputs") << u"-i /a.mkv -si -i /b.mkv"_s + x264 << 300.0 << false;
+        QTest::newRow("coded in fields")
+            << u"-i /a.mkv -flags +ilme+ildct -vcodec mpeg2video /o.mpg"_s << 300.0 << false;
+        QTest::newRow("pictures") << u"-i /a.mkv -vf scale=64:48 -r 1/5 /p/shot%03d.png"_s << 300.0 << false;
+        QTest::newRow("no picture") << u"-i /a.mkv -vn -acodec libfaac /o.m4a"_s << 300.0 << false;
+        // clang-format on
+    }
+
+    void pictureApartWhereItGains()
+    {
+        QFETCH(QString, list);
+        QFETCH(double, seconds);
+        QFETCH(bool, apart);
+        const auto job = EncoderJob::parse(words(list), nullptr);
+        QVERIFY(job);
+        QList<InputLayout> layouts(job->inputs.size());
+        for (InputLayout &layout : layouts) {
+            layout.duration = seconds;
+            layout.audioSpecifier = job->inputs[0].isTitle() ? u"i:0x80"_s : QString();
+        }
+        QCOMPARE(job->pictureApart(layouts), apart);
+    }
+
+    // Picture apart or not, the output is the same: its frames, their times,
+    // the sync of picture and sound.
+    void pictureApartGivesTheSameOutput_data()
+    {
+        QTest::addColumn<QString>("list");
+        QTest::addColumn<double>("tone");
+        const QString title = u"-pgc 0 -audio_track 0 -i %D/tone-dvd/VIDEO_TS/VTS_01_0.IFO"_s;
+        const QString x264 = u" -vf scale=320:240 -vcodec libx264 -threads 2 -ab 128k -ac 2 "
+                             "-ar 44100 -acodec libfaac"_s;
+        QTest::newRow("file, sound a second late") << u"-i %D/late-sound.mkv"_s + x264 << 2.5;
+        QTest::newRow("DVD title") << u"-ss 0 "_s + title + x264 << 2.5;
+        QTest::newRow("DVD title cut") << u"-ss 1 -t 2.6 "_s + title + x264 << 1.5;
+    }
+
+    void pictureApartGivesTheSameOutput()
+    {
+        QFETCH(QString, list);
+        QFETCH(double, tone);
+        const auto restore = qScopeGuard([] {
+            qunsetenv("KESTROVE_PICTURE_APART");
+            qunsetenv("KESTROVE_FFMPEG");
+        });
+        qputenv("KESTROVE_FFMPEG", dir.filePath(u"logging-ffmpeg"_s).toLocal8Bit());
+        QStringList outs;
+        for (const char *apart : {"0", "1"}) {
+            qputenv("KESTROVE_PICTURE_APART", apart);
+            QFile::remove(dir.filePath(u"ffmpeg.log"_s));
+            outs << dir.filePath(u"apart%1.mp4"_s.arg(QLatin1String(apart)));
+            QVERIFY2(encode(u"-y "_s + list, outs.last()) == 0, log.constData());
+            QCOMPARE(readFile(dir.filePath(u"ffmpeg.log"_s)).contains("rawvideo"), *apart == '1');
+            const auto onset = measure(u"[0:a]silencedetect=n=-40dB:d=0.3"_s, outs.last(),
+                                       "silence_end: ([0-9.]+)");
+            QVERIFY2(qAbs(onset.captured(1).toDouble() - tone) < 0.06, qPrintable(onset.captured(1)));
+        }
+        const QString frames = u"stream=nb_frames,duration"_s;
+        QCOMPARE(probe(outs[1], frames, u"v"_s), probe(outs[0], frames, u"v"_s));
+        QVERIFY(qAbs(probeDuration(outs[1], u"a"_s) - probeDuration(outs[0], u"a"_s)) < 0.03);
+        runTool(u"ffmpeg"_s, QStringList{u"-i"_s, outs[0], u"-i"_s, outs[1]} + words("-lavfi ssim -f null -"), &log);
+        const QString ssim = QRegularExpression(u"All:([0-9.]+)"_s).match(QString::fromUtf8(log)).captured(1);
+        QVERIFY2(ssim.toDouble() > 0.9995, log.constData());
     }
 
     // Real conversions through kestrove-encoder. The checks: v= and a= the streams' length,
@@ -708,25 +822,46 @@ private slots:
                  log.constData());
     }
 
-    void terminationEndsBothEncoders()
+    // Whichever of the front and its three ffmpegs (picture, sound, writer) ends
+    // before its time, the others end too, the job fails and leaves no file.
+    void anyEndEndsAll_data()
     {
-        const QString out = dir.filePath(u"terminated.mp4"_s);
+        QTest::addColumn<QByteArray>("killed"); // what its list holds; empty: the front
+        QTest::newRow("front stopped") << QByteArray();
+        QTest::newRow("picture's ffmpeg killed") << QByteArray("rawvideo");
+        QTest::newRow("sound's ffmpeg killed") << QByteArray("-vn");
+        QTest::newRow("writing ffmpeg killed") << QByteArray("-copyts");
+    }
+
+    void anyEndEndsAll()
+    {
+        QFETCH(QByteArray, killed);
+        const QString out = dir.filePath(u"ended.mp4"_s);
+        // Each ffmpeg reads at the pace the source plays, so all three run for its thirty seconds.
         QProcess running;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"KESTROVE_FFMPEG"_s, writePacedFfmpeg(dir.path()));
+        running.setProcessEnvironment(environment);
         running.start(encoderPath(),
-                      expand(u"-y -i %D/long.mkv -vf scale=1280:960 -vcodec libx264 -preset slow "
-                             "-ab 128k -acodec libfaac"_s)
+                      expand(u"-y -i %D/long.mkv -vf scale=320:240 -vcodec libx264 -ab 128k "
+                             "-acodec libfaac"_s)
                           << out);
         QVERIFY(running.waitForStarted());
-        // Picture and sound each in an ffmpeg of its own.
-        QTRY_COMPARE_WITH_TIMEOUT(childrenNamed(running.processId(), "ffmpeg").size(), 2, 20000);
+        QTRY_COMPARE_WITH_TIMEOUT(childrenNamed(running.processId(), "ffmpeg").size(), 3, 20000);
         const QList<qint64> encoders = childrenNamed(running.processId(), "ffmpeg");
         QTest::qWait(500);
-        ::kill(pid_t(running.processId()), SIGTERM);
+        qint64 victim = running.processId();
+        for (const qint64 pid : encoders) {
+            QFile list(u"/proc/%1/cmdline"_s.arg(pid));
+            if (!killed.isEmpty() && list.open(QIODevice::ReadOnly) && list.readAll().contains(killed))
+                victim = pid;
+        }
+        QVERIFY(killed.isEmpty() || victim != running.processId());
+        ::kill(pid_t(victim), killed.isEmpty() ? SIGTERM : SIGKILL);
         QVERIFY(running.waitForFinished(15000));
         QVERIFY(running.exitStatus() != QProcess::NormalExit || running.exitCode() != 0);
         for (const qint64 pid : encoders)
-            QTRY_VERIFY2_WITH_TIMEOUT(QByteArray("?Z").contains(processState(pid)),
-                                      qPrintable(QString::number(pid)), 5000);
+            QTRY_VERIFY2_WITH_TIMEOUT(processEnded(pid), qPrintable(QString::number(pid)), 5000);
         QVERIFY(!QFile::exists(out));
     }
 

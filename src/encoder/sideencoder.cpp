@@ -1,4 +1,4 @@
-#include "soundencoder.h"
+#include "sideencoder.h"
 
 #include "bytequeue.h"
 #include "ffmpegrunner.h"
@@ -31,81 +31,92 @@ void setNonBlocking(int fd)
 
 } // namespace
 
-SoundEncoder::~SoundEncoder()
+SideEncoder::~SideEncoder()
 {
     if (pid > 0)
         finish(true);
     closeFd(consumerRead);
 }
 
-bool SoundEncoder::start(const QString &program, const QStringList &arguments,
-                         const std::vector<int> &childFds)
+bool SideEncoder::start(Stream stream, const QString &program, const QStringList &arguments,
+                        const std::vector<int> &childFds)
 {
-    int output[2], errors[2], consumer[2];
+    int output[2], errors[2];
     if (::pipe2(output, O_CLOEXEC) != 0)
         return false;
-    if (::pipe2(errors, O_CLOEXEC) != 0 || ::pipe2(consumer, O_CLOEXEC) != 0) {
+    if (::pipe2(errors, O_CLOEXEC) != 0) {
         ::close(output[0]);
         ::close(output[1]);
         return false;
     }
+    if (stream == Stream::Picture) {
+        // Raw frames are large: a pipe of a few frames lets both sides run
+        // without waiting for each other at every one.
+        ::fcntl(output[1], F_SETPIPE_SZ, 1 << 20);
+        consumerRead = output[0];
+    } else {
+        int consumer[2];
+        if (::pipe2(consumer, O_CLOEXEC) != 0) {
+            for (int fd : {output[0], output[1], errors[0], errors[1]})
+                ::close(fd);
+            return false;
+        }
+        streamOut = output[0];
+        consumerRead = consumer[0];
+        consumerWrite = consumer[1];
+    }
     pid = FFmpegRunner::spawn(program, arguments, childFds, output[1], errors[1]);
     ::close(output[1]);
     ::close(errors[1]);
-    soundOut = output[0];
-    soundErrors = errors[0];
-    consumerRead = consumer[0];
-    consumerWrite = consumer[1];
+    streamErrors = errors[0];
     if (pid < 0) {
-        closeFd(soundOut);
-        closeFd(soundErrors);
+        closeFd(streamOut);
+        closeFd(streamErrors);
         closeFd(consumerWrite);
         return false;
     }
-    FFmpegRunner::setCompanion(pid);
+    FFmpegRunner::addCompanion(pid);
     worker = std::thread([this] { relay(); });
     return true;
 }
 
-void SoundEncoder::consumerStarted()
+void SideEncoder::consumerStarted()
 {
     closeFd(consumerRead);
 }
 
-bool SoundEncoder::finish(bool stop)
+bool SideEncoder::finish(bool stop)
 {
     if (pid <= 0)
         return false;
-    if (stop)
+    if (stop) {
+        stopping = true;
         ::kill(pid, SIGTERM);
+    }
     if (worker.joinable())
         worker.join();
-    int status = 0;
-    while (::waitpid(pid, &status, 0) < 0 && errno == EINTR) {
-    }
-    FFmpegRunner::setCompanion(-1);
     pid = -1;
     return consumerClosed || (WIFEXITED(status) && WEXITSTATUS(status) == 0);
 }
 
-void SoundEncoder::relay()
+void SideEncoder::relay()
 {
-    setNonBlocking(soundOut);
-    setNonBlocking(soundErrors);
+    setNonBlocking(streamOut);
+    setNonBlocking(streamErrors);
     setNonBlocking(consumerWrite);
     ByteQueue queue(8 << 20);
     char buffer[64 * 1024];
-    while (soundOut >= 0 || soundErrors >= 0 || (consumerWrite >= 0 && !queue.empty())) {
+    while (streamOut >= 0 || streamErrors >= 0 || (consumerWrite >= 0 && !queue.empty())) {
         pollfd fds[3];
         nfds_t count = 0;
         int outAt = -1, errorsAt = -1, consumerAt = -1;
-        if (soundOut >= 0) {
+        if (streamOut >= 0) {
             outAt = int(count);
-            fds[count++] = {soundOut, POLLIN, 0};
+            fds[count++] = {streamOut, POLLIN, 0};
         }
-        if (soundErrors >= 0) {
+        if (streamErrors >= 0) {
             errorsAt = int(count);
-            fds[count++] = {soundErrors, POLLIN, 0};
+            fds[count++] = {streamErrors, POLLIN, 0};
         }
         if (consumerWrite >= 0 && !queue.empty()) {
             consumerAt = int(count);
@@ -117,18 +128,18 @@ void SoundEncoder::relay()
             break;
         }
         if (outAt >= 0 && fds[outAt].revents) {
-            const ssize_t got = ::read(soundOut, buffer, sizeof buffer);
+            const ssize_t got = ::read(streamOut, buffer, sizeof buffer);
             if (got > 0)
                 queue.append(buffer, got);
             else if (got == 0 || (errno != EINTR && errno != EAGAIN))
-                closeFd(soundOut);
+                closeFd(streamOut);
         }
         if (errorsAt >= 0 && fds[errorsAt].revents) {
-            const ssize_t got = ::read(soundErrors, buffer, sizeof buffer);
+            const ssize_t got = ::read(streamErrors, buffer, sizeof buffer);
             if (got > 0)
                 errorText = (errorText + QByteArray(buffer, int(got))).right(4096);
             else if (got == 0 || (errno != EINTR && errno != EAGAIN))
-                closeFd(soundErrors);
+                closeFd(streamErrors);
         }
         if (consumerAt >= 0 && fds[consumerAt].revents) {
             const QByteArray next = queue.next();
@@ -137,20 +148,30 @@ void SoundEncoder::relay()
                 queue.consume(sent);
             } else if (sent < 0 && errno != EINTR && errno != EAGAIN) {
                 // The writing ffmpeg has all it wants, or has ended: the
-                // sound ffmpeg need not go on.
+                // sound's ffmpeg need not go on.
                 consumerClosed = true;
                 closeFd(consumerWrite);
-                closeFd(soundOut);
+                closeFd(streamOut);
                 queue.clear();
             }
         }
     }
-    closeFd(soundOut);
-    closeFd(soundErrors);
+    closeFd(streamOut);
+    closeFd(streamErrors);
     closeFd(consumerWrite);
+    while (::waitpid(pid, &status, 0) < 0 && errno == EINTR) {
+    }
+    FFmpegRunner::removeCompanion(pid);
+    // A side that fails on its own leaves the writing ffmpeg with a stream
+    // that looks ended: stop the job now rather than when the rest is done.
+    const bool failed = !WIFEXITED(status) || WEXITSTATUS(status) != 0;
+    if (failed && !stopping && !consumerClosed) {
+        endedEarly = true;
+        FFmpegRunner::abandon();
+    }
 }
 
-int SoundEncoder::primingSamples(const QString &encoder, int sampleRate, int channels,
+int SideEncoder::primingSamples(const QString &encoder, int sampleRate, int channels,
                                  qint64 bitRate, double quality)
 {
     const AVCodec *codec = ::avcodec_find_encoder_by_name(encoder.toUtf8().constData());
@@ -169,7 +190,8 @@ int SoundEncoder::primingSamples(const QString &encoder, int sampleRate, int cha
     const int level = ::av_log_get_level();
     ::av_log_set_level(AV_LOG_QUIET);
     const int padding = ::avcodec_open2(context, codec, nullptr) == 0 ? context->initial_padding : 0;
-    ::av_log_set_level(level);
+    // Closing speaks too (the AAC encoder's "Qavg: nan").
     ::avcodec_free_context(&context);
+    ::av_log_set_level(level);
     return padding;
 }
