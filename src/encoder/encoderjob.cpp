@@ -830,80 +830,25 @@ QStringList EncoderJob::singleInput(const QString &source, const InputLayout &la
 QStringList EncoderJob::joinedInputs(const QStringList &sources,
                                      const QList<InputLayout> &layouts) const
 {
+    // Several inputs follow each other in one output.
     QStringList args;
     for (int i = 0; i < inputs.size(); ++i)
         args << inputArguments(i, sources.value(i));
-    const QString audioFilters = output.audioFilters.join(QLatin1Char(','));
-    auto audioSpec = [&](int i) {
-        return audioSpecifier(i, layouts.value(i));
-    };
     const bool video = wantsVideo();
     const bool audio = wantsAudio();
-    // Several inputs follow each other in one output.
-    QStringList parts;
-    QString concatInputs;
-    const QString size = outputSizeOf(inputs.first().videoChain);
     // The joined video gets the output's frame rate, else the first input's.
     const int rateAt = output.args.indexOf(QStringLiteral("-r"));
     QString rate = rateAt >= 0 ? output.args.value(rateAt + 1) : layouts.value(0).frameRate;
     if (rate.isEmpty() || rate == QLatin1String("0/0"))
         rate = QStringLiteral("25");
+    QStringList parts;
+    QString concatInputs;
     for (int i = 0; i < inputs.size(); ++i) {
-        const EncoderInput &in = inputs[i];
-        const InputLayout layout = layouts.value(i);
-        const QString length
-            = QString::number(layout.duration > 0 ? layout.duration : 1, 'g', 10);
-        QString videoTrim, audioTrim;
-        if (in.isTitle() && (in.titleStart.toDouble() > 0 || !in.titleLength.isEmpty())) {
-            QString range = QStringLiteral("start=%1").arg(in.titleStart.toDouble());
-            if (!in.titleLength.isEmpty())
-                range += QStringLiteral(":duration=%1").arg(in.titleLength);
-            videoTrim
-                = QStringLiteral("setpts=PTS-STARTPTS,trim=%1,setpts=PTS-STARTPTS").arg(range);
-            audioTrim = QStringLiteral("asetpts=PTS-STARTPTS,atrim=%1,asetpts=PTS-STARTPTS,")
-                            .arg(range);
-        }
-        if (video) {
-            if (layout.hasVideo) {
-                const QString graph
-                    = FilterTranslator::translate(in.videoChain, QStringLiteral("i%1").arg(i))
-                          .graph;
-                const QString source = sourceFilters(i, layout);
-                const QString subpicture = subpictureStream(i, layout);
-                // A title's subpicture goes on before its trim, which moves the frames' time.
-                const QString rest = joinFilters(
-                    {videoTrim, graph, QStringLiteral("setsar=1,format=yuv420p")});
-                if (subpicture.isEmpty())
-                    parts << QStringLiteral("[%1:v:0]%2[v%1]")
-                                 .arg(i)
-                                 .arg(joinFilters({source, rest}));
-                else
-                    parts << QStringLiteral("[%1:v:0]%2[kb%1]")
-                                 .arg(i)
-                                 .arg(source.isEmpty() ? QStringLiteral("null") : source)
-                          << QStringLiteral("[kb%1][%1:%2]overlay=format=auto,%3[v%1]")
-                                 .arg(i)
-                                 .arg(subpicture, rest);
-            } else {
-                parts << QStringLiteral(
-                             "color=c=black:s=%1:r=%2:d=%3,setsar=1,format=yuv420p[v%4]")
-                             .arg(size, rate, length)
-                             .arg(i);
-            }
+        parts << joinedPart(i, layouts.value(i), rate);
+        if (video)
             concatInputs += QStringLiteral("[v%1]").arg(i);
-        }
-        if (audio) {
-            if (layout.hasAudio && (!in.isTitle() || in.audioTrack >= 0))
-                parts << QStringLiteral(
-                             "[%1:%2]%3aresample=48000,aformat=channel_layouts=stereo[a%1]")
-                             .arg(i)
-                             .arg(audioSpec(i), audioTrim);
-            else
-                parts << QStringLiteral("anullsrc=r=48000:cl=stereo,atrim=duration=%1[a%2]")
-                             .arg(length)
-                             .arg(i);
+        if (audio)
             concatInputs += QStringLiteral("[a%1]").arg(i);
-        }
     }
     QString tail = QStringLiteral("%1concat=n=%2:v=%3:a=%4")
                        .arg(concatInputs)
@@ -912,6 +857,7 @@ QStringList EncoderJob::joinedInputs(const QStringList &sources,
                        .arg(audio ? 1 : 0);
     if (video)
         tail += QStringLiteral("[vout]");
+    const QString audioFilters = output.audioFilters.join(QLatin1Char(','));
     if (audio)
         tail += audioFilters.isEmpty()
                     ? QStringLiteral("[aout]")
@@ -927,6 +873,54 @@ QStringList EncoderJob::joinedInputs(const QStringList &sources,
     if (audio)
         args << QStringLiteral("-map") << QStringLiteral("[aout]");
     return args;
+}
+
+QStringList EncoderJob::joinedPart(int i, const InputLayout &layout, const QString &rate) const
+{
+    QStringList parts;
+    const EncoderInput &in = inputs[i];
+    const QString length = QString::number(layout.duration > 0 ? layout.duration : 1, 'g', 10);
+    QString videoTrim, audioTrim;
+    if (in.isTitle() && (in.titleStart.toDouble() > 0 || !in.titleLength.isEmpty())) {
+        QString range = QStringLiteral("start=%1").arg(in.titleStart.toDouble());
+        if (!in.titleLength.isEmpty())
+            range += QStringLiteral(":duration=%1").arg(in.titleLength);
+        videoTrim = QStringLiteral("setpts=PTS-STARTPTS,trim=%1,setpts=PTS-STARTPTS").arg(range);
+        audioTrim
+            = QStringLiteral("asetpts=PTS-STARTPTS,atrim=%1,asetpts=PTS-STARTPTS,").arg(range);
+    }
+    if (wantsVideo() && layout.hasVideo) {
+        const QString graph
+            = FilterTranslator::translate(in.videoChain, QStringLiteral("i%1").arg(i)).graph;
+        const QString source = sourceFilters(i, layout);
+        const QString subpicture = subpictureStream(i, layout);
+        // A title's subpicture goes on before its trim, which moves the frames' time.
+        const QString rest
+            = joinFilters({videoTrim, graph, QStringLiteral("setsar=1,format=yuv420p")});
+        if (subpicture.isEmpty())
+            parts << QStringLiteral("[%1:v:0]%2[v%1]").arg(i).arg(joinFilters({source, rest}));
+        else
+            parts << QStringLiteral("[%1:v:0]%2[kb%1]")
+                         .arg(i)
+                         .arg(source.isEmpty() ? QStringLiteral("null") : source)
+                  << QStringLiteral("[kb%1][%1:%2]overlay=format=auto,%3[v%1]")
+                         .arg(i)
+                         .arg(subpicture, rest);
+    } else if (wantsVideo()) {
+        const QString size = outputSizeOf(inputs.first().videoChain);
+        parts << QStringLiteral("color=c=black:s=%1:r=%2:d=%3,setsar=1,format=yuv420p[v%4]")
+                     .arg(size, rate, length)
+                     .arg(i);
+    }
+    if (wantsAudio() && layout.hasAudio && (!in.isTitle() || in.audioTrack >= 0))
+        parts << QStringLiteral("[%1:%2]%3aresample=48000,aformat=channel_layouts=stereo[a%1]")
+                     .arg(i)
+                     .arg(audioSpecifier(i, layout), audioTrim);
+    else if (wantsAudio())
+        parts << QStringLiteral("anullsrc=r=48000:cl=stereo,atrim=duration=%1[a%2]")
+                     .arg(length)
+                     .arg(i);
+    return parts;
 }
 
 QStringList EncoderJob::outputTail(bool soundReady) const

@@ -109,6 +109,8 @@ private:
     QStringList singleInput(const QString &source, const InputLayout &layout,
                             const QString &soundSource, double soundLead) const;
     QStringList joinedInputs(const QStringList &sources, const QList<InputLayout> &layouts) const;
+    // Input i's share of the join's graph: [v<i>] and [a<i>], at the join's rate.
+    QStringList joinedPart(int i, const InputLayout &layout, const QString &rate) const;
     // The output's options and name; the sound copied when it comes ready.
     QStringList outputTail(bool soundReady) const;
     // A title's part, as output options: it arrives through a pipe, where
