@@ -568,9 +568,7 @@ QString EncoderJob::soundTimeline()
 QStringList EncoderJob::soundArguments(const QString &source, const InputLayout &layout,
                                        bool cut) const
 {
-    // Quiet: the status lines that report progress come from the other ffmpeg.
-    QStringList args{QStringLiteral("-nostdin"), QStringLiteral("-nostats"),
-                     QStringLiteral("-loglevel"), QStringLiteral("error")};
+    QStringList args = quietHead();
     args << inputArguments(0, source) << QStringLiteral("-map")
          << QStringLiteral("0:%1").arg(audioSpecifier(0, layout)) << QStringLiteral("-vn")
          << QStringLiteral("-sn") << QStringLiteral("-dn");
@@ -657,8 +655,7 @@ QStringList EncoderJob::ffmpegArguments(const QStringList &sources,
 
 QStringList EncoderJob::pictureArguments(const QString &source, const InputLayout &layout) const
 {
-    QStringList args{QStringLiteral("-nostdin"), QStringLiteral("-nostats"),
-                     QStringLiteral("-loglevel"), QStringLiteral("error")};
+    QStringList args = quietHead();
     args << inputArguments(0, source);
     const Picture picture = singlePicture(source, layout, 1);
     args << picture.inputs << titleCut() << picture.graph << QStringLiteral("-an")
@@ -716,6 +713,13 @@ bool EncoderJob::pictureApart(const QList<InputLayout> &layouts) const
     // Below this a third process costs more than it gains.
     constexpr double shortest = 10.0;
     return wanted == "1" || expectedLength(layouts) >= shortest;
+}
+
+QStringList EncoderJob::quietHead()
+{
+    // The status lines that report progress come from the writing ffmpeg.
+    return {QStringLiteral("-nostdin"), QStringLiteral("-nostats"), QStringLiteral("-loglevel"),
+            QStringLiteral("error")};
 }
 
 QStringList EncoderJob::titleCut() const

@@ -117,6 +117,8 @@ private:
     // ffmpeg can't seek.
     QStringList titleCut() const;
     static QStringList soundInput(const QString &source, double lead);
+    // The head of a side ffmpeg's list, which writes no status lines.
+    static QStringList quietHead();
 
     // What the chosen encoders and container can't take, changed to the
     // nearest they can, each change a line of `notes`.

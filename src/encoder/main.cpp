@@ -283,14 +283,13 @@ int main(int argc, char *argv[])
     FFmpegRunner::Options options;
     options.cpuPercent = job->cpuPercent;
     QString soundSource;
-    double soundLead = 0;
+    const double soundLead = soundStarted ? job->soundLead(known[0]) : 0.0;
     QStringList arguments;
     if (pictureApart) {
         options.childFds.push_back(picture.readEnd());
         if (soundStarted) {
             options.childFds.push_back(sound.readEnd());
             soundSource = QStringLiteral("pipe:4");
-            soundLead = job->soundLead(known[0]);
         }
         arguments = job->writerArguments(QStringLiteral("pipe:3"), known[0], soundSource, soundLead);
     } else {
@@ -304,7 +303,6 @@ int main(int argc, char *argv[])
         if (soundStarted) {
             soundSource = QStringLiteral("pipe:%1").arg(3 + options.childFds.size());
             options.childFds.push_back(sound.readEnd());
-            soundLead = job->soundLead(known[0]);
         }
         arguments = job->ffmpegArguments(sources, layouts, soundSource, soundLead);
     }
